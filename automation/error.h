@@ -1,0 +1,46 @@
+#pragma once
+
+// The errors that a caller of the component can see. Every failure, wherever it arises, is one
+// AutomationError that carries the automation runtime's error number; hosts turn it into what their callers
+// expect. Raising one allocates nothing, so that OutOfMemory can be reported too.
+
+#include <cstdint>
+#include <exception>
+#include <string_view>
+
+namespace amortix2 {
+
+enum class ErrorNumber : std::int32_t {
+  InvalidProcedureCall = 5,
+  Overflow = 6,
+  OutOfMemory = 7,
+  SubscriptOutOfRange = 9,
+  DivisionByZero = 11,
+  TypeMismatch = 13,
+  FileNotFound = 53,
+  PathFileAccess = 75,
+  PathNotFound = 76,
+  ObjectNotSet = 91,
+  NoSuchMember = 438,
+  ArgumentNotOptional = 449,
+};
+
+/// The number's name as it stands in the enumeration ("Overflow"); "Unknown" for any other value.
+std::string_view ErrorName(ErrorNumber number) noexcept;
+
+/// One plain sentence for a person ("A number became too large for its type.").
+std::string_view ErrorDescription(ErrorNumber number) noexcept;
+
+class AutomationError : public std::exception {
+ public:
+  explicit AutomationError(ErrorNumber number) noexcept : number_(number) {}
+  ErrorNumber Number() const noexcept { return number_; }
+  const char* what() const noexcept override { return ErrorName(number_).data(); }
+
+ private:
+  ErrorNumber number_;
+};
+
+[[noreturn]] void Raise(ErrorNumber number);
+
+}  // namespace amortix2
