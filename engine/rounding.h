@@ -1,0 +1,57 @@
+#pragma once
+
+// How amounts and rates are rounded, and the guards that keep infinities and NaN out of every result. A half
+// rounds up, also below zero (-2.345 gives -2.34), and it is the exact value of the double that counts: 2.675
+// lies just below its half and gives 2.67.
+
+#include <cmath>
+#include <cstdint>
+
+#include "automation/error.h"
+
+namespace amortix2 {
+
+namespace rounding {
+
+/// floor(scale * x + 1/2) / scale for the values that the quick path leaves: |scale * x| of 2^52 and above,
+/// and what is not finite. Raises Overflow.
+double RoundLarge(double x, double scale);
+
+/// True when the exact product scale * x lies below `half`, its rounded neighbour.
+inline bool LiesBelow(double x, double scale, double half) { return std::fma(x, scale, -half) < 0; }
+
+/// floor(scale * x + 1/2) / scale. Rounding to nearest is monotonic, so the double sum can differ from the
+/// exact one only where it comes out as a whole number; only there is the exact side looked at.
+inline double RoundTo(double x, double scale) {
+  constexpr double kExactHalves = 4503599627370496.0;  // 2^52: below it, whole numbers less 1/2 are doubles
+  const double raised = x * scale + 0.5;
+  if (!(raised > -kExactHalves && raised < kExactHalves)) return RoundLarge(x, scale);
+  // By way of 64 bits because std::floor is a library call on baseline x86-64.
+  double whole = static_cast<double>(static_cast<std::int64_t>(raised));
+  if (whole > raised) whole -= 1;
+  if (whole == raised && LiesBelow(x, scale, whole - 0.5)) whole -= 1;
+  return whole / scale;
+}
+
+}  // namespace rounding
+
+/// To cents, halves up. Raises Overflow for an infinity or NaN.
+inline double RoundToCents(double x) { return rounding::RoundTo(x, 100); }
+
+/// To three decimals, halves up; for rates. Raises Overflow for an infinity or NaN.
+inline double RoundToMills(double x) { return rounding::RoundTo(x, 1000); }
+
+/// `x` itself. Raises Overflow when it is infinite or not a number.
+inline double Finite(double x) {
+  if (!std::isfinite(x)) Raise(ErrorNumber::Overflow);
+  return x;
+}
+
+/// a / b. Raises DivisionByZero for a non-zero number over 0, Overflow for 0 / 0 and for a quotient that is
+/// too large.
+inline double Divide(double a, double b) {
+  if (b == 0 && a != 0 && !std::isnan(a)) Raise(ErrorNumber::DivisionByZero);
+  return Finite(a / b);
+}
+
+}  // namespace amortix2

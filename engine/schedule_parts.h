@@ -1,0 +1,85 @@
+#pragma once
+
+// What monthly and bi-weekly schedules have in common: the opening line, the cut of a last payment, and the
+// totals with their present values.
+
+#include "engine/records.h"
+#include "engine/rounding.h"
+
+namespace amortix2 {
+
+/// Line 0: points, interim interest for the days before the start (simple interest on a year of 360 days) and
+/// fees, all paid at once. Fees are not deductible.
+tSchedule OpeningLine(const tLoanDesc& loan);
+
+/// A balance and the payment that works on it.
+struct RunningLoan {
+  double balance;
+  double payment;  ///< falls to what is owed with the last payment, and to 0 after it
+  double taxFraction;
+
+  /// Writes a line from the balance after interest. A payment that exceeds it is cut.
+  void Pay(tSchedule& line, double grownBalance, double interest) {
+    line.startingBalance = balance;
+    line.intCharged = interest;
+    line.taxCredited = taxFraction * interest;
+    balance = grownBalance - payment;
+    if (balance < 0) {
+      payment += balance;
+      balance = 0;
+    }
+    line.payment = payment;
+    line.endingBalance = balance;
+  }
+};
+
+/// Sums lines into a loan's totals and present values, which Store writes.
+class CostTotals {
+ public:
+  explicit CostTotals(const tCreditQualification& qualification)
+      : qualification_(qualification),
+        charges_(qualification.insuranceCharge + qualification.associationDues +
+                 qualification.otherMonthlyLoanCharge),
+        costPV_(qualification.downPaymentAmount) {}
+
+  /// A line's own amounts, discounted by `discount`.
+  void AddLine(const tSchedule& line, double discount) {
+    interest_ += line.intCharged;
+    taxCredited_ += line.taxCredited;
+    payments_ += line.payment;
+    costPV_ += Divide(line.payment - line.taxCredited, discount);
+  }
+
+  /// The home's charges of `months` months, the property tax grown by `homeGrowth`.
+  void AddCharges(double discount, double homeGrowth, double months = 1) {
+    if (charges_ != 0) costPV_ += Divide(months * charges_, discount);
+    if (qualification_.propertyTaxCharge != 0) {
+      costPV_ += Divide(months * RoundToCents(homeGrowth * qualification_.propertyTaxCharge), discount);
+    }
+  }
+
+  /// A lease's closing line: interest and tax only.
+  void AddInterest(const tSchedule& line) {
+    interest_ += line.intCharged;
+    taxCredited_ += line.taxCredited;
+  }
+
+  /// The sale: the balance still owed is paid off and the home has its value. Present values are `growth` /
+  /// `discount` of the amounts.
+  void Sell(const tLoanDesc& loan, double balanceOwed, double homeGrowth, double growth, double discount);
+
+  /// Writes the totals. Raises Overflow when one is not finite.
+  void Store(tLoanDesc& loan) const;
+
+ private:
+  const tCreditQualification& qualification_;
+  double charges_;
+  double costPV_;
+  double interest_ = 0;
+  double taxCredited_ = 0;
+  double payments_ = 0;
+  double balanceOwedPV_ = 0;
+  double valuePV_ = 0;
+};
+
+}  // namespace amortix2
