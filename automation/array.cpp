@@ -14,9 +14,9 @@ std::size_t CellCount(Bounds rows, Bounds columns) {
   return static_cast<std::size_t>(rows.Count() * columns.Count());
 }
 
-std::vector<Variant> EmptyCells(std::size_t count) {
+void ResizeCells(std::vector<Variant>& cells, std::size_t count) {
   try {
-    return std::vector<Variant>(count);
+    cells.resize(count);
   } catch (const std::bad_alloc&) {
     Raise(ErrorNumber::OutOfMemory);
   }
@@ -24,11 +24,19 @@ std::vector<Variant> EmptyCells(std::size_t count) {
 
 }  // namespace
 
-Array::Array(Bounds elements)
-    : rank_(1), rows_(elements), cells_(EmptyCells(CellCount(elements, columns_))) {}
+Array::Array(Bounds elements) : rank_(1), rows_(elements) { ResizeCells(cells_, CellCount(rows_, columns_)); }
 
-Array::Array(Bounds rows, Bounds columns)
-    : rank_(2), rows_(rows), columns_(columns), cells_(EmptyCells(CellCount(rows, columns))) {}
+Array::Array(Bounds rows, Bounds columns) : rank_(2), rows_(rows), columns_(columns) {
+  ResizeCells(cells_, CellCount(rows_, columns_));
+}
+
+Array& Array::operator=(Array other) noexcept {
+  std::swap(rank_, other.rank_);
+  std::swap(rows_, other.rows_);
+  std::swap(columns_, other.columns_);
+  cells_.swap(other.cells_);
+  return *this;
+}
 
 Bounds Array::Dimension(int dimension) const {
   if (dimension < 1 || dimension > rank_) Raise(ErrorNumber::SubscriptOutOfRange);
@@ -37,7 +45,7 @@ Bounds Array::Dimension(int dimension) const {
 
 void Array::Resize(std::int32_t upper) {
   if (rank_ != 1) Raise(ErrorNumber::SubscriptOutOfRange);
-  cells_.resize(CellCount({rows_.lower, upper}, columns_));
+  ResizeCells(cells_, CellCount({rows_.lower, upper}, columns_));
   rows_.upper = upper;
 }
 

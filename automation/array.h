@@ -6,7 +6,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "automation/error.h"
@@ -34,6 +36,17 @@ class Array {
   explicit Array(Bounds elements);
   Array(Bounds rows, Bounds columns);
 
+  Array(const Array& other) = default;
+  /// Leaves no rows behind.
+  Array(Array&& other) noexcept
+      : rank_(other.rank_),
+        rows_(std::exchange(other.rows_, {})),
+        columns_(other.columns_),
+        cells_(std::move(other.cells_)) {}
+  // By value: the other array may lie in a cell of this one.
+  Array& operator=(Array other) noexcept;
+  ~Array() = default;
+
   int Rank() const noexcept { return rank_; }
 
   /// Bounds of a dimension, 1 or 2 (2 only with two dimensions). Raises SubscriptOutOfRange.
@@ -50,7 +63,8 @@ class Array {
   std::span<Variant> Cells() noexcept { return cells_; }
   std::span<const Variant> Cells() const noexcept { return cells_; }
 
-  /// Changes the upper bound of a one-dimensional array, keeping the cells that remain.
+  /// Changes the upper bound of a one-dimensional array, keeping the cells that remain. Raises as the
+  /// constructor does, and SubscriptOutOfRange with two dimensions; the array is then as before.
   void Resize(std::int32_t upper);
 
   friend bool operator==(const Array&, const Array&) = default;
@@ -81,7 +95,11 @@ class RecordArray {
     const std::int64_t count = Bounds{lower, upper}.Count();
     if (count < 0) Raise(ErrorNumber::SubscriptOutOfRange);
     if (count > kLargestArray) Raise(ErrorNumber::OutOfMemory);
-    records_.resize(static_cast<std::size_t>(count));
+    try {
+      records_.resize(static_cast<std::size_t>(count));
+    } catch (const std::bad_alloc&) {
+      Raise(ErrorNumber::OutOfMemory);
+    }
   }
 
   std::int32_t Lower() const noexcept { return lower_; }

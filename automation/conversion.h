@@ -13,7 +13,8 @@
 namespace amortix2 {
 
 /// The value of a variant as a double: Boolean (True is -1), Byte, Integer, Long, Double, Currency, and text
-/// that ParseNumber reads. 0 for everything else (Empty, Null, Missing, Date, other text, arrays).
+/// that ParseNumber reads. 0 for everything else (Empty, Null, Missing, Date, other text, arrays, and a
+/// Double that is infinite or no number).
 double NumericOrZero(const Variant& value);
 
 /// True for the types that NumericOrZero reads, for text that ParseNumber reads, and for Empty.
@@ -24,8 +25,9 @@ bool IsNumeric(const Variant& value);
 double ToDouble(const Variant& value);
 
 /// Numeric text: surrounding blanks, a leading or trailing sign, parentheses for a negative, a "$", "," as
-/// thousands separator, "." as decimal point, an exponent with e, E, d or D, and "&H"/"&O" integers. Nothing
-/// when the text is no such number or leaves the range of doubles.
+/// thousands separator, "." as decimal point, an exponent with e, E, d or D, and "&H"/"&O" integers, which
+/// are the bits of an Integer or a Long ("&HFFFF" is -1). Nothing when the text is no such number or leaves
+/// the range of doubles.
 std::optional<double> ParseNumber(std::string_view text);
 
 /// True for a Date and for text that ParseDate reads. A number is not a date.
@@ -37,7 +39,8 @@ bool IsDate(const Variant& value);
 Date ToDate(const Variant& value);
 
 /// Date text: "1/31/2001", "2001-01-31", "31 January 2001", "January 31, 2001", "31-Jan-2001", each with an
-/// optional time of day, which is dropped. Years 0 to 29 are in the 2000s, 30 to 99 in the 1900s.
+/// optional time of day, which is dropped. Years 0 to 29 are in the 2000s, 30 to 99 in the 1900s. A month and
+/// a year are the first of the month. Nothing for any other text, such as one without a year.
 std::optional<Date> ParseDate(std::string_view text);
 
 /// The nearest whole number, halves to even. Raises Overflow outside the type's range (and for NaN).
@@ -49,7 +52,8 @@ std::int32_t ToLong(double value);
 /// Empty as "". Raises TypeMismatch for Null, Missing and arrays.
 std::string ToText(const Variant& value);
 
-/// A number's text with up to 15 significant digits ("0.1", "1E+20", "-3").
+/// A number's text with up to 15 significant digits ("0.1", "1E+20", "-3"). Raises Overflow when it is not
+/// finite.
 std::string NumberText(double value);
 
 }  // namespace amortix2

@@ -63,7 +63,8 @@ class DateReader {
     for (;;) {
       scanner_.TakeWhile(IsGap);
       if (scanner_.AtEnd()) return Arranged();
-      if (!TakeName() && !TakeTime() && !TakeNumber()) return std::nullopt;
+      const bool taken = IsLetter(scanner_.Peek()) ? TakeName() : TakeTime() || TakeNumber();
+      if (!taken) return std::nullopt;
     }
   }
 
@@ -72,7 +73,6 @@ class DateReader {
 
   bool TakeName() {
     const std::string_view word = scanner_.TakeWhile(IsLetter);
-    if (word.empty()) return false;
     if (PlaceOfName(word, kWeekdays) > 0) return true;
     const int month = PlaceOfName(word, kMonths);
     return month > 0 && AddPart({month, true});
@@ -148,11 +148,9 @@ class DateReader {
   }
 
   static bool IsValidDay(int year, int month, int day) {
-    return month >= 1 && month <= 12 && day >= 1 &&
-           std::chrono::year_month_day{std::chrono::year{year},
-                                       std::chrono::month{static_cast<unsigned>(month)},
-                                       std::chrono::day{static_cast<unsigned>(day)}}
-               .ok();
+    if (month < 1 || month > 12 || day < 1) return false;
+    const std::chrono::year_month_day_last end{std::chrono::year{year} / month / std::chrono::last};
+    return day <= static_cast<int>(static_cast<unsigned>(end.day()));
   }
 
   TextScanner scanner_;

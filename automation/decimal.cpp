@@ -1,21 +1,29 @@
 #include "automation/decimal.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
+#include "automation/error.h"
+
 namespace amortix2 {
 
-Decimal::Decimal(double value) : count_(kDigits) {
-  std::array<char, 32> text{};  // d.dddddddddddddde-ddd
+// The digits are cut, not rounded, out of the exact decimal value, so that the one behind the last tells a
+// half.
+Decimal::Decimal(double value) {
+  if (!std::isfinite(value)) Raise(ErrorNumber::Overflow);
+  constexpr int kExactDigits = 767;           // no double has more
+  std::array<char, kExactDigits + 8> text{};  // d.ddd...e-ddd
   const auto written = std::to_chars(text.data(), text.data() + text.size(), std::abs(value),
-                                     std::chars_format::scientific, kDigits - 1);
+                                     std::chars_format::scientific, kExactDigits - 1);
   digits_[0] = text[0];
-  for (std::size_t i = 1; i < digits_.size(); ++i) digits_[i] = text[i + 1];
-  const char* exponent = text.data() + kDigits + 2;  // after the "e"
-  if (*exponent == '+') ++exponent;                  // from_chars takes no plus
+  std::copy_n(text.data() + 2, digits_.size() - 1, digits_.data() + 1);
+  count_ = static_cast<std::int64_t>(digits_.size());
+  const char* exponent = text.data() + kExactDigits + 2;
+  if (*exponent == '+') ++exponent;  // from_chars takes no plus
   std::from_chars(exponent, written.ptr, integerDigits_);
   ++integerDigits_;
-  DropTrailingZeros();
+  RoundTo(integerDigits_ - kSignificantDigits);
 }
 
 char Decimal::DigitAt(std::int64_t power) const noexcept {

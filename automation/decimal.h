@@ -1,8 +1,8 @@
 #pragma once
 
 // A double's decimal digits, as far as a double is sure of them: 15 significant digits and the place of the
-// decimal point. Number formats round on these digits, so that 2.675 is a half although its binary value lies
-// just below one.
+// decimal point. Numbers are written and number formats round from these digits, so that 2.675 is a half
+// although its binary value lies just below one. Halves are rounded away from zero.
 
 #include <array>
 #include <cstdint>
@@ -11,12 +11,15 @@ namespace amortix2 {
 
 class Decimal {
  public:
-  /// The magnitude of a finite number, to the nearest 15 digits; the sign is dropped.
+  static constexpr int kSignificantDigits = 15;
+
+  /// The magnitude of a number; its sign is dropped. Raises Overflow for infinities and NaN.
   explicit Decimal(double value);
 
   bool IsZero() const noexcept { return count_ == 0; }
 
-  /// Digits in front of the decimal point; 0 below one, negative when zeros follow the point.
+  /// Digits in front of the decimal point; 0 when the first digit stands right behind the point, negative
+  /// when zeros do. 0 for zero.
   std::int64_t IntegerDigits() const noexcept { return IsZero() ? 0 : integerDigits_; }
 
   /// The digit, '0' to '9', that counts 10 to the `power`.
@@ -28,16 +31,15 @@ class Decimal {
   /// Multiplies by 10 to the `power`.
   void Scale(std::int64_t power) noexcept { integerDigits_ += power; }
 
-  /// Rounds to a multiple of 10 to the `power`, halves away from zero.
+  /// Rounds to a multiple of 10 to the `power`.
   void RoundTo(std::int64_t power) noexcept;
 
  private:
-  static constexpr int kDigits = 15;
-
   void DropTrailingZeros() noexcept;
 
-  std::array<char, kDigits> digits_{};  // the first `count_` are significant, the last of them not '0'
-  std::int64_t count_ = 0;
+  // One more than the significant ones, from which these are rounded.
+  std::array<char, kSignificantDigits + 1> digits_{};
+  std::int64_t count_ = 0;  // of digits, the last of which is not '0'
   std::int64_t integerDigits_ = 0;
 };
 

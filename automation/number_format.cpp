@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstdint>
+#include <cstdlib>
 
 #include "automation/conversion.h"
 #include "automation/decimal.h"
-#include "automation/error.h"
 #include "automation/pattern_reader.h"
 
 // A section of the pattern is read twice: once to count its places, which tells how the digits are scaled and
@@ -145,7 +144,6 @@ std::array<std::string_view, 3> Sections(std::string_view pattern) {
 }  // namespace
 
 std::string FormatNumber(double value, std::string_view pattern) {
-  if (!std::isfinite(value)) Raise(ErrorNumber::Overflow);
   const auto [positive, negative, zero] = Sections(pattern);
   const std::string_view own = value < 0 ? negative : value == 0 ? zero : positive;
   const std::string_view section = own.empty() ? positive : own;

@@ -1,10 +1,11 @@
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <string>
 
 #include "automation/conversion.h"
+#include "automation/decimal.h"
 #include "automation/text_scanner.h"
 
 // Numeric text is read in three steps: what may stand in front of the digits, the number itself, and what may
@@ -113,13 +114,21 @@ class NumberReader {
 std::optional<double> ParseNumber(std::string_view text) { return NumberReader(text).Read(); }
 
 std::string NumberText(double value) {
-  constexpr int kSignificantDigits = 15;
-  if (value == 0) return "0";  // a negative zero has no sign
-  std::array<char, 32> text{};
-  const auto written = std::to_chars(text.data(), text.data() + text.size(), value,
-                                     std::chars_format::general, kSignificantDigits);
-  std::replace(text.data(), written.ptr, 'e', 'E');
-  return {text.data(), written.ptr};
+  constexpr std::int64_t kLeastPlainExponent = -4;
+  Decimal number(value);
+  const std::int64_t exponent = number.IsZero() ? 0 : number.IntegerDigits() - 1;
+  const bool isPlain = exponent >= kLeastPlainExponent && exponent < Decimal::kSignificantDigits;
+  if (!isPlain) number.Scale(-exponent);
+  std::string text(value < 0 ? "-" : "");
+  const std::int64_t lowest = std::min<std::int64_t>(number.LowestPower(), 0);
+  for (std::int64_t power = std::max<std::int64_t>(number.IntegerDigits() - 1, 0); power >= lowest; --power) {
+    if (power == -1) text += '.';
+    text += number.DigitAt(power);
+  }
+  if (isPlain) return text;
+  text += exponent < 0 ? "E-" : "E+";
+  if (std::abs(exponent) < 10) text += '0';
+  return text += std::to_string(std::abs(exponent));
 }
 
 }  // namespace amortix2

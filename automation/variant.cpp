@@ -8,11 +8,54 @@
 #include "automation/error.h"
 
 namespace amortix2 {
+namespace {
+
+/// One level of nested arrays in a copy or a comparison, which go down the stack level by level.
+class NestingLevel {
+ public:
+  NestingLevel() {
+    if (depth == kDeepestNesting) Raise(ErrorNumber::OutOfMemory);
+    ++depth;
+  }
+  ~NestingLevel() { --depth; }
+  NestingLevel(const NestingLevel&) = delete;
+  NestingLevel& operator=(const NestingLevel&) = delete;
+
+ private:
+  static thread_local int depth;
+};
+
+thread_local int NestingLevel::depth = 0;
+
+}  // namespace
+
+/// An owned array, and a link for the time of its release.
+struct Variant::ArrayNode {
+  Array array;
+  ArrayNode* next = nullptr;
+
+  static ArrayNode* Make(Array array) { return std::make_unique<ArrayNode>(std::move(array)).release(); }
+  static void Release(ArrayNode* node) noexcept;
+};
+
+// The destructor of an array releases the arrays in its cells. They are put into a list instead, which the
+// outermost release works off, so that the depth of nesting costs no stack.
+void Variant::ArrayNode::Release(ArrayNode* node) noexcept {
+  static thread_local ArrayNode* waiting = nullptr;
+  static thread_local bool isReleasing = false;
+  node->next = std::exchange(waiting, node);
+  if (isReleasing) return;
+  isReleasing = true;
+  while (waiting != nullptr) {
+    const std::unique_ptr<ArrayNode> released(std::exchange(waiting, waiting->next));
+  }
+  isReleasing = false;
+}
 
 void Variant::RaiseTypeMismatch() { Raise(ErrorNumber::TypeMismatch); }
 
 Variant::Variant(Array array) : type_(VariantType::Array) {
-  Store(std::make_unique<Array>(std::move(array)).release());
+  Store(ArrayNode::Make(std::move(array)));
   textLength_ = kOnHeap;
 }
 
@@ -30,7 +73,8 @@ void Variant::CopyHeap(const Variant& other) {
   if (type_ == VariantType::String) {
     StoreText(other.GetString());
   } else {
-    Store(std::make_unique<Array>(other.GetArray()).release());
+    const NestingLevel level;
+    Store(ArrayNode::Make(other.GetArray()));
     textLength_ = kOnHeap;
   }
 }
@@ -39,7 +83,7 @@ void Variant::ReleaseHeap() noexcept {
   if (type_ == VariantType::String) {
     delete Payload<std::string*>();
   } else {
-    delete Payload<Array*>();
+    ArrayNode::Release(Payload<ArrayNode*>());
   }
   textLength_ = 0;
 }
@@ -50,11 +94,11 @@ std::string_view Variant::GetString() const {
   return {reinterpret_cast<const char*>(storage_), textLength_};
 }
 
-const Array& Variant::GetArray() const { return *Load<Array*>(VariantType::Array); }
+const Array& Variant::GetArray() const { return Load<ArrayNode*>(VariantType::Array)->array; }
 
-Array& Variant::GetArray() { return *Load<Array*>(VariantType::Array); }
+Array& Variant::GetArray() { return Load<ArrayNode*>(VariantType::Array)->array; }
 
-bool operator==(const Variant& a, const Variant& b) noexcept {
+bool operator==(const Variant& a, const Variant& b) {
   if (a.type_ != b.type_) return false;
   switch (a.type_) {
     case VariantType::Empty:
@@ -63,8 +107,10 @@ bool operator==(const Variant& a, const Variant& b) noexcept {
       return true;
     case VariantType::String:
       return a.GetString() == b.GetString();
-    case VariantType::Array:
+    case VariantType::Array: {
+      const NestingLevel level;
       return a.GetArray() == b.GetArray();
+    }
     default:  // unused payload bytes are always zero
       return a.Payload<std::uint64_t>() == b.Payload<std::uint64_t>();
   }

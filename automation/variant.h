@@ -43,6 +43,8 @@ struct MissingValue {};
 inline constexpr NullValue kNull{};
 inline constexpr MissingValue kMissing{};
 
+inline constexpr int kDeepestNesting = 1000;
+
 class Variant {
  public:
   Variant() noexcept : type_(VariantType::Empty) {}
@@ -58,6 +60,7 @@ class Variant {
   Variant(Date value) noexcept : type_(VariantType::Date) { Store(value); }
   Variant(std::string_view text) : type_(VariantType::String) { StoreText(text); }
   Variant(const char* text) : Variant(std::string_view(text)) {}
+  Variant(const void*) = delete;  // or a pointer would silently be a Boolean
   Variant(Array array);
 
   Variant(const Variant& other) : type_(other.type_) { CopyFrom(other); }
@@ -68,7 +71,8 @@ class Variant {
   }
   Variant& operator=(Variant&& other) noexcept {
     if (this != &other) {
-      Release();
+      // Released only at the end: `other` may be a cell of the array that is replaced.
+      const Variant replaced(std::move(*this));
       type_ = other.type_;
       TakeFrom(other);
     }
@@ -92,9 +96,11 @@ class Variant {
   Array& GetArray();
 
   /// The same type and the same value (arrays: bounds and cells; doubles by their bits).
-  friend bool operator==(const Variant& a, const Variant& b) noexcept;
+  friend bool operator==(const Variant& a, const Variant& b);
 
  private:
+  struct ArrayNode;
+
   static constexpr std::size_t kInlineText = 14;
   static constexpr std::size_t kPayload = 6;  // offset in storage_: eight bytes into the object
   static constexpr std::uint8_t kOnHeap = 0xFF;
