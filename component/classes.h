@@ -1,0 +1,14 @@
+#pragma once
+
+// The classes' descriptions, one .cpp file each; description.cpp lists them.
+
+#include "component/description.h"
+
+namespace amortix2 {
+
+extern const ClassInfo kCalculatorClass;
+extern const ClassInfo kBarChartClass;
+extern const ClassInfo kGifChartClass;
+extern const ClassInfo kInvestmentStrategyClass;
+
+}  // namespace amortix2

@@ -1,0 +1,181 @@
+#pragma once
+
+// What the component offers, as data: its classes with their members and parameters, its records and its
+// enumerations, each with a unit and a line of help. Hosts are made from these tables alone: they create an
+// object, find a member by name, make one value per parameter, call, and read the values back. Everything
+// here lives as long as the program and never changes.
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+
+#include "automation/array.h"
+#include "automation/date.h"
+#include "automation/variant.h"
+
+namespace amortix2 {
+
+enum class Unit : std::uint8_t {
+  None,              ///< no number (a record, a table, an object)
+  Text,              ///< text
+  Flag,              ///< zero or not zero
+  Count,             ///< a plain count or index
+  Code,              ///< a number of an enumeration
+  Currency,          ///< an amount of money
+  MonthlyCurrency,   ///< an amount of money a month
+  Percent,           ///< percent of an amount
+  AnnualPercent,     ///< percent a year
+  PercentagePoints,  ///< added to an annual percentage
+  Days,
+  Months,
+  Years,
+  Periods,  ///< periods of the plan's own frequency
+  Date,
+  Pixels,
+  Table,  ///< a two-dimensional array of results
+  List,   ///< a one-dimensional array
+};
+
+/// The unit in words ("annual percent").
+std::string_view UnitName(Unit unit) noexcept;
+
+struct RecordInfo;
+struct EnumerationInfo;
+
+enum class TypeKind : std::uint8_t {
+  Variant,
+  Double,
+  Integer,  ///< 16 bits
+  Long,     ///< 32 bits
+  String,
+  Date,
+  Enumeration,  ///< 32 bits
+  Record,
+  RecordArray,       ///< one-dimensional, with bounds
+  ScriptingContext,  ///< the page's context, a std::shared_ptr<ScriptingContext>
+};
+
+/// How a host handles a C++ value of some type without knowing the type.
+struct TypeInfo {
+  TypeKind kind;
+  const EnumerationInfo* enumeration;  ///< of an Enumeration, else null
+  const RecordInfo* record;            ///< of a Record or of a RecordArray's elements, else null
+
+  void* (*create)();                ///< a new value, zero or empty
+  void (*destroy)(void*) noexcept;  ///< of a value that `create` made
+
+  // Null for records, arrays of records and contexts. `write` converts strictly (automation/conversion.h) and
+  // raises TypeMismatch or Overflow.
+  Variant (*read)(const void* value);
+  void (*write)(void* value, const Variant& from);
+
+  // Null but for arrays of records. `resize` makes all records anew; it and `at` raise SubscriptOutOfRange.
+  Bounds (*bounds)(const void* value);
+  void (*resize)(void* value, Bounds bounds);
+  void* (*at)(void* value, std::int64_t index);
+};
+
+/// A value of some described type, owned.
+class Value {
+ public:
+  explicit Value(const TypeInfo& type) : type_(&type), value_(type.create(), type.destroy) {}
+  const TypeInfo& Type() const noexcept { return *type_; }
+  void* Get() noexcept { return value_.get(); }
+  const void* Get() const noexcept { return value_.get(); }
+
+ private:
+  const TypeInfo* type_;
+  std::unique_ptr<void, void (*)(void*) noexcept> value_;
+};
+
+struct FieldInfo {
+  std::string_view name;
+  Unit unit;
+  std::string_view help;
+  const TypeInfo* type;
+  void* (*in)(void* record);  ///< the field's place in a record
+};
+
+struct RecordInfo {
+  std::string_view name;
+  std::string_view help;
+  std::span<const FieldInfo> fields;  ///< in the order of the record
+};
+
+struct ConstantInfo {
+  std::string_view name;
+  std::int32_t value;
+  std::string_view help;
+};
+
+struct EnumerationInfo {
+  std::string_view name;
+  std::string_view help;
+  std::span<const ConstantInfo> constants;
+};
+
+struct ParameterInfo {
+  std::string_view name;
+  Unit unit = Unit::None;
+  std::string_view help;
+  bool optional = false;     ///< may be left out, and is Missing then; only variants, at the end
+  bool byReference = false;  ///< the callee may change it, and the caller sees the change
+  const TypeInfo* type = nullptr;
+};
+
+enum class MemberKind : std::uint8_t {
+  Method,
+  PropertyPut,  ///< a write-only property: one parameter, its new value
+};
+
+struct MemberInfo {
+  std::string_view name;
+  MemberKind kind;
+  std::string_view help;
+  std::span<const ParameterInfo> parameters;
+  const TypeInfo* result;  ///< null when the member returns nothing
+
+  /// Calls the member of `object` with one value per parameter, each of the parameter's type; `result` is
+  /// null exactly when the member returns nothing. Errors are raised as AutomationError; by-reference values
+  /// then hold what had been written.
+  void (*call)(void* object, std::span<void* const> arguments, void* result);
+};
+
+struct ClassInfo {
+  std::string_view name;
+  std::string_view help;
+  std::span<const MemberInfo>
+      members;  ///< a member's place here, from 1, is its dispatch number; only appended to
+
+  void* (*create)(const Clock& clock);  ///< the clock must outlive the object
+  void (*destroy)(void*) noexcept;
+};
+
+/// An object of a described class, owned.
+class Object {
+ public:
+  Object(const ClassInfo& type, const Clock& clock)
+      : type_(&type), object_(type.create(clock), type.destroy) {}
+  const ClassInfo& Class() const noexcept { return *type_; }
+  void* Get() noexcept { return object_.get(); }
+
+ private:
+  const ClassInfo* type_;
+  std::unique_ptr<void, void (*)(void*) noexcept> object_;
+};
+
+std::span<const ClassInfo* const> Classes() noexcept;
+std::span<const RecordInfo* const> Records() noexcept;
+std::span<const EnumerationInfo* const> Enumerations() noexcept;
+
+/// True when two names are the same whatever the case of their ASCII letters, as page scripts compare names.
+bool SameName(std::string_view a, std::string_view b) noexcept;
+
+// Look-ups by name, whatever the case; null when there is none.
+const ClassInfo* FindClass(std::string_view name) noexcept;
+const MemberInfo* FindMember(const ClassInfo& type, std::string_view name) noexcept;
+const ParameterInfo* FindParameter(const MemberInfo& member, std::string_view name) noexcept;
+const FieldInfo* FindField(const RecordInfo& record, std::string_view name) noexcept;
+
+}  // namespace amortix2
