@@ -1,0 +1,78 @@
+#include "automation/date.h"
+
+#include "automation/raises.h"
+
+namespace amortix2 {
+namespace {
+
+bool IsLeap(int year) { return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0); }
+
+int DaysInMonth(int year, int month) {
+  constexpr int kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  return month == 2 && IsLeap(year) ? 29 : kDays[month - 1];
+}
+
+// A calendar that only counts walks beside the one under test, over all valid days.
+TEST(Dates, EveryDayFollowsTheOneBefore) {
+  CivilDate expected{100, 1, 1};
+  int weekday = 5;  // a Friday
+  std::int32_t serial = kFirstDay.serial;
+  for (; serial <= kLastDay.serial; ++serial) {
+    const Date date{serial};
+    ASSERT_EQ(ToCivil(date), expected) << serial;
+    ASSERT_EQ(MakeDate(expected.year, expected.month, expected.day), date);
+    ASSERT_EQ(DayOfWeek(date), weekday) << serial;
+    weekday = (weekday + 1) % 7;
+    if (++expected.day <= DaysInMonth(expected.year, expected.month)) continue;
+    // The day behind the month's last is the next month's first, and day 0 is the last of the month before.
+    if (serial < kLastDay.serial) {
+      ASSERT_EQ(MakeDate(expected.year, expected.month, expected.day).serial, serial + 1);
+      ASSERT_EQ(MakeDate(expected.year, expected.month + 1, 0), date);
+      ASSERT_EQ(MakeDate(expected.year - 1, expected.month + 13, 0), date);
+    }
+    expected.day = 1;
+    if (++expected.month > 12) expected = {expected.year + 1, 1, 1};
+  }
+  EXPECT_EQ(serial - kFirstDay.serial, 3'615'900);
+  EXPECT_EQ(expected.year, 10'000);
+}
+
+TEST(Dates, FixedPoints) {
+  EXPECT_EQ(MakeDate(1899, 12, 30).serial, 0);
+  EXPECT_EQ(MakeDate(1970, 1, 1).serial, 25569);
+  EXPECT_EQ(DayOfWeek(MakeDate(2001, 1, 31)), 3);  // a Wednesday
+}
+
+TEST(Dates, PartsRollOver) {
+  EXPECT_EQ(MakeDate(2001, 2, 29), MakeDate(2001, 3, 1));
+  EXPECT_EQ(MakeDate(2001, 13, 1), MakeDate(2002, 1, 1));
+  EXPECT_EQ(MakeDate(2001, 0, 1), MakeDate(2000, 12, 1));
+  EXPECT_EQ(MakeDate(2001, -12, 1), MakeDate(1999, 12, 1));
+  EXPECT_EQ(MakeDate(2001, 1, -365), MakeDate(2000, 1, 1));
+  EXPECT_EQ(MakeDate(0, 1201, 1), kFirstDay);
+  EXPECT_EQ(MakeDate(10'000, 1, 0), kLastDay);
+  EXPECT_EQ(MakeDate(-5'000, 1, 3'500'000), MakeDate(4582, 9, 3));
+}
+
+TEST(Dates, NothingLiesOutsideTheCalendar) {
+  constexpr std::int64_t kHuge = INT64_MAX;
+  const std::initializer_list<std::array<std::int64_t, 3>> outside{
+      {99, 12, 31},  {10'000, 1, 1}, {9999, 12, 32},           {100, 1, 0},      {kHuge, 1, 1},
+      {1, kHuge, 1}, {1, 1, kHuge},  {-kHuge, -kHuge, -kHuge}, {2001, -kHuge, 1}};
+  for (const auto& [year, month, day] : outside) {
+    EXPECT_EQ(ErrorOf([&] { MakeDate(year, month, day); }), ErrorNumber::InvalidProcedureCall)
+        << year << ' ' << month << ' ' << day;
+  }
+  EXPECT_EQ(AddDays(kFirstDay, 3'615'899), kLastDay);
+  for (const std::int64_t days : {std::int64_t{3'615'900}, std::int64_t{-1}, kHuge, -kHuge}) {
+    EXPECT_EQ(ErrorOf([&] { AddDays(kFirstDay, days); }), ErrorNumber::InvalidProcedureCall) << days;
+  }
+}
+
+TEST(Dates, TextHasFixedWidth) {
+  EXPECT_EQ(View(FormatMonthDayYear(MakeDate(2001, 2, 3))), "02-03-2001");
+  EXPECT_EQ(View(FormatIso(MakeDate(987, 11, 30))), "0987-11-30");
+}
+
+}  // namespace
+}  // namespace amortix2
