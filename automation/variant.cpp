@@ -31,10 +31,11 @@ thread_local int NestingLevel::depth = 0;
 
 /// An owned array, and a link for the time of its release.
 struct Variant::ArrayNode {
+  explicit ArrayNode(Array owned) noexcept : array(std::move(owned)) {}
+
   Array array;
   ArrayNode* next = nullptr;
 
-  static ArrayNode* Make(Array array) { return std::make_unique<ArrayNode>(std::move(array)).release(); }
   static void Release(ArrayNode* node) noexcept;
 };
 
@@ -55,7 +56,7 @@ void Variant::ArrayNode::Release(ArrayNode* node) noexcept {
 void Variant::RaiseTypeMismatch() { Raise(ErrorNumber::TypeMismatch); }
 
 Variant::Variant(Array array) : type_(VariantType::Array) {
-  Store(ArrayNode::Make(std::move(array)));
+  Store(std::make_unique<ArrayNode>(std::move(array)).release());
   textLength_ = kOnHeap;
 }
 
@@ -74,7 +75,7 @@ void Variant::CopyHeap(const Variant& other) {
     StoreText(other.GetString());
   } else {
     const NestingLevel level;
-    Store(ArrayNode::Make(other.GetArray()));
+    Store(std::make_unique<ArrayNode>(other.GetArray()).release());
     textLength_ = kOnHeap;
   }
 }
