@@ -2,6 +2,7 @@
 
 #include "engine/loan_solver.h"
 #include "engine/qualification.h"
+#include "engine/savings_solver.h"
 
 namespace amortix2 {
 namespace {
@@ -23,8 +24,6 @@ void Consolidate(RecordArray<tLoanDesc>& loans, tCreditQualification& qualificat
 
 std::int32_t Amortix(enumAmortixType type, RecordArray<tLoanDesc>& loans, RecordArray<tSavingsDesc>& savings,
                      RecordArray<tGoalDesc>& goals, tCreditQualification& qualification) {
-  static_cast<void>(savings);
-  static_cast<void>(goals);
   switch (type) {
     case LoanQualification:
       ComputeQualifyingPayment(qualification);
@@ -38,6 +37,12 @@ std::int32_t Amortix(enumAmortixType type, RecordArray<tLoanDesc>& loans, Record
       break;
     case LoanCalculator:
       SolveLoans(loans, 1, qualification, true);
+      break;
+    case SavingsCalculator:
+      for (std::int32_t i = 1; i <= savings.Upper(); ++i) SolveSavings(savings.At(i), goals, qualification);
+      break;
+    case SavingsGoalsCalculator:
+      savings.At(1);
       break;
     case LoanQuickCalc:
       SolveLoans(loans, 1, qualification, false);

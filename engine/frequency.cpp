@@ -95,12 +95,14 @@ PeriodStep StepOf(enumFrequencyType frequency) {
   }
 }
 
-Date AdvanceDate(Date date, enumFrequencyType frequency, std::int32_t count) {
-  const CivilDate civil = ToCivil(date);
-  const PeriodStep step = StepOf(frequency);
-  return MakeClampedDate(Narrow(civil.year), Narrow(civil.month), Narrow(civil.day),
+Date StepDate(const CivilDate& start, const PeriodStep& step, std::int32_t count) {
+  return MakeClampedDate(Narrow(start.year), Narrow(start.month), Narrow(start.day),
                          Narrow(std::int64_t{step.years} * count), Narrow(std::int64_t{step.months} * count),
                          Narrow(std::int64_t{step.days} * count));
+}
+
+Date AdvanceDate(Date date, enumFrequencyType frequency, std::int32_t count) {
+  return StepDate(ToCivil(date), StepOf(frequency), count);
 }
 
 std::int32_t PeriodsBetween(Date first, enumFrequencyType frequency, Date second) {

@@ -26,6 +26,9 @@ struct PeriodStep {
 /// continuousMode step a month.
 PeriodStep StepOf(enumFrequencyType frequency);
 
+/// The date `count` steps after `start`, on AdvanceDate's terms.
+Date StepDate(const CivilDate& start, const PeriodStep& step, std::int32_t count);
+
 /// The date `count` steps after `date` (before it when negative). Every date of a plan is stepped from its
 /// start, so a plan that starts on the 31st returns to the 31st in long months. Raises Overflow when the
 /// steps' days, months or years leave 16 bits, InvalidProcedureCall when the date leaves the calendar.

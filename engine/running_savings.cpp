@@ -1,0 +1,27 @@
+#include "engine/running_savings.h"
+
+#include "engine/frequency.h"
+
+namespace amortix2 {
+
+enumFrequencyType CompoundingMode(const tSavingsDesc& save) {
+  return save.compoundingMode == sameasother ? save.paymentMode : save.compoundingMode;
+}
+
+double LineGrowth(const tSavingsDesc& save, double annualRate) {
+  return 1 + annualRate / (100 * PeriodsPerYear(CompoundingMode(save)));
+}
+
+RunningSavings::RunningSavings(const tSavingsDesc& save, double annualRate)
+    : mode_(CompoundingMode(save)),
+      annualRate_(annualRate),
+      afterTaxRate_(AfterTaxFraction(save) * annualRate),
+      growth_(LineGrowth(save, afterTaxRate_)),
+      openingBalance_(save.startingBalance),
+      balance_(openingBalance_),
+      grownBalance_(openingBalance_),
+      deposit_(NetDeposit(save)) {
+  if (mode_ == continuousMode) dailyFactors_ = BuildDailyFactorTable(afterTaxRate_);
+}
+
+}  // namespace amortix2

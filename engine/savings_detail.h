@@ -1,0 +1,18 @@
+#pragma once
+
+// A savings plan's schedule as a table of variants for a page: one row a line. Columns from atCol: date
+// ("mm-dd-yyyy"), deposit, interest, growth (deposit and interest together), ending balance.
+
+#include <cstdint>
+
+#include "automation/array.h"
+#include "engine/records.h"
+
+namespace amortix2 {
+
+/// Writes the start date and the opening balance into row 0, leaving its other cells as they are, and lines 1
+/// to lastRow into the rows of the same number. Raises SubscriptOutOfRange at the first row, column or line
+/// that is not there, Overflow for a growth beyond doubles; what was written before it stays.
+void LoadSaveDetArray(const tSavingsDesc& save, std::int16_t atCol, std::int16_t lastRow, Array& detArray);
+
+}  // namespace amortix2

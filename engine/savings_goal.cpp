@@ -1,0 +1,40 @@
+#include "engine/savings_goal.h"
+
+#include <cmath>
+#include <limits>
+
+#include "engine/rounding.h"
+#include "engine/running_savings.h"
+
+namespace amortix2 {
+namespace {
+
+SavingsGoal TakeOutInterest(const tSavingsDesc& save, double growth) {
+  const double interest = RoundToCents(save.startingBalance * growth) - save.startingBalance;
+  if (interest >= 0) return {.withdrawal = interest};
+  return {.deposit = -interest};
+}
+
+}  // namespace
+
+SavingsGoal FindGoal(const tSavingsDesc& save) {
+  constexpr double kLeastProgress = 0.0001;
+  constexpr double kNearEnough = 0.49;
+  const double growth = LineGrowth(save, save.intRate);
+  const double deposit = NetDeposit(save);
+  const double goal = save.endingBalance;
+  double balance = save.startingBalance;
+  const double missingAtFirst = std::abs(goal - balance);
+  for (std::int16_t lines = 1;; ++lines) {
+    balance = RoundToCents(balance * growth) + deposit;
+    if (lines == 1 &&
+        (goal == UNKNOWNLOANVALUE || std::abs(goal - balance) > missingAtFirst - kLeastProgress)) {
+      return TakeOutInterest(save, growth);
+    }
+    const double missing = deposit < 0 ? balance - goal : goal - balance;
+    if (missing <= kNearEnough) return {lines, goal, save.deposit, save.withdrawal};
+    if (lines == std::numeric_limits<std::int16_t>::max()) Raise(ErrorNumber::Overflow);
+  }
+}
+
+}  // namespace amortix2

@@ -1,0 +1,175 @@
+// The ending balance B(x) never falls when the growth factor x rises, so that a bracket [low, high] with
+// B(low) at or below the goal and B(high) above it always closes. Interest that is too little for the
+// withdrawals counts as a balance of minus infinity, whatever the goal, and one that leaves the doubles as
+// plus infinity.
+//
+// Without interest, x = 1, most plans fall short. The high end is then twice the factor that simple interest
+// on all payments would ask for,
+//
+//   x = ((goal / (D n + B0)) - 1) / n * 2 + 1,
+//
+// or, for withdrawals D from a balance that is to last, the factor (B0 - D) / B0 whose interest pays for
+// them; if that is not enough its distance from 1 is doubled until it is. Two midpoints, then secant steps
+// through the last two trials. A secant that leaves the bracket, or that joins balances of too different
+// size, gives way to the midpoint. Rounding makes B a staircase on which secants can creep, so that from some
+// round on only midpoints are taken.
+
+#include "engine/savings_rate.h"
+
+#include <cmath>
+#include <limits>
+#include <vector>
+
+#include "engine/elementary.h"
+#include "engine/frequency.h"
+#include "engine/rounding.h"
+#include "engine/running_savings.h"
+#include "engine/savings_schedule.h"
+
+namespace amortix2 {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+/// A growth factor and the ending balance that it leads to.
+struct Point {
+  double factor = 0;
+  double balance = 0;
+};
+
+/// Tries growth factors on one plan, without dates and lines.
+class SavingsTrials {
+ public:
+  explicit SavingsTrials(const tSavingsDesc& save)
+      : save_(save),
+        periods_(SavingsPeriods(save)),
+        scale_(100 * PeriodsPerYear(save.paymentMode)),
+        daysOfLines_(static_cast<std::size_t>(periods_.periods)) {
+    if (CompoundingMode(save) == continuousMode) CountDays();
+  }
+
+  double AnnualPercent(double factor) const { return (factor - 1) * scale_; }
+
+  Point Try(double factor) const { return {factor, EndingBalance(AnnualPercent(factor))}; }
+
+  bool Passes(const Point& point) const { return point.balance > save_.endingBalance; }
+  bool Meets(const Point& point) const {
+    return std::isfinite(point.balance) && RoundToCents(point.balance) == RoundToCents(save_.endingBalance);
+  }
+
+  /// Distance of the first high end from 1, above 0.
+  double FirstDistance() const {
+    const double opening = save_.startingBalance;
+    const double deposit = NetDeposit(save_);
+    const double goal = save_.endingBalance;
+    const int count = periods_.periods;
+    const double distance = opening >= goal && deposit < 0
+                                ? Divide(opening - deposit, opening) - 1
+                                : Divide(Divide(goal, deposit * count + opening) - 1, count) * 2;
+    return distance == 0 ? 1 : std::abs(distance);
+  }
+
+ private:
+  void CountDays() {
+    const SavingsDates dates(save_);
+    Date previous = save_.startDate;
+    for (std::size_t i = 0; i < daysOfLines_.size(); ++i) {
+      const Date date = dates.OfLine(static_cast<std::int32_t>(i) + 1);
+      daysOfLines_[i] = date.serial - previous.serial;
+      previous = date;
+    }
+  }
+
+  double EndingBalance(double annualPercent) const {
+    try {
+      RunningSavings running(save_, annualPercent);
+      for (const std::int32_t days : daysOfLines_) {
+        running.NextLine(days);
+        if (running.RanDry()) return -kInfinity;
+      }
+      if (periods_.days != 0) running.CreditDays(periods_.days);
+      return Finite(running.Balance());
+    } catch (const AutomationError& error) {
+      // A trial that overflows is an answer of the search, not its failure.
+      if (error.Number() != ErrorNumber::Overflow) throw;
+      return kInfinity;
+    }
+  }
+
+  const tSavingsDesc& save_;
+  WholePeriods periods_;
+  double scale_;
+  std::vector<std::int32_t> daysOfLines_;  // all 0 unless interest compounds continuously
+};
+
+/// The ends of the search, and its last two rounds.
+class Bracket {
+ public:
+  Bracket(Point low, Point high) : low_(low), high_(high) {}
+
+  double Midpoint() const { return low_.factor / 2 + high_.factor / 2; }
+  bool IsClosed() const { return !IsInside(Midpoint()); }
+
+  double NextFactor(double goal) const {
+    constexpr int kMidpointsFirst = 2;
+    constexpr int kSecantsUntil = 64;
+    if (rounds_ < kMidpointsFirst || rounds_ >= kSecantsUntil) return Midpoint();
+    constexpr double kLargestRatio = 16;  // of balances, as a logarithm
+    const double ratio =
+        NaturalLogarithm(std::abs(latest_.balance)) - NaturalLogarithm(std::abs(previous_.balance));
+    const double secant = previous_.factor + (latest_.factor - previous_.factor) *
+                                                 (goal - previous_.balance) /
+                                                 (latest_.balance - previous_.balance);
+    return std::abs(ratio) < kLargestRatio && IsInside(secant) ? secant : Midpoint();
+  }
+
+  void Add(const Point& point, bool isPast) {
+    previous_ = latest_;
+    latest_ = point;
+    (isPast ? high_ : low_) = point;
+    ++rounds_;
+  }
+
+  double Nearest(double goal) const {
+    return high_.balance - goal < goal - low_.balance ? high_.factor : low_.factor;
+  }
+
+  int Rounds() const { return rounds_; }
+
+ private:
+  bool IsInside(double factor) const { return factor > low_.factor && factor < high_.factor; }
+
+  Point low_, high_, latest_, previous_;
+  int rounds_ = 0;
+};
+
+SavingsRate SearchBetween(const SavingsTrials& trials, Point low, Point high, double goal) {
+  Bracket bracket(low, high);
+  while (!bracket.IsClosed()) {
+    const Point point = trials.Try(bracket.NextFactor(goal));
+    bracket.Add(point, trials.Passes(point));
+    if (trials.Meets(point)) return {trials.AnnualPercent(point.factor), bracket.Rounds()};
+  }
+  return {trials.AnnualPercent(bracket.Nearest(goal)), bracket.Rounds()};
+}
+
+}  // namespace
+
+SavingsRate FindSavingsRate(const tSavingsDesc& save) {
+  const SavingsTrials trials(save);
+  const double goal = save.endingBalance;
+  const Point still = trials.Try(1);
+  if (trials.Meets(still)) return {};
+  if (trials.Passes(still)) {
+    const Point lost = trials.Try(0);
+    return trials.Passes(lost) ? SavingsRate{} : SearchBetween(trials, lost, still, goal);
+  }
+  for (double distance = trials.FirstDistance();; distance *= 2) {
+    const double factor = 1 + distance;
+    if (!std::isfinite(trials.AnnualPercent(factor))) return {};
+    const Point high = trials.Try(factor);
+    if (trials.Passes(high)) return SearchBetween(trials, still, high, goal);
+  }
+}
+
+}  // namespace amortix2

@@ -1,0 +1,134 @@
+// A plan is laid out first: how many lines, how many days are left over, which goal ends it. Then one running
+// balance writes the lines in turn. Everything is computed aside and put into the record at the end.
+
+#include "engine/savings_schedule.h"
+
+#include <optional>
+#include <utility>
+
+#include "automation/conversion.h"
+#include "engine/rounding.h"
+#include "engine/running_savings.h"
+#include "engine/savings_goal.h"
+
+namespace amortix2 {
+namespace {
+
+bool IsEndUnknown(const tSavingsDesc& save) { return save.endDate < save.startDate; }
+
+tSchedule OpeningLine(const tSavingsDesc& save) {
+  tSchedule line;
+  line.lineDate = save.startDate;
+  line.startingBalance = save.startingBalance;
+  line.endingBalance = save.startingBalance;
+  return line;
+}
+
+/// Every line of `save`, whose end, deposit and withdrawal are those that the plan runs with.
+class SavingsSchedule {
+ public:
+  SavingsSchedule(const tSavingsDesc& save, WholePeriods periods, std::optional<double> goal)
+      : save_(save), running_(save, save.intRate), lines_(LineCount(periods)) {
+    lines_.front() = OpeningLine(save);
+    WriteRegularLines(periods.periods);
+    if (goal) StopAtGoal(*goal);
+    if (periods.days != 0) WriteLeftoverLine(periods.days);
+  }
+
+  /// Raises Overflow when a total is not finite; `save` is unchanged then.
+  void Store(tSavingsDesc& save) && {
+    double interest = 0;
+    double tax = 0;
+    double payments = 0;
+    for (const tSchedule& line : lines_) {
+      interest += line.intCredited;
+      tax += line.taxCharged;
+      payments += line.payment;
+    }
+    Finite(interest);
+    Finite(tax);
+    Finite(payments);
+    save.endingBalance = Finite(lines_.back().endingBalance);
+    save.totIntCredited = interest;
+    save.totTaxCharged = tax;
+    save.totPayments = payments;
+    save.schedule = std::move(lines_);
+  }
+
+ private:
+  static std::size_t LineCount(WholePeriods periods) {
+    return static_cast<std::size_t>(ToInteger(periods.periods)) + 1 + (periods.days != 0 ? 1 : 0);
+  }
+
+  void WriteRegularLines(std::int32_t count) {
+    const SavingsDates dates(save_);
+    for (std::int32_t i = 1; i <= count; ++i) {
+      const tSchedule& previous = lines_[static_cast<std::size_t>(i - 1)];
+      tSchedule& line = lines_[static_cast<std::size_t>(i)];
+      line.lineDate = dates.OfLine(i);
+      line.startingBalance = running_.Balance();
+      line.intRate = running_.AfterTaxRate();
+      running_.NextLine(line.lineDate.serial - previous.lineDate.serial);
+      line.payment = running_.Deposit();
+      line.intCredited = RoundToCents(running_.GrownBalance() - line.startingBalance);
+      line.endingBalance = running_.Balance();
+    }
+  }
+
+  /// A last deposit that carries the balance across the goal is cut to end on it. A balance that its interest
+  /// alone carried past the goal stays.
+  void StopAtGoal(double goal) {
+    tSchedule& last = lines_.back();
+    const double before = running_.GrownBalance();
+    const bool isCrossed = last.payment > 0   ? before <= goal && last.endingBalance > goal
+                           : last.payment < 0 ? before >= goal && last.endingBalance < goal
+                                              : false;
+    if (!isCrossed) return;
+    last.payment = last.payment + goal - last.endingBalance;
+    last.endingBalance = goal;
+  }
+
+  void WriteLeftoverLine(std::int32_t days) {
+    const tSchedule& previous = lines_[lines_.size() - 2];
+    tSchedule& line = lines_.back();
+    line.lineDate = AddDays(previous.lineDate, days);
+    line.startingBalance = running_.Balance();
+    line.intRate = save_.intRate;
+    line.intCredited = running_.CreditDays(days);
+    line.taxCharged = save_.taxRate / 100 * line.intCredited;
+    line.endingBalance = running_.Balance();
+  }
+
+  const tSavingsDesc& save_;
+  RunningSavings running_;
+  std::vector<tSchedule> lines_;
+};
+
+}  // namespace
+
+WholePeriods SavingsPeriods(const tSavingsDesc& save) {
+  if (IsEndUnknown(save)) return {};
+  return CountWholePeriods(save.startDate, save.paymentMode, save.endDate);
+}
+
+SavingsDates::SavingsDates(const tSavingsDesc& save) : start_(ToCivil(save.startDate)) {
+  // A plan's lines of these two lie a year apart, unlike AdvanceDate's steps.
+  const bool isYearly = save.paymentMode == exactDaysMode || save.paymentMode == continuousMode;
+  step_ = StepOf(isYearly ? annualMode : save.paymentMode);
+}
+
+void BuildSavingsSchedule(tSavingsDesc& save) {
+  if (!IsEndUnknown(save)) {
+    SavingsSchedule(save, SavingsPeriods(save), {}).Store(save);
+    return;
+  }
+  const SavingsGoal found = FindGoal(save);
+  tSavingsDesc plan = save;
+  plan.deposit = found.deposit;
+  plan.withdrawal = found.withdrawal;
+  plan.endDate = AdvanceDate(save.startDate, save.paymentMode, found.lines);
+  SavingsSchedule(plan, {.periods = found.lines}, found.goal).Store(plan);
+  save = std::move(plan);
+}
+
+}  // namespace amortix2

@@ -1,0 +1,52 @@
+#pragma once
+
+// A savings plan's schedule: an opening line, then one line a deposit or withdrawal with its interest after
+// tax, every step rounded to cents, and a last line for days that make no period. For example 1000 and 100 a
+// month at 12 % over 3 months and 10 days:
+//
+//   line  date        deposit  interest  balance
+//   0     2026-01-31     0.00      0.00  1000.00
+//   1     2026-02-28   100.00     10.00  1110.00
+//   2     2026-03-31   100.00     11.10  1221.10
+//   3     2026-04-30   100.00     12.21  1333.31
+//   4     2026-05-10     0.00      4.38  1337.69
+
+#include <cstdint>
+#include <vector>
+
+#include "engine/frequency.h"
+#include "engine/records.h"
+
+namespace amortix2 {
+
+/// Fills `schedule`, the totals and `endingBalance` of a plan with nothing unknown but perhaps its end. With
+/// the end unknown (`endDate` before `startDate`) `endDate` becomes that of the line where the goal,
+/// `endingBalance`, is reached (savings_goal.h); a last deposit that would overshoot the goal is cut to reach
+/// it. Where no goal can be reached the plan becomes one line that takes out its interest, in `deposit` and
+/// `withdrawal` too.
+///
+/// Regular lines credit interest after tax; the leftover days' interest is simple, at the rate before tax,
+/// and its tax is recorded without being deducted. exactDaysMode credits every line the opening balance's
+/// interest; lines of exactDaysMode and continuousMode lie a year apart although their count is one of
+/// months.
+///
+/// Raises Overflow (more than 32767 lines, a date's day or month beyond 16 bits, amounts beyond doubles) and
+/// InvalidProcedureCall (a date past 9999); the record is then as it was.
+void BuildSavingsSchedule(tSavingsDesc& save);
+
+/// Whole periods and leftover days of a plan; none when its end is unknown. Raises as CountWholePeriods does.
+WholePeriods SavingsPeriods(const tSavingsDesc& save);
+
+/// Dates of a plan's regular lines, each stepped from the start.
+class SavingsDates {
+ public:
+  explicit SavingsDates(const tSavingsDesc& save);
+  /// Raises as AdvanceDate does.
+  Date OfLine(std::int32_t line) const { return StepDate(start_, step_, line); }
+
+ private:
+  CivilDate start_;
+  PeriodStep step_;
+};
+
+}  // namespace amortix2
