@@ -11,8 +11,9 @@ namespace {
 
 SavingsGoal TakeOutInterest(const tSavingsDesc& save, double growth) {
   const double interest = RoundToCents(save.startingBalance * growth) - save.startingBalance;
-  if (interest >= 0) return {.withdrawal = interest};
-  return {.deposit = -interest};
+  SavingsGoal found;
+  (interest >= 0 ? found.withdrawal : found.deposit) = std::abs(interest);
+  return found;
 }
 
 }  // namespace
@@ -27,8 +28,7 @@ SavingsGoal FindGoal(const tSavingsDesc& save) {
   const double missingAtFirst = std::abs(goal - balance);
   for (std::int16_t lines = 1;; ++lines) {
     balance = RoundToCents(balance * growth) + deposit;
-    if (lines == 1 &&
-        (goal == UNKNOWNLOANVALUE || std::abs(goal - balance) > missingAtFirst - kLeastProgress)) {
+    if (lines == 1 && (IsUnknown(goal) || std::abs(goal - balance) > missingAtFirst - kLeastProgress)) {
       return TakeOutInterest(save, growth);
     }
     const double missing = deposit < 0 ? balance - goal : goal - balance;

@@ -10,8 +10,6 @@
 namespace amortix2 {
 namespace {
 
-bool IsUnknown(double value) { return value == UNKNOWNLOANVALUE; }
-
 /// What the opening balance and deposits of 1 come to by the last whole period.
 struct SavingsFactors {
   double opening;
