@@ -1,6 +1,8 @@
 #include "automation/date.h"
 
+#include <bit>
 #include <chrono>
+#include <cstring>
 
 #include "automation/error.h"
 
@@ -22,7 +24,27 @@ Date Checked(std::int64_t serial) {
   return Date{static_cast<std::int32_t>(serial)};
 }
 
-char Digit(int value) { return static_cast<char>('0' + value % 10); }
+// Texts are put together in registers, first character lowest: bytes that are stored one by one and then read
+// as a word would cost more than all the arithmetic.
+static_assert(std::endian::native == std::endian::little);
+
+/// The two digits of 0 to 99 as characters, the tens lowest.
+constexpr std::array<std::uint16_t, 100> kTwoDigits = [] {
+  std::array<std::uint16_t, 100> digits{};
+  for (std::size_t i = 0; i < digits.size(); ++i) {
+    digits[i] = static_cast<std::uint16_t>(('0' + i / 10) | ('0' + i % 10) << 8);
+  }
+  return digits;
+}();
+
+std::uint64_t DigitsOf(int value) { return kTwoDigits[static_cast<std::size_t>(value)]; }
+
+DateText Text(std::uint64_t firstEight, std::uint64_t lastTwo) {
+  DateText text;
+  std::memcpy(text.data(), &firstEight, 8);
+  std::memcpy(text.data() + 8, &lastTwo, 2);
+  return text;
+}
 
 }  // namespace
 
@@ -58,25 +80,18 @@ int DayOfWeek(Date date) noexcept {
 }
 
 DateText FormatMonthDayYear(Date date) noexcept {
+  constexpr std::uint64_t kHyphens = std::uint64_t{'-'} << 16 | std::uint64_t{'-'} << 40;
   const CivilDate civil = ToCivil(date);
-  return {Digit(civil.month / 10),  Digit(civil.month),      '-',
-          Digit(civil.day / 10),    Digit(civil.day),        '-',
-          Digit(civil.year / 1000), Digit(civil.year / 100), Digit(civil.year / 10),
-          Digit(civil.year)};
+  return Text(DigitsOf(civil.month) | DigitsOf(civil.day) << 24 | DigitsOf(civil.year / 100) << 48 | kHyphens,
+              DigitsOf(civil.year % 100));
 }
 
 DateText FormatIso(Date date) noexcept {
+  constexpr std::uint64_t kHyphens = std::uint64_t{'-'} << 32 | std::uint64_t{'-'} << 56;
   const CivilDate civil = ToCivil(date);
-  return {Digit(civil.year / 1000),
-          Digit(civil.year / 100),
-          Digit(civil.year / 10),
-          Digit(civil.year),
-          '-',
-          Digit(civil.month / 10),
-          Digit(civil.month),
-          '-',
-          Digit(civil.day / 10),
-          Digit(civil.day)};
+  return Text(
+      DigitsOf(civil.year / 100) | DigitsOf(civil.year % 100) << 16 | DigitsOf(civil.month) << 40 | kHyphens,
+      DigitsOf(civil.day));
 }
 
 }  // namespace amortix2

@@ -55,44 +55,41 @@ void Variant::ArrayNode::Release(ArrayNode* node) noexcept {
 
 void Variant::RaiseTypeMismatch() { Raise(ErrorNumber::TypeMismatch); }
 
-Variant::Variant(Array array) : type_(VariantType::Array) {
-  Store(std::make_unique<ArrayNode>(std::move(array)).release());
-  textLength_ = kOnHeap;
+Variant::Variant(Array array) {
+  Own(VariantType::Array, std::make_unique<ArrayNode>(std::move(array)).release());
 }
 
 void Variant::StoreText(std::string_view text) {
   if (text.size() <= kInlineText) {
-    std::copy_n(text.data(), text.size(), storage_);
-    textLength_ = static_cast<std::uint8_t>(text.size());
+    Bytes bytes{static_cast<unsigned char>(VariantType::String), static_cast<unsigned char>(text.size())};
+    std::copy_n(text.data(), text.size(), bytes.data() + kInlineTextAt);
+    words_ = std::bit_cast<Words>(bytes);
   } else {
-    Store(std::make_unique<std::string>(text).release());
-    textLength_ = kOnHeap;
+    Own(VariantType::String, std::make_unique<std::string>(text).release());
   }
 }
 
 void Variant::CopyHeap(const Variant& other) {
-  if (type_ == VariantType::String) {
+  if (other.Type() == VariantType::String) {
     StoreText(other.GetString());
   } else {
     const NestingLevel level;
-    Store(std::make_unique<ArrayNode>(other.GetArray()).release());
-    textLength_ = kOnHeap;
+    Own(VariantType::Array, std::make_unique<ArrayNode>(other.GetArray()).release());
   }
 }
 
 void Variant::ReleaseHeap() noexcept {
-  if (type_ == VariantType::String) {
+  if (Type() == VariantType::String) {
     delete Payload<std::string*>();
   } else {
     ArrayNode::Release(Payload<ArrayNode*>());
   }
-  textLength_ = 0;
 }
 
 std::string_view Variant::GetString() const {
-  if (type_ != VariantType::String) RaiseTypeMismatch();
+  if (Type() != VariantType::String) RaiseTypeMismatch();
   if (OwnsHeap()) return *Payload<std::string*>();
-  return {reinterpret_cast<const char*>(storage_), textLength_};
+  return {reinterpret_cast<const char*>(words_.data()) + kInlineTextAt, Byte(1)};
 }
 
 const Array& Variant::GetArray() const { return Load<ArrayNode*>(VariantType::Array)->array; }
@@ -100,8 +97,8 @@ const Array& Variant::GetArray() const { return Load<ArrayNode*>(VariantType::Ar
 Array& Variant::GetArray() { return Load<ArrayNode*>(VariantType::Array)->array; }
 
 bool operator==(const Variant& a, const Variant& b) {
-  if (a.type_ != b.type_) return false;
-  switch (a.type_) {
+  if (a.Type() != b.Type()) return false;
+  switch (a.Type()) {
     case VariantType::Empty:
     case VariantType::Null:
     case VariantType::Missing:
@@ -112,8 +109,8 @@ bool operator==(const Variant& a, const Variant& b) {
       const NestingLevel level;
       return a.GetArray() == b.GetArray();
     }
-    default:  // unused payload bytes are always zero
-      return a.Payload<std::uint64_t>() == b.Payload<std::uint64_t>();
+    default:
+      return a.words_ == b.words_;
   }
 }
 

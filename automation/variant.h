@@ -5,6 +5,8 @@
 // Copies are deep (a copied array is another array), moves are cheap and leave Empty behind. Text is UTF-8.
 // Not safe for two threads to write at once; any number may read.
 
+#include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -47,24 +49,38 @@ inline constexpr int kDeepestNesting = 1000;
 
 class Variant {
  public:
-  Variant() noexcept : type_(VariantType::Empty) {}
+  Variant() noexcept = default;
   // Implicit on purpose: a result is written as `vResPayment = loan.payment`.
-  Variant(NullValue) noexcept : type_(VariantType::Null) {}
-  Variant(MissingValue) noexcept : type_(VariantType::Missing) {}
-  Variant(bool value) noexcept : type_(VariantType::Boolean) { Store(value); }
-  Variant(std::uint8_t value) noexcept : type_(VariantType::Byte) { Store(value); }
-  Variant(std::int16_t value) noexcept : type_(VariantType::Integer) { Store(value); }
-  Variant(std::int32_t value) noexcept : type_(VariantType::Long) { Store(value); }
-  Variant(double value) noexcept : type_(VariantType::Double) { Store(value); }
-  Variant(Currency value) noexcept : type_(VariantType::Currency) { Store(value); }
-  Variant(Date value) noexcept : type_(VariantType::Date) { Store(value); }
-  Variant(std::string_view text) : type_(VariantType::String) { StoreText(text); }
+  Variant(NullValue) noexcept : words_{Head(VariantType::Null), 0} {}
+  Variant(MissingValue) noexcept : words_{Head(VariantType::Missing), 0} {}
+  Variant(bool value) noexcept : words_{Head(VariantType::Boolean), Word(value)} {}
+  Variant(std::uint8_t value) noexcept : words_{Head(VariantType::Byte), Word(value)} {}
+  Variant(std::int16_t value) noexcept : words_{Head(VariantType::Integer), Word(value)} {}
+  Variant(std::int32_t value) noexcept : words_{Head(VariantType::Long), Word(value)} {}
+  Variant(double value) noexcept : words_{Head(VariantType::Double), Word(value)} {}
+  Variant(Currency value) noexcept : words_{Head(VariantType::Currency), Word(value)} {}
+  Variant(Date value) noexcept : words_{Head(VariantType::Date), Word(value)} {}
+  Variant(std::string_view text) { StoreText(text); }
   Variant(const char* text) : Variant(std::string_view(text)) {}
+  Variant(const DateText& text) noexcept {
+    std::uint64_t firstEight = 0;
+    std::uint64_t lastTwo = 0;
+    std::memcpy(&firstEight, text.data(), 8);
+    std::memcpy(&lastTwo, text.data() + 8, 2);
+    static_assert(std::endian::native == std::endian::little && kInlineTextAt == 2);
+    words_ = {Head(VariantType::String, sizeof text) | firstEight << 16, firstEight >> 48 | lastTwo << 16};
+  }
   Variant(const void*) = delete;  // or a pointer would silently be a Boolean
   Variant(Array array);
 
-  Variant(const Variant& other) : type_(other.type_) { CopyFrom(other); }
-  Variant(Variant&& other) noexcept : type_(other.type_) { TakeFrom(other); }
+  Variant(const Variant& other) {
+    if (other.OwnsHeap()) {
+      CopyHeap(other);
+    } else {
+      words_ = other.words_;
+    }
+  }
+  Variant(Variant&& other) noexcept : words_(std::exchange(other.words_, Words{})) {}
   Variant& operator=(const Variant& other) {
     if (this != &other) *this = Variant(other);
     return *this;
@@ -73,14 +89,15 @@ class Variant {
     if (this != &other) {
       // Released only at the end: `other` may be a cell of the array that is replaced.
       const Variant replaced(std::move(*this));
-      type_ = other.type_;
-      TakeFrom(other);
+      words_ = std::exchange(other.words_, Words{});
     }
     return *this;
   }
-  ~Variant() { Release(); }
+  ~Variant() {
+    if (OwnsHeap()) ReleaseHeap();
+  }
 
-  VariantType Type() const noexcept { return type_; }
+  VariantType Type() const noexcept { return static_cast<VariantType>(Byte(0)); }
 
   // The value as it is held, without conversion (automation/conversion.h converts). Each raises TypeMismatch
   // when the variant is of another type.
@@ -101,55 +118,49 @@ class Variant {
  private:
   struct ArrayNode;
 
-  static constexpr std::size_t kInlineText = 14;
-  static constexpr std::size_t kPayload = 6;  // offset in storage_: eight bytes into the object
+  // Byte 0 is the type; byte 1 the length of a text held inside, which follows it, or kOnHeap; bytes 8 to 15
+  // are a number or an owned pointer, bytes that it leaves unused are zero. They are kept and moved as two
+  // words, which the processor hands from store to load.
+  using Words = std::array<std::uint64_t, 2>;
+  using Bytes = std::array<unsigned char, 16>;
+
+  static constexpr std::size_t kInlineTextAt = 2;
+  static constexpr std::size_t kInlineText = sizeof(Bytes) - kInlineTextAt;
   static constexpr std::uint8_t kOnHeap = 0xFF;
 
+  static constexpr std::uint64_t Head(VariantType type, std::uint8_t length = 0) noexcept {
+    return std::bit_cast<std::uint64_t>(std::array<std::uint8_t, 8>{static_cast<std::uint8_t>(type), length});
+  }
   template <class T>
-  void Store(T value) noexcept {
-    static_assert(sizeof(T) <= 8);
-    std::memcpy(storage_ + kPayload, &value, sizeof value);
+  static std::uint64_t Word(T value) noexcept {
+    std::uint64_t word = 0;
+    static_assert(sizeof value <= sizeof word);
+    std::memcpy(&word, &value, sizeof value);
+    return word;
   }
   template <class T>
   T Payload() const noexcept {
-    T value;
-    std::memcpy(&value, storage_ + kPayload, sizeof value);
-    return value;
+    std::array<unsigned char, sizeof(T)> bytes;
+    std::memcpy(bytes.data(), &words_[1], sizeof bytes);
+    return std::bit_cast<T>(bytes);
   }
   template <class T>
   T Load(VariantType type) const {
-    if (type_ != type) RaiseTypeMismatch();
+    if (Type() != type) RaiseTypeMismatch();
     return Payload<T>();
   }
   [[noreturn]] static void RaiseTypeMismatch();
 
-  bool OwnsHeap() const noexcept { return textLength_ == kOnHeap; }
+  unsigned char Byte(std::size_t index) const noexcept {
+    return reinterpret_cast<const unsigned char*>(words_.data())[index];
+  }
+  bool OwnsHeap() const noexcept { return Byte(1) == kOnHeap; }
+  void Own(VariantType type, const void* pointer) noexcept { words_ = {Head(type, kOnHeap), Word(pointer)}; }
   void StoreText(std::string_view text);
-  void CopyFrom(const Variant& other) {
-    if (other.OwnsHeap()) {
-      CopyHeap(other);
-    } else {
-      TakeBytes(other);
-    }
-  }
-  void TakeFrom(Variant& other) noexcept {
-    TakeBytes(other);
-    other.type_ = VariantType::Empty;
-    other.textLength_ = 0;
-  }
-  void TakeBytes(const Variant& other) noexcept {
-    textLength_ = other.textLength_;
-    std::memcpy(storage_, other.storage_, sizeof storage_);
-  }
   void CopyHeap(const Variant& other);
-  void Release() noexcept {
-    if (OwnsHeap()) ReleaseHeap();
-  }
   void ReleaseHeap() noexcept;
 
-  alignas(8) VariantType type_;
-  std::uint8_t textLength_ = 0;  // bytes of an inline text; kOnHeap when the payload is an owned pointer
-  unsigned char storage_[14] = {};
+  Words words_{};
 };
 
 static_assert(sizeof(Variant) == 16);

@@ -10,7 +10,7 @@ void LoadDetArray(const tLoanDesc& loan, std::int16_t atCol, std::int16_t lastRo
   for (std::int32_t row = 0; row <= lastRow; ++row) {
     if (static_cast<std::size_t>(row) >= loan.schedule.size()) Raise(ErrorNumber::SubscriptOutOfRange);
     const tSchedule& line = loan.schedule[static_cast<std::size_t>(row)];
-    detArray.At(row, atCol) = View(FormatMonthDayYear(line.lineDate));
+    detArray.At(row, atCol) = FormatMonthDayYear(line.lineDate);
     detArray.At(row, atCol + 1) = line.payment;
     detArray.At(row, atCol + 2) = line.startingBalance - line.endingBalance;
     detArray.At(row, atCol + 3) = line.intCharged;
@@ -19,7 +19,7 @@ void LoadDetArray(const tLoanDesc& loan, std::int16_t atCol, std::int16_t lastRo
   }
   const CivilDate start = ToCivil(loan.startDate);
   const Date shown = MakeDate(start.year, start.month, start.day - loan.startDateDelay);
-  detArray.At(0, atCol) = View(FormatMonthDayYear(shown));
+  detArray.At(0, atCol) = FormatMonthDayYear(shown);
 }
 
 }  // namespace amortix2
