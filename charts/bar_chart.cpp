@@ -1,0 +1,141 @@
+#include "charts/bar_chart.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "automation/array.h"
+#include "automation/conversion.h"
+#include "charts/bar_layout.h"
+#include "charts/chart_table.h"
+#include "charts/horizontal_plot.h"
+#include "charts/page_text.h"
+#include "charts/upright_plot.h"
+
+namespace amortix2 {
+namespace {
+
+enum class BarMode : std::uint8_t { Plain, Stacked, Overlapped, Horizontal };
+
+struct ChartStyle {
+  std::string_view keyword;
+  BarMode mode = BarMode::Plain;
+  bool reversed = false;  // the series' order when stacked, the rows' when horizontal
+  bool line = false;      // no background, and values below zero whatever the settings
+};
+
+constexpr ChartStyle kStyles[] = {
+    {"OL", BarMode::Overlapped}, {"OV", BarMode::Overlapped},       {"OR", BarMode::Overlapped},
+    {"ST", BarMode::Stacked},    {"SR", BarMode::Stacked, true},    {"LINE", BarMode::Plain, false, true},
+    {"HZ", BarMode::Horizontal}, {"HR", BarMode::Horizontal, true},
+};
+
+ChartStyle FindStyle(const Variant& typ) {
+  if (typ.Type() != VariantType::String) return {};
+  const auto style = std::ranges::find(kStyles, typ.GetString(), &ChartStyle::keyword);
+  return style == std::end(kStyles) ? ChartStyle{} : *style;
+}
+
+bool KeepsNegatives(const ChartStyle& style, const BarChartSettings& settings) {
+  const bool canHang = style.mode == BarMode::Plain || style.mode == BarMode::Overlapped;
+  return style.line || (canHang && settings.negativeBars);
+}
+
+// Turns round the order of as many series as there are images. Every bound is checked before the first
+// exchange.
+void ReverseSeries(Array& data, Array& images, Array& legends) {
+  const std::int32_t last = images.Dimension(1).upper;
+  if (last < 2) return;
+  const std::int32_t rows = data.Dimension(1).upper;
+  for (const std::int32_t series : {1, last}) {
+    static_cast<void>(images.At(series));
+    static_cast<void>(legends.At(series));
+    static_cast<void>(data.At(0, series));
+    static_cast<void>(data.At(std::max(rows, 0), series));
+  }
+  for (std::int32_t i = 1, j = last; i < j; ++i, --j) {
+    SwapValues(images.At(i), images.At(j));
+    SwapValues(legends.At(i), legends.At(j));
+    for (std::int32_t row = 0; row <= rows; ++row) SwapValues(data.At(row, i), data.At(row, j));
+  }
+}
+
+std::vector<std::string> ReadList(const Variant& list, std::int32_t last) {
+  std::vector<std::string> texts(1);
+  for (std::int32_t i = 1; i <= last; ++i) texts.push_back(PageText(list, i));
+  return texts;
+}
+
+std::unique_ptr<Plot> MakePlot(BarMode mode, const BarChartInput& input) {
+  const std::int32_t rows = input.values.Rows();
+  const std::int32_t series = input.values.Series();
+  switch (mode) {
+    case BarMode::Stacked:
+      return std::make_unique<UprightPlot>(input, StackedGroup(input.settings, rows, series));
+    case BarMode::Overlapped:
+      if (series < 2) break;
+      return std::make_unique<UprightPlot>(input, OverlappedGroup(input.settings, rows, series));
+    case BarMode::Horizontal:
+      return std::make_unique<HorizontalPlot>(input);
+    case BarMode::Plain:
+      break;
+  }
+  return std::make_unique<UprightPlot>(input, PlainGroup(input.settings, rows, series));
+}
+
+}  // namespace
+
+ValueLabels ReadValueLabels(const Variant& mode) {
+  const double written = NumericOrZero(mode);
+  return written == 11 ? ValueLabels::All : written == 3 ? ValueLabels::EndsAndMiddle : ValueLabels::Ends;
+}
+
+void SetImage(std::string& url, const Variant& value) {
+  if (value.Type() == VariantType::String) url = value.GetString();
+}
+
+Variant DrawBarChart(const BarChartSettings& settings, Variant& vColDat, const Variant& blnk, Variant& Colgif,
+                     Variant& Colleg, const Variant& Ttl, const Variant& Xaxis, const Variant& Yaxis,
+                     const Variant& typ) {
+  const ChartStyle style = FindStyle(typ);
+  const bool stacked = style.mode == BarMode::Stacked;
+  Array& data = PageArray(vColDat);
+  if (stacked && style.reversed) ReverseSeries(data, PageArray(Colgif), PageArray(Colleg));
+
+  ChartTable values = PrepareTable(data, KeepsNegatives(style, settings));
+  if (values.Rows() < 1 || values.Series() < 1) Raise(ErrorNumber::DivisionByZero);
+  if (style.mode == BarMode::Horizontal && style.reversed) ReverseRows(values);
+  const std::optional<ChartTable> totals = stacked ? std::optional(RunningTotals(values)) : std::nullopt;
+  const ChartTable& drawn = totals ? *totals : values;
+
+  const bool hasLegend = settings.showLegend && values.Series() > 1;
+  const bool needsLegends = hasLegend || settings.altLabelWithLegend;
+  const BarChartTexts texts{
+      .blank = PageText(blnk),
+      .background = style.line ? std::string() : PageText(Colgif, 0),
+      .images = ReadList(Colgif, values.Series()),
+      .legends = needsLegends ? ReadList(Colleg, values.Series()) : std::vector<std::string>(),
+      .frameTitle = PageText(Ttl, 1),
+      .chartTitle = PageText(Ttl, 2),
+      .xCaption = PageText(Xaxis),
+      .yCaption = PageText(Yaxis),
+  };
+  const BarChartInput input{
+      .settings = settings,
+      .texts = texts,
+      .values = values,
+      .drawn = drawn,
+      .axis = TableAxis(drawn),
+      .hasBackground = !style.line,
+      .hasLegend = hasLegend,
+      .reversedLegend = stacked && style.reversed,
+  };
+  MarkupWriter out;
+  WriteBarChart(out, input, *MakePlot(style.mode, input));
+  return out.Finish();
+}
+
+}  // namespace amortix2

@@ -1,0 +1,74 @@
+#include "charts/horizontal_plot.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "automation/number_format.h"
+#include "charts/bar_cells.h"
+
+// All bars and gaps are rows of one pile, so that every bar starts at the axis whatever its length.
+
+namespace amortix2 {
+
+HorizontalPlot::HorizontalPlot(const BarChartInput& input)
+    : input_(input),
+      length_(input.settings.graph.width),
+      thickness_(HorizontalBarThickness(input.settings, input.drawn.Rows(), input.drawn.Series())),
+      pitch_(thickness_ * (input.drawn.Series() + 1)) {}
+
+Pixels HorizontalPlot::AxisHeight() const { return pitch_ * input_.drawn.Rows() + thickness_; }
+
+Pixels HorizontalPlot::Width() const { return length_ + 1; }
+
+void HorizontalPlot::WriteSideLabels(MarkupWriter& out) const {
+  constexpr Pixels kTextHeight = 10;  // of the smallest font: labels closer than that leave some out
+  constexpr Pixels kLargestLine =
+      20;  // of any browser's line of text: lower rows must not grow with their text
+  const TextStyle style = AxisLabelStyle(input_.settings);
+  const Markup fixed = pitch_ < kLargestLine ? Markup("STYLE=%line-height:1px% ") : Markup("");
+  const auto row = [&](Pixels height, const auto&... content) {
+    out.Line("<TR>");
+    out.Line("<TD VALIGN=%middle% ALIGN=%right% NOWRAP ", fixed, "height=%", height, "% ", style.opening,
+             content..., style.closing, "</TD>");
+    out.Line("</TR>");
+  };
+  out.Line(kPlainTable);
+  // Half a gap less than a whole one, so that every label stands at the middle of its group.
+  row(thickness_ - thickness_ / 2, "<IMG src=%", input_.settings.spaceImage, "% >");
+  const Pixels interval = (kTextHeight - 1) / std::max<Pixels>(pitch_, 1) + 1;
+  for (std::int32_t group = 1; group <= input_.values.Rows(); ++group) {
+    const bool labelled = (group - 1) % interval == 0;
+    row(pitch_, labelled ? std::string_view(input_.values.Label(group)) : std::string_view());
+  }
+  out.Line("</TABLE>");
+}
+
+void HorizontalPlot::WriteBars(MarkupWriter& out) const {
+  const Markup edge = "bottom";
+  const auto space = [&](Pixels width) { PileRow(out, edge, {input_.texts.blank, "", width, thickness_}); };
+  OpenPile(out, edge);
+  space(length_);
+  for (std::int32_t row = 1; row <= input_.drawn.Rows(); ++row) {
+    for (std::int32_t series = 1; series <= input_.drawn.Series(); ++series) {
+      const Pixels bar = HorizontalBarLength(input_.drawn.At(row, series), input_.axis, length_);
+      if (bar <= 0) {
+        space(1);
+      } else {
+        const auto& image = input_.texts.images[static_cast<std::size_t>(series)];
+        PileRow(out, edge, {image, BarTooltip(input_, row, series), bar, thickness_});
+      }
+    }
+    space(length_);
+  }
+  ClosePile(out);
+}
+
+void HorizontalPlot::WriteBottomLabels(MarkupWriter& out) const {
+  const BarChartSettings& settings = input_.settings;
+  for (const LabelCell& cell : GridLabelCells(input_.axis, settings.valueLabels, length_)) {
+    const auto value = GridLabel(input_.axis, cell.index, settings.valueLabels);
+    WriteLabelCell(out, settings, cell, FormatNumber(*value, settings.valueLabelFormat));
+  }
+}
+
+}  // namespace amortix2

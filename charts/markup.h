@@ -1,0 +1,99 @@
+#pragma once
+
+// The writer that every fragment of an HTML chart passes through. The program's own literals hold "%" where
+// the page gets a double quote ("%%" for a percent sign); texts of the page (titles, labels, URLs) go out as
+// they are, so that pages can pass markup, and never become quotes. The result is an array of lines. One
+// writer serves one chart, on one thread.
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+#include "automation/array.h"
+#include "charts/tag_balance.h"
+
+namespace amortix2 {
+
+/// A literal of the program, with placeholders. Made from string literals only, at compile time.
+class Markup {
+ public:
+  template <std::size_t N>
+  consteval Markup(const char (&literal)[N]) : text_(literal, N - 1) {}
+  constexpr std::string_view Text() const noexcept { return text_; }
+
+ private:
+  std::string_view text_;
+};
+
+/// A number written with a blank in the place of the sign when it is not negative (" 300", "-5").
+struct SignedNumber {
+  std::int64_t value;
+};
+
+/// Builds with AMORTIX2_CHECK_TAGS check the nesting of tables, rows and cells.
+#ifdef AMORTIX2_CHECK_TAGS
+inline constexpr bool kCheckTags = true;
+#else
+inline constexpr bool kCheckTags = false;
+#endif
+
+class MarkupWriter {
+ public:
+  /// With `checkTags`, a fragment that breaks the nesting has kSyncError put in front of it.
+  explicit MarkupWriter(bool checkTags = kCheckTags) : checkTags_(checkTags) {}
+
+  /// Appends a fragment to the current line. Its parts: string literals and Markup, whose placeholders become
+  /// quotes; texts of the page (std::string, std::string_view), in which "%%" and a lone "%" both come out as
+  /// one
+  /// "%"; and numbers.
+  template <class... Parts>
+  void Append(const Parts&... parts) {
+    const std::size_t start = line_.size();
+    (Put(parts), ...);
+    if (checkTags_) Check(start);
+  }
+
+  /// Appends a fragment and ends the line. Raises OutOfMemory when the lines exceed the largest array.
+  template <class... Parts>
+  void Line(const Parts&... parts) {
+    Append(parts...);
+    EndLine();
+  }
+
+  /// The lines as an array from 0: an empty element, the lines in order, and what was written after the last
+  /// line end (an empty element when nothing was). Leaves the writer used up.
+  Array Finish();
+
+  /// The elements still open, when tags are checked; empty when all are closed.
+  std::string OpenElements() const { return tags_.OpenElements(); }
+
+ private:
+  template <std::size_t N>
+  void Put(const char (&literal)[N]) {
+    Substitute({literal, N - 1}, '"');
+  }
+  void Put(Markup literal) { Substitute(literal.Text(), '"'); }
+  void Put(std::string_view pageText) { Substitute(pageText, '%'); }
+  void Put(SignedNumber number);
+  template <class Number>
+  requires std::is_integral_v<Number>
+  void Put(Number number) { PutNumber(number); }
+
+  void Substitute(std::string_view text, char placeholder);
+  void PutNumber(std::int64_t number);
+  void Check(std::size_t start);
+  void EndLine();
+
+  std::string line_;
+  Array lines_{Bounds{0, 1}};
+  std::int32_t current_ = 1;  // where in lines_ the current line goes
+  bool checkTags_;
+  TagBalance tags_;
+};
+
+/// A number as SignedNumber has it, as text.
+std::string SignedText(std::int64_t number);
+
+}  // namespace amortix2

@@ -1,0 +1,124 @@
+#include "charts/upright_plot.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "automation/number_format.h"
+#include "charts/bar_cells.h"
+
+// A row of the plot is a row of cells: for every group its slices, then one free pixel. Where bars hang below
+// zero the whole is written twice, once for each side of the zero line, and a slice without a bar on that
+// side keeps its place with a blank image.
+
+namespace amortix2 {
+
+UprightPlot::UprightPlot(const BarChartInput& input, GroupPattern pattern)
+    : input_(input),
+      pattern_(std::move(pattern)),
+      groupsWidth_(pattern_.groups * pattern_.Pitch()),
+      split_(SplitAtZero(input.axis, input.settings.graph.height)) {}
+
+Pixels UprightPlot::AxisHeight() const { return input_.settings.graph.height; }
+
+Pixels UprightPlot::Width() const { return groupsWidth_ + 1; }
+
+void UprightPlot::WriteSideLabels(MarkupWriter& out) const {
+  const TextStyle style = AxisLabelStyle(input_.settings);
+  const Pixels height = AxisHeight();
+  const auto row = [&](Markup edge, Pixels rowHeight, const auto&... content) {
+    out.Line("<TR>");
+    out.Line("<TD VALIGN=%", edge, "% ALIGN=%right% height=%", rowHeight, "% ", style.opening, content...,
+             style.closing, "</TD>");
+    out.Line("</TR>");
+  };
+  out.Line("<TABLE width=33 BORDER=%0% height=%", SignedNumber{height}, "% CELLSPACING=%0% CELLPADDING=%0%>");
+  for (int line = 0; line <= kGridIntervals; ++line) {
+    const bool end = line == 0 || line == kGridIntervals;
+    const Markup edge = line == 0                ? Markup("top")
+                        : line == kGridIntervals ? Markup("bottom")
+                                                 : Markup("middle");
+    const Pixels rowHeight = height / (end ? 2 * kGridIntervals : kGridIntervals);
+    if (const auto value = GridLabel(input_.axis, line, input_.settings.valueLabels)) {
+      row(edge, rowHeight, FormatNumber(*value, input_.settings.valueLabelFormat));
+    } else {
+      row(edge, rowHeight, "<IMG src=%", input_.settings.spaceImage, "% >");
+    }
+  }
+  out.Line("</TABLE>");
+}
+
+void UprightPlot::WriteBars(MarkupWriter& out) const {
+  if (split_.zeroRow == kGridIntervals) return WriteGroups(out, Side::Above);
+  out.Line("<TD>", kPlainTable);
+  if (split_.zeroRow > 0) WriteAbove(out);
+  WriteZeroLine(out);
+  WriteBelow(out);
+  out.Line("</TABLE></TD>");
+}
+
+void UprightPlot::WriteAbove(MarkupWriter& out) const {
+  out.Line("<TR><TD>", kPlainTable);
+  out.Line("<TR height=%", split_.above, "% >");
+  WriteGroups(out, Side::Above);
+  out.Line("</TR></TABLE></TD></TR>");
+}
+
+void UprightPlot::WriteZeroLine(MarkupWriter& out) const {
+  out.Line("<TR height=%1% ><TD>");
+  out.Line("<IMG border=0 height=% 1% src=%", input_.settings.axisImage, "% width =%", groupsWidth_,
+           "% ></TD>");
+  out.Line("</TR>");
+}
+
+void UprightPlot::WriteBelow(MarkupWriter& out) const {
+  out.Line("<TR height=%", split_.below - 1, "% >");  // the zero line has the other pixel
+  out.Line("<TD VALIGN=%top%>", kPlainTable);
+  out.Line("<TR>");
+  WriteGroups(out, Side::Below);
+  out.Line("</TR></TABLE></TD></TR>");
+}
+
+void UprightPlot::WriteGroups(MarkupWriter& out, Side side) const {
+  std::vector<Pixels> heights(static_cast<std::size_t>(input_.drawn.Series()) + 1);
+  std::vector<Segment> segments;  // from the zero line outwards
+  for (std::int32_t row = 1; row <= pattern_.groups; ++row) {
+    for (std::int32_t series = 1; series <= input_.drawn.Series(); ++series) {
+      const Pixels height = split_.BarHeight(input_.drawn.At(row, series));
+      heights[static_cast<std::size_t>(series)] = height * static_cast<int>(side);
+    }
+    for (const Slice& slice : pattern_.slices) {
+      segments.clear();
+      Pixels reached = 0;
+      for (std::int32_t series = slice.last; series >= slice.first; --series) {
+        const Pixels height = heights[static_cast<std::size_t>(series)];
+        if (height <= reached) continue;
+        segments.push_back({series, height - reached});
+        reached = height;
+      }
+      if (side == Side::Above) std::ranges::reverse(segments);
+      WriteSlice(out, side, row, slice.width, segments);
+    }
+    SpacerCell(out, input_.texts.blank, 1);
+  }
+}
+
+void UprightPlot::WriteSlice(MarkupWriter& out, Side side, std::int32_t row, Pixels width,
+                             std::span<const Segment> segments) const {
+  if (segments.empty()) return SpacerCell(out, input_.texts.blank, width);
+  const Markup edge = side == Side::Above ? Markup("bottom") : Markup("top");
+  OpenPile(out, edge);
+  for (const Segment& segment : segments) {
+    const auto& image = input_.texts.images[static_cast<std::size_t>(segment.series)];
+    PileRow(out, edge, {image, BarTooltip(input_, row, segment.series), width, segment.height});
+  }
+  ClosePile(out);
+}
+
+void UprightPlot::WriteBottomLabels(MarkupWriter& out) const {
+  for (const LabelCell& cell : GroupLabelCells(pattern_.groups, pattern_.Pitch())) {
+    WriteLabelCell(out, input_.settings, cell, input_.values.Label(cell.index));
+  }
+}
+
+}  // namespace amortix2

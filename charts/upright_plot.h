@@ -1,0 +1,47 @@
+#pragma once
+
+// Bars that stand on the zero line, or hang from it: side by side, stacked and overlapped alike, told apart
+// by the pattern of their groups alone.
+
+#include <span>
+#include <vector>
+
+#include "charts/bar_chart_input.h"
+#include "charts/plot.h"
+
+namespace amortix2 {
+
+class UprightPlot : public Plot {
+ public:
+  /// `input` must outlive the plot.
+  UprightPlot(const BarChartInput& input, GroupPattern pattern);
+
+  Pixels AxisHeight() const override;
+  Pixels Width() const override;
+  void WriteSideLabels(MarkupWriter& out) const override;
+  void WriteBars(MarkupWriter& out) const override;
+  void WriteBottomLabels(MarkupWriter& out) const override;
+
+ private:
+  enum class Side : std::int8_t { Above = 1, Below = -1 };
+
+  /// A bar's visible part in one slice.
+  struct Segment {
+    std::int32_t series;
+    Pixels height;
+  };
+
+  void WriteAbove(MarkupWriter& out) const;
+  void WriteZeroLine(MarkupWriter& out) const;
+  void WriteBelow(MarkupWriter& out) const;
+  void WriteGroups(MarkupWriter& out, Side side) const;
+  void WriteSlice(MarkupWriter& out, Side side, std::int32_t row, Pixels width,
+                  std::span<const Segment> segments) const;
+
+  const BarChartInput& input_;
+  GroupPattern pattern_;
+  Pixels groupsWidth_;
+  VerticalSplit split_;
+};
+
+}  // namespace amortix2

@@ -1,0 +1,49 @@
+// Writes the gallery of bar charts as web pages:
+//
+//     node examples/gallery/gallery.mjs build/release/bin/amortix2 build/gallery
+//
+// All charts are asked for in one batch.
+
+import { spawnSync } from "node:child_process";
+import { mkdirSync, writeFileSync } from "node:fs";
+import { join } from "node:path";
+import { pathToFileURL } from "node:url";
+import { pages } from "./charts.mjs";
+
+/** The markup of every request, in order. */
+export function render(amortix2, requests) {
+  const input = requests.map((request) => JSON.stringify(request)).join("\n") + "\n";
+  const run = spawnSync(amortix2, ["batch"], { input, encoding: "utf8", maxBuffer: 1 << 28 });
+  if (run.error ?? run.status !== 0) throw run.error ?? new Error(run.stderr);
+  return run.stdout.trim().split("\n").map((line) => {
+    const reply = JSON.parse(line);
+    if (reply.error) throw new Error(`${reply.id}: ${reply.error.name}`);
+    return reply.results.vRes.filter((text) => text !== null).join("\n");
+  });
+}
+
+/** A page around markup. In standards mode cells keep the height of their images only with the rule for images. */
+export function page(body, doctype = "<!DOCTYPE html>") {
+  const style = `td img{display:block} .title{background:#336;color:#fff} .frame{background:#99c}
+    .chtitle,.xylabel{font:bold 14px sans-serif} .xyaxis{font:10px sans-serif}`;
+  return `${doctype}<html><head><meta charset="utf-8"><title>Bar charts</title><style>${style}</style></head>
+    <body>${body}</body></html>`;
+}
+
+function main(amortix2, folder) {
+  mkdirSync(folder, { recursive: true });
+  const links = pages.map(({ name, charts }) => {
+    const file = `${name.replace(" ", "-").toLowerCase()}.html`;
+    writeFileSync(join(folder, file), page(render(amortix2, charts).join("<hr>\n")));
+    return `<li><a href="${file}">${name}</a></li>`;
+  });
+  writeFileSync(join(folder, "index.html"), page(`<ul>${links.join("\n")}</ul>`));
+}
+
+if (import.meta.url === pathToFileURL(process.argv[1] ?? "").href) {
+  if (process.argv.length !== 4) {
+    console.error("usage: node gallery.mjs AMORTIX2 FOLDER");
+    process.exit(2);
+  }
+  main(process.argv[2], process.argv[3]);
+}
