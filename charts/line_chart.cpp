@@ -1,14 +1,14 @@
 #include "charts/line_chart.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <vector>
+#include <utility>
 
 #include "automation/array.h"
 #include "automation/conversion.h"
 #include "automation/error.h"
 #include "charts/axis_range.h"
+#include "charts/chart_table.h"
 #include "charts/gif_writer.h"
 #include "charts/thick_line.h"
 
@@ -26,41 +26,18 @@ constexpr std::uint8_t kWhite = 255;
 constexpr int kGridRadius = 1;    // lines of one pixel
 constexpr int kSeriesRadius = 2;  // lines of three pixels
 
-// The numbers of a chart: rows 0 to R and columns 0 to C.
-struct ChartTable {
-  std::int32_t lastRow;
-  std::int32_t lastColumn;
-  std::vector<double> values;
-
-  double At(std::int32_t row, std::int32_t column) const {
-    return values[static_cast<std::size_t>(row) * static_cast<std::size_t>(lastColumn + 1) +
-                  static_cast<std::size_t>(column)];
-  }
-};
-
-ChartTable ReadTable(const Variant& columns) {
+ChartTable ReadNumbers(const Variant& columns) {
   if (columns.Type() != VariantType::Array || columns.GetArray().Rank() != 2) {
     Raise(ErrorNumber::SubscriptOutOfRange);
   }
   const Array& array = columns.GetArray();
-  const Bounds rows = array.Dimension(1);
-  const Bounds series = array.Dimension(2);
-  if (rows.lower != 0 || series.lower != 0) Raise(ErrorNumber::SubscriptOutOfRange);
-  ChartTable table{rows.upper, series.upper, std::vector<double>(array.Cells().size())};
-  std::ranges::transform(array.Cells(), table.values.begin(), NumericOrZero);
-  return table;
-}
-
-AxisRange FindAxis(const ChartTable& table) {
-  double largest = 0;
-  double smallest = 0;
-  for (std::int32_t row = 0; row <= table.lastRow; ++row) {
-    for (std::int32_t column = 1; column <= table.lastColumn; ++column) {
-      largest = std::max(largest, table.At(row, column));
-      smallest = std::min(smallest, table.At(row, column));
+  ChartTable table(array.Dimension(1).upper, array.Dimension(2).upper);
+  for (std::int32_t row = 0; row <= table.Rows(); ++row) {
+    for (std::int32_t series = 1; series <= table.Series(); ++series) {
+      table.At(row, series) = NumericOrZero(array.At(row, series));
     }
   }
-  return FindAxisRange(largest, smallest);
+  return table;
 }
 
 // Where a value lies between two pixels when `lowValue` lies on the first and `highValue` on the second.
@@ -82,15 +59,16 @@ class Plot {
     }
   }
 
-  void DrawSeries(const ChartTable& table, std::int32_t column) {
-    const std::uint8_t colour = ToByte(column);
-    const auto point = [&](std::int32_t row) {
-      return Point{MapToPixel(row, 1, table.lastRow, 0, raster_.Width() - 1), Row(table.At(row, column))};
+  void DrawSeries(const ChartTable& table, std::int32_t series) {
+    const std::uint8_t colour = ToByte(series);
+    const std::int32_t points = table.Rows();
+    if (points < 2) return;
+    const auto place = [&](std::int32_t row) {
+      return Point{MapToPixel(row, 1, points, 0, raster_.Width() - 1), Row(table.At(row, series))};
     };
-    if (table.lastRow < 2) return;
-    Point from = point(1);
-    for (std::int32_t row = 2; row <= table.lastRow; ++row) {
-      const Point to = point(row);
+    Point from = place(1);
+    for (std::int32_t row = 2; row <= points; ++row) {
+      const Point to = place(row);
       DrawThickLine(raster_, from, to, kSeriesRadius, colour);
       from = to;
     }
@@ -115,10 +93,10 @@ void SetChartColours(Palette& palette) {
 }  // namespace
 
 Raster DrawLineChart(GraphSize size, const Variant& columns) {
-  const ChartTable table = ReadTable(columns);
-  Plot plot(size, FindAxis(table));
+  const ChartTable table = ReadNumbers(columns);
+  Plot plot(size, TableAxis(table));
   plot.DrawGrid();
-  for (std::int32_t column = 1; column <= table.lastColumn; ++column) plot.DrawSeries(table, column);
+  for (std::int32_t series = 1; series <= table.Series(); ++series) plot.DrawSeries(table, series);
   return plot.Release();
 }
 

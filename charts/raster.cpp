@@ -58,7 +58,9 @@ Palette::Palette(std::int32_t colours, std::int32_t components)
 void Palette::Set(std::int32_t colour, Rgb rgb) {
   if (colour < 0 || colour >= colours_ || components_ < 3) Raise(ErrorNumber::SubscriptOutOfRange);
   const auto first = values_.begin() + std::ptrdiff_t{colour} * components_;
-  std::ranges::copy(std::initializer_list{rgb.red, rgb.green, rgb.blue}, first);
+  first[0] = rgb.red;
+  first[1] = rgb.green;
+  first[2] = rgb.blue;
 }
 
 Raster ReadRaster(const Variant& image) {

@@ -119,6 +119,7 @@ constexpr TypeKind KindOf() {
   if constexpr (std::same_as<T, Variant>) return TypeKind::Variant;
   if constexpr (std::same_as<T, double>) return TypeKind::Double;
   if constexpr (std::same_as<T, std::int16_t>) return TypeKind::Integer;
+  if constexpr (std::same_as<T, std::uint8_t>) return TypeKind::Integer;  // of 8 bits, as `write` checks
   if constexpr (std::same_as<T, std::int32_t>) return TypeKind::Long;
   if constexpr (std::same_as<T, std::string>) return TypeKind::String;
   if constexpr (std::same_as<T, Date>) return TypeKind::Date;
@@ -145,6 +146,8 @@ void Write(void* value, const Variant& from) {
   T& typed = *static_cast<T*>(value);
   if constexpr (std::same_as<T, std::int16_t>) {
     typed = ToInteger(ToDouble(from));
+  } else if constexpr (std::same_as<T, std::uint8_t>) {
+    typed = ToByte(ToDouble(from));
   } else if constexpr (std::same_as<T, std::int32_t> || std::is_enum_v<T>) {
     typed = static_cast<T>(ToLong(ToDouble(from)));
   } else if constexpr (std::same_as<T, double>) {

@@ -1,0 +1,28 @@
+#include "component/gif_chart.h"
+
+#include <utility>
+
+#include "automation/conversion.h"
+#include "charts/gif_file.h"
+#include "charts/gif_writer.h"
+#include "charts/line_chart.h"
+
+namespace amortix2 {
+
+void GifChart::OnStartPage(std::shared_ptr<ScriptingContext> iScriptingContext) {
+  context_ = std::move(iScriptingContext);
+}
+
+void GifChart::writeGifFile(const std::string& nm, const Variant& vImg, const Variant& vPal) {
+  WriteWholeFile(nm, EncodeGif(ReadRaster(vImg), ReadPalette(vPal)));
+}
+
+void GifChart::DumpAFile(const Variant& x) { ReadThrough(ToText(x)); }
+
+void GifChart::LineChart(const Variant& vColDat, const Variant& vPal, const Variant& /*typ*/) {
+  SendLineChart(size_, vColDat, vPal, context_.get());
+}
+
+void GifChart::SetGraphDimensions(const Variant& height, const Variant& width) { size_.Set(height, width); }
+
+}  // namespace amortix2

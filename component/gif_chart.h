@@ -1,0 +1,39 @@
+#pragma once
+
+// The automation class GifChart: line charts as GIF images. As a page object it is handed the page's context
+// when the page starts, and sends charts to that page's response; rasters can also be written to files. Every
+// method delegates to charts/. One object serves one thread at a time.
+
+#include <memory>
+#include <string>
+
+#include "automation/page.h"
+#include "automation/variant.h"
+#include "charts/graph_size.h"
+
+namespace amortix2 {
+
+class GifChart {
+ public:
+  /// Keeps the context for later charts, in place of an earlier one.
+  void OnStartPage(std::shared_ptr<ScriptingContext> iScriptingContext);
+
+  /// Writes a raster and its palette as the GIF file `nm`: charts/raster.h says how they are read, with which
+  /// errors, charts/gif_file.h how the file is written. After an error no file has changed.
+  void writeGifFile(const std::string& nm, const Variant& vImg, const Variant& vPal);
+
+  /// Reads the file named by `x` through once (charts/gif_file.h). Raises TypeMismatch when `x` has no text.
+  void DumpAFile(const Variant& x);
+
+  /// Draws a table and sends it to the page: charts/line_chart.h. `typ` is not used.
+  void LineChart(const Variant& vColDat, const Variant& vPal, const Variant& typ);
+
+  /// Height and width of the chart in pixels; 0 keeps the old value (charts/graph_size.h).
+  void SetGraphDimensions(const Variant& height, const Variant& width);
+
+ private:
+  GraphSize size_;
+  std::shared_ptr<ScriptingContext> context_;
+};
+
+}  // namespace amortix2

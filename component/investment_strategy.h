@@ -1,0 +1,18 @@
+#pragma once
+
+// The automation class InvestmentStrategy: from the answers to a risk questionnaire to an investment profile
+// and the split of an amount over asset classes. Keeps nothing between calls.
+
+#include "automation/variant.h"
+
+namespace amortix2 {
+
+class InvestmentStrategy {
+ public:
+  /// Chooses the profile and splits the amount: strategy/asset_allocation.h describes arguments, results,
+  /// errors.
+  void AssetAllocation(const Variant& vInvAmount, const Variant& vSurvey, Variant& vStratNumber,
+                       Variant& vStratTitle, Variant& vStratDesc, Variant& vResult);
+};
+
+}  // namespace amortix2
