@@ -55,41 +55,38 @@ void Variant::ArrayNode::Release(ArrayNode* node) noexcept {
 
 void Variant::RaiseTypeMismatch() { Raise(ErrorNumber::TypeMismatch); }
 
-Variant::Variant(Array array) {
-  Own(VariantType::Array, std::make_unique<ArrayNode>(std::move(array)).release());
-}
+Variant::Variant(Array array)
+    : words_(OnHeap(VariantType::Array, std::make_unique<ArrayNode>(std::move(array)).release())) {}
 
 void Variant::StoreText(std::string_view text) {
   if (text.size() <= kInlineText) {
-    Bytes bytes{static_cast<unsigned char>(VariantType::String), static_cast<unsigned char>(text.size())};
-    std::copy_n(text.data(), text.size(), bytes.data() + kInlineTextAt);
-    words_ = std::bit_cast<Words>(bytes);
+    words_.head = Head(VariantType::String, static_cast<std::uint8_t>(text.size()));
+    std::copy_n(text.data(), text.size(), reinterpret_cast<char*>(&words_) + kInlineTextAt);
   } else {
-    Own(VariantType::String, std::make_unique<std::string>(text).release());
+    words_ = OnHeap(VariantType::String, std::make_unique<std::string>(text).release());
   }
 }
 
-void Variant::CopyHeap(const Variant& other) {
+Variant::Words Variant::CopyHeap(const Variant& other) {
   if (other.Type() == VariantType::String) {
-    StoreText(other.GetString());
-  } else {
-    const NestingLevel level;
-    Own(VariantType::Array, std::make_unique<ArrayNode>(other.GetArray()).release());
+    return OnHeap(VariantType::String, std::make_unique<std::string>(other.GetString()).release());
   }
+  const NestingLevel level;
+  return OnHeap(VariantType::Array, std::make_unique<ArrayNode>(other.GetArray()).release());
 }
 
-void Variant::ReleaseHeap() noexcept {
-  if (Type() == VariantType::String) {
-    delete Payload<std::string*>();
+void Variant::ReleaseHeap(Words words) noexcept {
+  if (words.Type() == VariantType::String) {
+    delete FromPayload<std::string*>(words);
   } else {
-    ArrayNode::Release(Payload<ArrayNode*>());
+    ArrayNode::Release(FromPayload<ArrayNode*>(words));
   }
 }
 
 std::string_view Variant::GetString() const {
   if (Type() != VariantType::String) RaiseTypeMismatch();
-  if (OwnsHeap()) return *Payload<std::string*>();
-  return {reinterpret_cast<const char*>(words_.data()) + kInlineTextAt, Byte(1)};
+  if (words_.OwnHeap()) return *FromPayload<std::string*>(words_);
+  return {reinterpret_cast<const char*>(&words_) + kInlineTextAt, words_.TextLength()};
 }
 
 const Array& Variant::GetArray() const { return Load<ArrayNode*>(VariantType::Array)->array; }

@@ -53,13 +53,13 @@ class Variant {
   // Implicit on purpose: a result is written as `vResPayment = loan.payment`.
   Variant(NullValue) noexcept : words_{Head(VariantType::Null), 0} {}
   Variant(MissingValue) noexcept : words_{Head(VariantType::Missing), 0} {}
-  Variant(bool value) noexcept : words_{Head(VariantType::Boolean), Word(value)} {}
-  Variant(std::uint8_t value) noexcept : words_{Head(VariantType::Byte), Word(value)} {}
-  Variant(std::int16_t value) noexcept : words_{Head(VariantType::Integer), Word(value)} {}
-  Variant(std::int32_t value) noexcept : words_{Head(VariantType::Long), Word(value)} {}
-  Variant(double value) noexcept : words_{Head(VariantType::Double), Word(value)} {}
-  Variant(Currency value) noexcept : words_{Head(VariantType::Currency), Word(value)} {}
-  Variant(Date value) noexcept : words_{Head(VariantType::Date), Word(value)} {}
+  Variant(bool value) noexcept : words_{Head(VariantType::Boolean), Payload(value)} {}
+  Variant(std::uint8_t value) noexcept : words_{Head(VariantType::Byte), Payload(value)} {}
+  Variant(std::int16_t value) noexcept : words_{Head(VariantType::Integer), Payload(value)} {}
+  Variant(std::int32_t value) noexcept : words_{Head(VariantType::Long), Payload(value)} {}
+  Variant(double value) noexcept : words_{Head(VariantType::Double), Payload(value)} {}
+  Variant(Currency value) noexcept : words_{Head(VariantType::Currency), Payload(value)} {}
+  Variant(Date value) noexcept : words_{Head(VariantType::Date), Payload(value)} {}
   Variant(std::string_view text) { StoreText(text); }
   Variant(const char* text) : Variant(std::string_view(text)) {}
   Variant(const DateText& text) noexcept {
@@ -67,37 +67,28 @@ class Variant {
     std::uint64_t lastTwo = 0;
     std::memcpy(&firstEight, text.data(), 8);
     std::memcpy(&lastTwo, text.data() + 8, 2);
-    static_assert(std::endian::native == std::endian::little && kInlineTextAt == 2);
     words_ = {Head(VariantType::String, sizeof text) | firstEight << 16, firstEight >> 48 | lastTwo << 16};
   }
   Variant(const void*) = delete;  // or a pointer would silently be a Boolean
   Variant(Array array);
 
-  Variant(const Variant& other) {
-    if (other.OwnsHeap()) {
-      CopyHeap(other);
-    } else {
-      words_ = other.words_;
-    }
-  }
+  Variant(const Variant& other) : words_(other.words_.OwnHeap() ? CopyHeap(other) : other.words_) {}
   Variant(Variant&& other) noexcept : words_(std::exchange(other.words_, Words{})) {}
   Variant& operator=(const Variant& other) {
     if (this != &other) *this = Variant(other);
     return *this;
   }
   Variant& operator=(Variant&& other) noexcept {
-    if (this != &other) {
-      // Released only at the end: `other` may be a cell of the array that is replaced.
-      const Variant replaced(std::move(*this));
-      words_ = std::exchange(other.words_, Words{});
-    }
+    // Released only at the end: `other` may be a cell of the array that is replaced.
+    const Words replaced = std::exchange(words_, std::exchange(other.words_, Words{}));
+    if (replaced.OwnHeap()) ReleaseHeap(replaced);
     return *this;
   }
   ~Variant() {
-    if (OwnsHeap()) ReleaseHeap();
+    if (words_.OwnHeap()) ReleaseHeap(words_);
   }
 
-  VariantType Type() const noexcept { return static_cast<VariantType>(Byte(0)); }
+  VariantType Type() const noexcept { return words_.Type(); }
 
   // The value as it is held, without conversion (automation/conversion.h converts). Each raises TypeMismatch
   // when the variant is of another type.
@@ -118,49 +109,56 @@ class Variant {
  private:
   struct ArrayNode;
 
-  // Byte 0 is the type; byte 1 the length of a text held inside, which follows it, or kOnHeap; bytes 8 to 15
-  // are a number or an owned pointer, bytes that it leaves unused are zero. They are kept and moved as two
-  // words, which the processor hands from store to load.
-  using Words = std::array<std::uint64_t, 2>;
-  using Bytes = std::array<unsigned char, 16>;
-
   static constexpr std::size_t kInlineTextAt = 2;
-  static constexpr std::size_t kInlineText = sizeof(Bytes) - kInlineTextAt;
+  static constexpr std::size_t kInlineText = 14;
   static constexpr std::uint8_t kOnHeap = 0xFF;
 
-  static constexpr std::uint64_t Head(VariantType type, std::uint8_t length = 0) noexcept {
-    return std::bit_cast<std::uint64_t>(std::array<std::uint8_t, 8>{static_cast<std::uint8_t>(type), length});
+  // Byte 0 is the type; byte 1 the length of a text held inside, which follows it, or kOnHeap; bytes 8 to 15
+  // are a number or an owned pointer, bytes that it leaves unused are zero. Two words that pass through
+  // registers: kept as bytes, a value would be stored in pieces and read back as a whole, which stalls the
+  // processor.
+  struct Words {
+    std::uint64_t head = 0;
+    std::uint64_t payload = 0;
+
+    VariantType Type() const noexcept { return static_cast<VariantType>(head & 0xFF); }
+    std::uint8_t TextLength() const noexcept { return static_cast<std::uint8_t>(head >> 8 & 0xFF); }
+    bool OwnHeap() const noexcept { return TextLength() == kOnHeap; }
+    friend bool operator==(const Words&, const Words&) = default;
+  };
+  static_assert(std::endian::native == std::endian::little);
+
+  static constexpr std::uint64_t Head(VariantType type, std::uint8_t textLength = 0) noexcept {
+    return static_cast<std::uint64_t>(type) | std::uint64_t{textLength} << 8;
   }
   template <class T>
-  static std::uint64_t Word(T value) noexcept {
+  static std::uint64_t Payload(T value) noexcept {
     std::uint64_t word = 0;
     static_assert(sizeof value <= sizeof word);
     std::memcpy(&word, &value, sizeof value);
     return word;
   }
   template <class T>
-  T Payload() const noexcept {
+  static T FromPayload(const Words& words) noexcept {
     std::array<unsigned char, sizeof(T)> bytes;
-    std::memcpy(bytes.data(), &words_[1], sizeof bytes);
+    std::memcpy(bytes.data(), &words.payload, sizeof bytes);
     return std::bit_cast<T>(bytes);
   }
   template <class T>
   T Load(VariantType type) const {
     if (Type() != type) RaiseTypeMismatch();
-    return Payload<T>();
+    return FromPayload<T>(words_);
   }
   [[noreturn]] static void RaiseTypeMismatch();
 
-  unsigned char Byte(std::size_t index) const noexcept {
-    return reinterpret_cast<const unsigned char*>(words_.data())[index];
+  static Words OnHeap(VariantType type, const void* pointer) noexcept {
+    return {Head(type, kOnHeap), Payload(pointer)};
   }
-  bool OwnsHeap() const noexcept { return Byte(1) == kOnHeap; }
-  void Own(VariantType type, const void* pointer) noexcept { words_ = {Head(type, kOnHeap), Word(pointer)}; }
   void StoreText(std::string_view text);
-  void CopyHeap(const Variant& other);
-  void ReleaseHeap() noexcept;
+  static Words CopyHeap(const Variant& other);
+  static void ReleaseHeap(Words words) noexcept;
 
-  Words words_{};
+  Words words_;
 };
 
 static_assert(sizeof(Variant) == 16);
