@@ -5,7 +5,8 @@
 namespace amortix2 {
 
 std::span<const ClassInfo* const> Classes() noexcept {
-  static constexpr std::array<const ClassInfo*, 1> kClasses{&kCalculatorClass};
+  static constexpr std::array<const ClassInfo*, 4> kClasses{&kCalculatorClass, &kBarChartClass,
+                                                            &kGifChartClass, &kInvestmentStrategyClass};
   return kClasses;
 }
 
