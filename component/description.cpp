@@ -4,17 +4,20 @@
 
 #include "component/classes.h"
 #include "component/describe.h"
+#include "component/gif_record_descriptions.h"
 #include "component/record_descriptions.h"
 
 namespace amortix2 {
 namespace {
 
-constexpr std::array<const RecordInfo*, 5> kRecords{
+constexpr std::array<const RecordInfo*, 7> kRecords{
     &DescribedRecord<tSchedule>::info,
     &DescribedRecord<tLoanDesc>::info,
     &DescribedRecord<tSavingsDesc>::info,
     &DescribedRecord<tGoalDesc>::info,
     &DescribedRecord<tCreditQualification>::info,
+    &DescribedRecord<GifHeader>::info,
+    &DescribedRecord<ImageBlock>::info,
 };
 
 constexpr std::array<const EnumerationInfo*, 5> kEnumerations{
