@@ -2,6 +2,7 @@
 
 #include "engine/amortix.h"
 #include "engine/detail_arrays.h"
+#include "engine/savings_detail.h"
 
 namespace amortix2 {
 
@@ -22,6 +23,11 @@ std::int32_t Calculator::Amortix(enumAmortixType AmortixType, RecordArray<tLoanD
 void Calculator::LoadDetArray(tLoanDesc& loan, std::int16_t atCol, std::int16_t lastRow,
                               Variant& detArray) const {
   amortix2::LoadDetArray(loan, atCol, lastRow, detArray.GetArray());
+}
+
+void Calculator::LoadSaveDetArray(tSavingsDesc& save, std::int16_t atCol, std::int16_t lastRow,
+                                  Variant& detArray) const {
+  amortix2::LoadSaveDetArray(save, atCol, lastRow, detArray.GetArray());
 }
 
 }  // namespace amortix2
