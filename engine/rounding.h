@@ -1,7 +1,7 @@
 #pragma once
 
 // How amounts and rates are rounded, and the guards that keep infinities and NaN out of every result. A half
-// rounds up, also below zero (-2.345 gives -2.34), and it is the exact value of the double that counts: 2.675
+// rounds up, also below zero (-0.125 gives -0.12), and it is the exact value of the double that counts: 2.675
 // lies just below its half and gives 2.67.
 
 #include <cmath>
