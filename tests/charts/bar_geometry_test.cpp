@@ -1,0 +1,117 @@
+#include "charts/bar_geometry.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "automation/error.h"
+
+namespace amortix2 {
+namespace {
+
+BarChartSettings Settings(double overlapCount = 3, std::int16_t width = 380) {
+  BarChartSettings settings;
+  settings.minimumOverlapCount = overlapCount;
+  settings.graph.width = width;
+  return settings;
+}
+
+std::string Describe(const GroupPattern& pattern) {
+  std::string text = std::to_string(pattern.groups) + " groups:";
+  for (const Slice& s : pattern.slices) {
+    text += " " + std::to_string(s.width);
+    if (s.first <= s.last) text += "[" + std::to_string(s.first) + "-" + std::to_string(s.last) + "]";
+  }
+  return text;
+}
+
+// 380 pixels wide unless said otherwise; figures worked out by hand.
+TEST(BarGeometry, GroupPatterns) {
+  BarChartSettings wide = Settings();
+  wide.maximumColumnWidth = 200;
+  BarChartSettings apart = Settings(1.5);
+  apart.minimumColumnWidth = 10;
+  const struct {
+    GroupPattern pattern;
+    std::string expected;
+  } cases[] = {
+      // (380 - rows) / bars, between 3 and 80.
+      {PlainGroup(Settings(), 12, 3), "12 groups: 10[1-1] 10[2-2] 10[3-3]"},
+      {PlainGroup(Settings(), 1, 2), "1 groups: 80[1-1] 80[2-2]"},
+      {PlainGroup(wide, 1, 2), "1 groups: 189[1-1] 189[2-2]"},
+      {PlainGroup(Settings(), 54, 2), "54 groups: 3[1-1] 3[2-2]"},
+      {PlainGroup(Settings(), 55, 2), "54 groups: 3[1-1] 3[2-2]"},  // 380 / 7 groups of 3 + 3 + 1 fit
+      {PlainGroup(Settings(3, 5), 3, 2), "0 groups: 3[1-1] 3[2-2]"},
+      // One pile in the middle.
+      {StackedGroup(Settings(), 12, 1), "12 groups: 30[1-1]"},
+      {StackedGroup(Settings(), 12, 2), "12 groups: 7 15[1-2] 8"},
+      // 30 / (3 + 3 - 1) = 6 stands out; every bar is three of these wide.
+      {OverlappedGroup(Settings(), 12, 3), "12 groups: 6[1-1] 6[1-2] 6[1-3] 6[2-3] 6[3-3]"},
+      {OverlappedGroup(Settings(2.5), 12, 2), "12 groups: 8[1-1] 8[1-2] 8[2-2]"},  // 2.5 rounds to even
+      // At most 80 / 3, to even: 27; at least 2.
+      {OverlappedGroup(Settings(), 1, 2), "1 groups: 27[1-1] 27[1-2] 27[1-2] 27[2-2]"},
+      {OverlappedGroup(Settings(), 300, 2), "300 groups: 2[1-1] 2[1-2] 2[1-2] 2[2-2]"},
+      // Below two spaces: 30 / 3.5 = 8, overlap 4 of it, 4 free between the overlaps.
+      {OverlappedGroup(Settings(1.5), 12, 3), "12 groups: 4[1-1] 4[1-1] 4[1-2] 4[2-2] 4[2-3] 4[3-3] 4[3-3]"},
+      // The overlap is at least a column: 8 - 10 leaves no gap, so all slices are 8.
+      {OverlappedGroup(apart, 12, 3), "12 groups: 8[1-1] 8[1-2] 8[2-3] 8[3-3]"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Describe(c.pattern), c.expected);
+
+  EXPECT_THROW(OverlappedGroup(Settings(0), 12, 3), AutomationError);
+  EXPECT_THROW(OverlappedGroup(Settings(-2), 12, 3), AutomationError);
+  EXPECT_THROW(OverlappedGroup(Settings(40000), 12, 3), AutomationError);
+}
+
+TEST(BarGeometry, BarHeights) {
+  const VerticalSplit both = SplitAtZero({54, -20, 7.4}, 100);  // zero row 54 / 7.4 = 7.3
+  EXPECT_EQ(both.above, 70);
+  EXPECT_EQ(both.below, 30);
+  EXPECT_EQ(both.BarHeight(50), 65);  // 64.81
+  EXPECT_EQ(both.BarHeight(-10), -15);
+  EXPECT_EQ(both.BarHeight(-20), -29);  // the zero line has the thirtieth
+  EXPECT_EQ(both.BarHeight(54.004), 70);
+  EXPECT_EQ(both.BarHeight(0), 0);
+
+  const VerticalSplit small = SplitAtZero({360, -1, 36.1}, 300);  // the small side rounds to no row
+  EXPECT_EQ(small.zeroRow, 10);
+  EXPECT_EQ(small.BarHeight(360), 300);
+  EXPECT_EQ(small.BarHeight(-1), 0);
+  const VerticalSplit large = SplitAtZero({1, -360, 36.1}, 300);
+  EXPECT_EQ(large.zeroRow, 0);
+  EXPECT_EQ(large.BarHeight(1), 0);
+  EXPECT_EQ(large.BarHeight(-180), -150);
+}
+
+TEST(BarGeometry, LabelRowsFillTheWidth) {
+  for (std::int32_t groups = 1; groups <= 400; ++groups) {
+    SCOPED_TRACE(groups);
+    const auto cells = GroupLabelCells(groups, 7);
+    Pixels end = 0;
+    std::int32_t labels = 0;
+    for (const LabelCell& cell : cells) {
+      const Pixels start = end;
+      end += cell.width;
+      ASSERT_GT(cell.width, 0);
+      if (cell.kind == LabelCell::Kind::Gap) continue;
+      ++labels;
+      const Pixels left = start - (cell.index - 1) * 7;  // how far the cell reaches beyond its group
+      const Pixels right = cell.index * 7 - end;
+      EXPECT_EQ(cell.kind == LabelCell::Kind::Left     ? left
+                : cell.kind == LabelCell::Kind::Middle ? left - right
+                                                       : right,
+                0);
+    }
+    EXPECT_EQ(end, groups * 7);
+    EXPECT_EQ(cells.back().index, groups);
+    EXPECT_TRUE(groups <= 12 ? labels == groups : labels >= 4 && labels <= 7) << labels;
+  }
+  for (const ValueLabels mode : {ValueLabels::Ends, ValueLabels::EndsAndMiddle, ValueLabels::All}) {
+    Pixels width = 0;
+    for (const LabelCell& cell : GridLabelCells({300, 0, 30}, mode, 380)) width += cell.width;
+    EXPECT_EQ(width, 381);
+  }
+}
+
+}  // namespace
+}  // namespace amortix2
