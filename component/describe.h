@@ -84,9 +84,12 @@ struct Signature<R (C::*)(Args...)> {
   using Result = R;
   using Arguments = std::tuple<Args...>;
   static constexpr std::size_t arity = sizeof...(Args);
+  static constexpr bool changesObject = true;
 };
 template <class C, class R, class... Args>
-struct Signature<R (C::*)(Args...) const> : Signature<R (C::*)(Args...)> {};
+struct Signature<R (C::*)(Args...) const> : Signature<R (C::*)(Args...)> {
+  static constexpr bool changesObject = false;
+};
 
 template <class F, std::size_t I>
 using Argument = std::tuple_element_t<I, typename Signature<F>::Arguments>;
@@ -119,7 +122,7 @@ constexpr TypeKind KindOf() {
   if constexpr (std::same_as<T, Variant>) return TypeKind::Variant;
   if constexpr (std::same_as<T, double>) return TypeKind::Double;
   if constexpr (std::same_as<T, std::int16_t>) return TypeKind::Integer;
-  if constexpr (std::same_as<T, std::uint8_t>) return TypeKind::Integer;  // of 8 bits, as `write` checks
+  if constexpr (std::same_as<T, std::uint8_t>) return TypeKind::Byte;
   if constexpr (std::same_as<T, std::int32_t>) return TypeKind::Long;
   if constexpr (std::same_as<T, std::string>) return TypeKind::String;
   if constexpr (std::same_as<T, Date>) return TypeKind::Date;
@@ -313,7 +316,7 @@ struct MemberDescription {
   std::array<ParameterInfo, N> parameters;
 
   constexpr MemberInfo Info() const {
-    return {NameOf<F>(), kind, help, parameters, ResultType<F>(), Call<F>};
+    return {NameOf<F>(), kind, help, parameters, ResultType<F>(), Call<F>, Signature<decltype(F)>::changesObject};
   }
 };
 

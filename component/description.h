@@ -46,6 +46,7 @@ struct EnumerationInfo;
 enum class TypeKind : std::uint8_t {
   Variant,
   Double,
+  Byte,     ///< 8 bits, unsigned
   Integer,  ///< 16 bits
   Long,     ///< 32 bits
   String,
@@ -140,6 +141,8 @@ struct MemberInfo {
   /// null exactly when the member returns nothing. Errors are raised as AutomationError; by-reference values
   /// then hold what had been written.
   void (*call)(void* object, std::span<void* const> arguments, void* result);
+
+  bool changesObject;  ///< false for a const member: any number of threads may call it at once
 };
 
 struct ClassInfo {

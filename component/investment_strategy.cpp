@@ -6,7 +6,7 @@ namespace amortix2 {
 
 void InvestmentStrategy::AssetAllocation(const Variant& vInvAmount, const Variant& vSurvey,
                                          Variant& vStratNumber, Variant& vStratTitle, Variant& vStratDesc,
-                                         Variant& vResult) {
+                                         Variant& vResult) const {
   AllocateAssets(vInvAmount, vSurvey, vStratNumber, vStratTitle, vStratDesc, vResult);
 }
 

@@ -12,7 +12,7 @@ class InvestmentStrategy {
   /// Chooses the profile and splits the amount: strategy/asset_allocation.h describes arguments, results,
   /// errors.
   void AssetAllocation(const Variant& vInvAmount, const Variant& vSurvey, Variant& vStratNumber,
-                       Variant& vStratTitle, Variant& vStratDesc, Variant& vResult);
+                       Variant& vStratTitle, Variant& vStratDesc, Variant& vResult) const;
 };
 
 }  // namespace amortix2

@@ -1,0 +1,12 @@
+# What both Windows targets share; AMORTIX2_MINGW is the tools' prefix.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_CXX_COMPILER ${AMORTIX2_MINGW}-g++-posix)
+set(CMAKE_RC_COMPILER ${AMORTIX2_MINGW}-windres)
+set(AMORTIX2_WIDL ${AMORTIX2_MINGW}-widl)
+set(CMAKE_FIND_ROOT_PATH /usr/${AMORTIX2_MINGW})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+# Nothing but Windows itself is needed at run time.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
+set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static")

@@ -1,0 +1,60 @@
+#pragma once
+
+// An object of the component as its clients see it: a dispatch interface made from the class's description.
+// Names are found whatever their case; a member's dispatch number is its place in the description.
+//
+// Threads: an object of a class that keeps no state may be called by any number of threads at once, and is
+// handed to other apartments as it is. Calls on an object that keeps settings wait for each other.
+
+#include <oleauto.h>
+#include <windows.h>
+
+#include <atomic>
+
+#include "com/call.h"
+#include "com/com_pointer.h"
+#include "com/failure.h"
+#include "com/module.h"
+#include "common/system_clock.h"
+#include "component/description.h"
+
+namespace amortix2 {
+
+class AutomationObject final : public IDispatch, public ISupportErrorInfo {
+ public:
+  /// Starts with one reference, the caller's. Raises what the class's constructor raises.
+  explicit AutomationObject(const ClassInfo& type);
+  AutomationObject(const AutomationObject&) = delete;
+  AutomationObject& operator=(const AutomationObject&) = delete;
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identifier, void** object) override;
+  ULONG STDMETHODCALLTYPE AddRef() override;
+  ULONG STDMETHODCALLTYPE Release() override;
+
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** type) override;
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale,
+                                          DISPID* numbers) override;
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID number, REFIID reserved, LCID locale, WORD flags,
+                                   DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* details,
+                                   UINT* argument) override;
+
+  HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID identifier) override;
+
+ private:
+  ~AutomationObject();
+
+  const MemberInfo* MemberFor(DISPID number, WORD flags) const noexcept;
+  void CallMember(const MemberInfo& member, const Binding& binding, VARIANT* result);
+
+  ModuleUse use_;
+  SystemClock clock_;
+  Object object_;
+  ErrorOrigin origin_;
+  bool keepsState_;
+  CRITICAL_SECTION calls_;  // re-entrant: a page may call the chart again from within BinaryWrite
+  ComPointer<IUnknown> marshaler_;
+  std::atomic<ULONG> references_ = 1;
+};
+
+}  // namespace amortix2

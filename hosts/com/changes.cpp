@@ -1,0 +1,94 @@
+#include "com/changes.h"
+
+#include "automation/array.h"
+#include "com/column_order.h"
+#include "com/records.h"
+#include "com/values.h"
+
+namespace amortix2 {
+namespace {
+
+bool SameShape(const Array& a, const Array& b) {
+  return a.Rank() == b.Rank() && a.Dimension(1) == b.Dimension(1) &&
+         (a.Rank() == 1 || a.Dimension(2) == b.Dimension(2));
+}
+
+bool BothOfSameShape(const Variant& a, const Variant& b) {
+  return a.Type() == VariantType::Array && b.Type() == VariantType::Array &&
+         SameShape(a.GetArray(), b.GetArray());
+}
+
+/// A variable declared with its bounds cannot take another array.
+void RequireReplaceable(const SAFEARRAY* array) {
+  if (array != nullptr && (array->fFeatures & (FADF_STATIC | FADF_FIXEDSIZE | FADF_EMBEDDED)) != 0) {
+    Raise(ErrorNumber::SubscriptOutOfRange);
+  }
+}
+
+}  // namespace
+
+void Changes::Add(Place place, const Variant& before, const Variant& after) {
+  if (before == after) return;
+  const VARIANT held = Peek(place);
+  if ((held.vt & VT_BYREF) != 0) {
+    return Add({static_cast<VARTYPE>(held.vt & ~VT_BYREF), held.byref}, before, after);
+  }
+  if ((held.vt & VT_ARRAY) != 0) {
+    const auto elementType = static_cast<VARTYPE>(held.vt & VT_TYPEMASK);
+    const bool typed = place.type != VT_VARIANT;  // only such an array must keep the type of its elements
+    if ((typed || elementType == VT_VARIANT) && BothOfSameShape(before, after)) {
+      return AddCells(held.parray, elementType, before.GetArray(), after.GetArray());
+    }
+    if (typed) RequireReplaceable(held.parray);
+  }
+  changes_.push_back({place, MakeValue(after, place.type)});
+}
+
+void Changes::AddCells(SAFEARRAY* array, VARTYPE elementType, const Array& before, const Array& after) {
+  const SafeArrayData data(array);
+  const ColumnOrder order(after);
+  for (std::size_t i = 0; i < after.Cells().size(); ++i) {
+    Add({elementType, data.At(order.Of(i))}, before.Cells()[i], after.Cells()[i]);
+  }
+}
+
+void Changes::AddRecord(const TypeLibrary& library, const RecordInfo& record, void* place, void* before,
+                        void* after) {
+  const RecordLayout& layout = library.Layout(record);
+  for (std::size_t i = 0; i < record.fields.size(); ++i) {
+    const FieldInfo& field = record.fields[i];
+    const Place fieldPlace = layout.Field(place, i);
+    if (field.type->kind == TypeKind::RecordArray) {
+      AddRecords(library, *field.type, *static_cast<SAFEARRAY**>(fieldPlace.data), field.in(before),
+                 field.in(after));
+    } else {
+      Add(fieldPlace, field.type->read(field.in(before)), field.type->read(field.in(after)));
+    }
+  }
+}
+
+void Changes::AddRecords(const TypeLibrary& library, const TypeInfo& type, SAFEARRAY*& place, void* before,
+                         void* after) {
+  const Bounds bounds = type.bounds(after);
+  if (type.bounds(before) == bounds) {
+    if (place == nullptr) return;
+    const SafeArrayData data(place);
+    for (std::int64_t i = 0; i < bounds.Count(); ++i) {
+      AddRecord(library, *type.record, data.At(static_cast<std::size_t>(i)),
+                type.at(before, bounds.lower + i), type.at(after, bounds.lower + i));
+    }
+    return;
+  }
+  RequireReplaceable(place);
+  OwnedVariant made;
+  made.Get().parray = MakeRecordArray(library, type, after).release();
+  made.Get().vt = VT_ARRAY | VT_RECORD;
+  changes_.push_back({{VT_ARRAY | VT_RECORD, &place}, std::move(made)});
+}
+
+void Changes::Commit() noexcept {
+  for (Change& change : changes_) Exchange(change.place, change.value.Get());
+  changes_.clear();
+}
+
+}  // namespace amortix2

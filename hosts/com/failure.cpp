@@ -1,0 +1,100 @@
+#include "com/failure.h"
+
+#include <new>
+
+#include "com/com_pointer.h"
+#include "com/text.h"
+
+namespace amortix2 {
+namespace {
+
+/// The runtime's "Internal error", for what nothing else explains.
+constexpr auto kInternalError = static_cast<ErrorNumber>(51);
+
+/// A failure in the platform's terms. Texts that no memory is left for stay null; callers then show their
+/// own.
+class Report {
+ public:
+  Report() = default;
+  Report(const Report&) = delete;
+  Report& operator=(const Report&) = delete;
+  ~Report() {
+    SysFreeString(source_);
+    SysFreeString(description_);
+  }
+
+  /// Of the exception that is being handled.
+  void Fill(const ErrorOrigin& origin) noexcept {
+    code_ = CurrentResultCode();
+    if (code_ == ResultCode(ErrorNumber::OutOfMemory)) return;
+    try {
+      try {
+        throw;
+      } catch (const ForeignError& error) {
+        source_ = MakeBstr(error.Source());
+        description_ = MakeBstr(error.Description());
+      } catch (const AutomationError& error) {
+        source_ = MakeBstr(origin.programId);
+        description_ = MakeBstr(ErrorDescription(error.Number()));
+      }
+    } catch (...) {
+      // No text then: the code says it.
+    }
+  }
+
+  void StoreOnThread(const ErrorOrigin& origin) const noexcept {
+    ComPointer<ICreateErrorInfo> info;
+    if (description_ == nullptr || FAILED(CreateErrorInfo(info.Receive()))) {
+      SetErrorInfo(0, nullptr);
+      return;
+    }
+    info->SetGUID(origin.interfaceId);
+    info->SetSource(source_);
+    info->SetDescription(description_);
+    SetErrorInfo(0, info.As<IErrorInfo>(IID_IErrorInfo).Get());
+  }
+
+  HRESULT MoveTo(EXCEPINFO* details) noexcept {
+    if (details == nullptr) return code_;
+    *details = {};
+    details->scode = code_;
+    details->bstrSource = std::exchange(source_, nullptr);
+    details->bstrDescription = std::exchange(description_, nullptr);
+    return DISP_E_EXCEPTION;
+  }
+
+ private:
+  HRESULT code_ = ResultCode(kInternalError);
+  BSTR source_ = nullptr;
+  BSTR description_ = nullptr;
+};
+
+}  // namespace
+
+void Check(HRESULT result) {
+  if (result == E_OUTOFMEMORY) throw std::bad_alloc();
+  if (FAILED(result)) throw ForeignError(result);
+}
+
+HRESULT CurrentResultCode() noexcept {
+  try {
+    throw;
+  } catch (const ForeignError& error) {
+    return error.Code();
+  } catch (const AutomationError& error) {
+    return ResultCode(error.Number());
+  } catch (const std::bad_alloc&) {
+    return ResultCode(ErrorNumber::OutOfMemory);
+  } catch (...) {
+    return ResultCode(kInternalError);
+  }
+}
+
+HRESULT ReportCurrentFailure(const ErrorOrigin& origin, EXCEPINFO* details) noexcept {
+  Report report;
+  report.Fill(origin);
+  report.StoreOnThread(origin);
+  return report.MoveTo(details);
+}
+
+}  // namespace amortix2

@@ -1,0 +1,140 @@
+#include "com/interface_definition.h"
+
+#include <sstream>
+#include <stdexcept>
+
+#include "com/identity.h"
+#include "component/description.h"
+
+namespace amortix2 {
+namespace {
+
+std::string_view Identifier(std::string_view name) {
+  const std::string_view identifier = IdentifierOf(name);
+  if (identifier.empty()) throw std::logic_error(std::string(name) + " has no identifier");
+  return identifier;
+}
+
+std::string Quoted(std::string_view text) {
+  std::string quoted = "\"";
+  for (const char c : text) {
+    if (c == '"' || c == '\\') quoted += '\\';
+    quoted += c;
+  }
+  return quoted + '"';
+}
+
+std::string Attributes(std::string_view name, std::string_view help) {
+  return "[uuid(" + std::string(Identifier(name)) + "), helpstring(" + Quoted(help) + ")]";
+}
+
+std::string TypeName(const TypeInfo& type) {
+  switch (type.kind) {
+    case TypeKind::Variant:
+      return "VARIANT";
+    case TypeKind::Double:
+      return "double";
+    case TypeKind::Byte:
+      return "unsigned char";
+    case TypeKind::Integer:
+      return "short";
+    case TypeKind::Long:
+      return "long";
+    case TypeKind::String:
+      return "BSTR";
+    case TypeKind::Date:
+      return "DATE";
+    case TypeKind::Enumeration:
+      return std::string(type.enumeration->name);
+    case TypeKind::Record:
+      return std::string(type.record->name);
+    case TypeKind::RecordArray:
+      return "SAFEARRAY(" + std::string(type.record->name) + ")";
+    case TypeKind::ScriptingContext:
+      return "IDispatch*";
+  }
+  throw std::logic_error("a type has no name");
+}
+
+void WriteEnumeration(std::ostream& out, const EnumerationInfo& type) {
+  out << "\n  typedef " << Attributes(type.name, type.help) << "\n  enum " << type.name << " {\n";
+  for (const ConstantInfo& constant : type.constants) {
+    out << "    " << constant.name << " = " << constant.value << ",  // " << constant.help << '\n';
+  }
+  out << "  } " << type.name << ";\n";
+}
+
+void WriteRecord(std::ostream& out, const RecordInfo& record) {
+  out << "\n  typedef " << Attributes(record.name, record.help) << "\n  struct " << record.name << " {\n";
+  for (const FieldInfo& field : record.fields) {
+    out << "    " << TypeName(*field.type) << ' ' << field.name << ";  // " << field.help << '\n';
+  }
+  out << "  } " << record.name << ";\n";
+}
+
+void WriteParameter(std::ostream& out, const ParameterInfo& parameter) {
+  out << "\n        [" << (parameter.byReference ? "in, out" : "in")
+      << (parameter.optional ? ", optional" : "") << ", HELP(" << Quoted(parameter.help) << ")] "
+      << TypeName(*parameter.type) << (parameter.byReference ? "* " : " ") << parameter.name;
+}
+
+void WriteMember(std::ostream& out, const MemberInfo& member, std::size_t number) {
+  out << "      [id(" << number << (member.kind == MemberKind::PropertyPut ? "), propput" : ")")
+      << ", helpstring(" << Quoted(member.help) << ")]\n      "
+      << (member.result != nullptr ? TypeName(*member.result) : "void") << ' ' << member.name << '(';
+  std::string_view separator;
+  for (const ParameterInfo& parameter : member.parameters) {
+    out << separator;
+    WriteParameter(out, parameter);
+    separator = ",";
+  }
+  out << ");\n";
+}
+
+void WriteClass(std::ostream& out, const ClassInfo& type) {
+  const std::string interfaceName = InterfaceName(type.name);
+  out << "\n  " << Attributes(interfaceName, type.help) << "\n  dispinterface " << interfaceName
+      << " {\n    properties:\n    methods:\n";
+  std::size_t number = 0;
+  for (const MemberInfo& member : type.members) WriteMember(out, member, ++number);
+  out << "  };\n\n  " << Attributes(type.name, type.help) << "\n  coclass " << type.name
+      << " {\n    [default] dispinterface " << interfaceName << ";\n  };\n";
+}
+
+}  // namespace
+
+std::string InterfaceDefinition() {
+  std::ostringstream out;
+  out << "// Made from the component's description; change that, and make this text anew.\n\n"
+         "import \"oaidl.idl\";\n\n"
+         "#define HELP(text) custom("
+      << Identifier(kParameterHelp) << ", text)\n\n"
+      << "[uuid(" << Identifier(kLibraryName) << "), version(" << InterfaceVersion()
+      << "),\n helpstring(\"Amortix2: personal-finance calculators and charts\")]\nlibrary " << kLibraryName
+      << " {\n  importlib(\"stdole2.tlb\");\n";
+  for (const EnumerationInfo* type : Enumerations()) WriteEnumeration(out, *type);
+  for (const RecordInfo* record : Records()) WriteRecord(out, *record);
+  for (const ClassInfo* type : Classes()) WriteClass(out, *type);
+  out << "}\n";
+  return out.str();
+}
+
+std::string AssemblyManifest(std::string_view productVersion) {
+  std::ostringstream out;
+  out << "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
+         "<assembly xmlns=\"urn:schemas-microsoft-com:asm.v1\" manifestVersion=\"1.0\">\n"
+         "  <assemblyIdentity type=\"win32\" name=\""
+      << kLibraryName << "\" version=\"" << productVersion << ".0\"/>\n  <file name=\"" << kLibraryName
+      << ".dll\">\n    <typelib tlbid=\"{" << Identifier(kLibraryName) << "}\" version=\""
+      << InterfaceVersion() << "\" helpdir=\"\"/>\n";
+  for (const ClassInfo* type : Classes()) {
+    out << "    <comClass clsid=\"{" << Identifier(type->name) << "}\" tlbid=\"{" << Identifier(kLibraryName)
+        << "}\"\n              progid=\"" << ProgramId(type->name)
+        << "\" threadingModel=\"Both\">\n      <progid>" << VersionedProgramId(type->name)
+        << "</progid>\n    </comClass>\n";
+  }
+  out << "  </file>\n</assembly>\n";
+  return out.str();
+}
+
+}  // namespace amortix2

@@ -1,0 +1,76 @@
+#include "com/place.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "automation/error.h"
+
+namespace amortix2 {
+namespace {
+
+/// Where a VARIANT keeps a value of its type: a decimal fills all of it, with the type inside.
+void* Payload(VARIANT& value) noexcept {
+  return value.vt == VT_DECIMAL ? static_cast<void*>(&value) : static_cast<void*>(&value.llVal);
+}
+
+}  // namespace
+
+std::size_t SizeOf(VARTYPE type) {
+  if ((type & VT_ARRAY) != 0) return sizeof(SAFEARRAY*);
+  switch (type) {
+    case VT_VARIANT:
+      return sizeof(VARIANT);
+    case VT_I1:
+    case VT_UI1:
+      return 1;
+    case VT_I2:
+    case VT_UI2:
+    case VT_BOOL:
+      return 2;
+    case VT_I4:
+    case VT_UI4:
+    case VT_INT:
+    case VT_UINT:
+    case VT_R4:
+    case VT_ERROR:
+      return 4;
+    case VT_I8:
+    case VT_UI8:
+    case VT_R8:
+    case VT_CY:
+    case VT_DATE:
+      return 8;
+    case VT_BSTR:
+    case VT_DISPATCH:
+    case VT_UNKNOWN:
+      return sizeof(void*);
+    case VT_DECIMAL:
+      return sizeof(DECIMAL);
+    default:
+      Raise(ErrorNumber::TypeMismatch);
+  }
+}
+
+VARIANT Peek(Place place) {
+  if (place.data == nullptr) Raise(ErrorNumber::TypeMismatch);
+  VARIANT value;
+  if (place.type == VT_VARIANT) {
+    std::memcpy(&value, place.data, sizeof value);
+    return value;
+  }
+  VariantInit(&value);
+  value.vt = place.type;
+  std::memcpy(Payload(value), place.data, SizeOf(place.type));
+  value.vt = place.type;
+  return value;
+}
+
+void Exchange(Place place, VARIANT& value) noexcept {
+  const VARTYPE type = value.vt;
+  const bool whole = place.type == VT_VARIANT;
+  auto* inner = static_cast<unsigned char*>(whole ? &value : Payload(value));
+  std::swap_ranges(inner, inner + SizeOf(place.type), static_cast<unsigned char*>(place.data));
+  if (!whole) value.vt = type;
+}
+
+}  // namespace amortix2

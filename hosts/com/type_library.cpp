@@ -1,0 +1,110 @@
+#include "com/type_library.h"
+
+#include <mutex>
+
+#include "com/failure.h"
+#include "com/guid.h"
+#include "com/identity.h"
+#include "com/module.h"
+#include "com/text.h"
+
+namespace amortix2 {
+namespace {
+
+/// Never destroyed: when the process ends with objects alive, the platform's own libraries are gone already.
+union Kept {
+  constexpr Kept() : library() {}
+  ~Kept() {}
+  std::shared_ptr<const TypeLibrary> library;
+};
+
+std::mutex loading;
+constinit Kept kept;
+
+ComPointer<ITypeInfo> FindType(ITypeLib& library, std::string_view name) {
+  ComPointer<ITypeInfo> type;
+  Check(library.GetTypeInfoOfGuid(ToGuid(IdentifierOf(name)), type.Receive()));
+  return type;
+}
+
+VARTYPE PlaceType(const TypeInfo& type) noexcept {
+  switch (type.kind) {
+    case TypeKind::Double:
+      return VT_R8;
+    case TypeKind::Byte:
+      return VT_UI1;
+    case TypeKind::Integer:
+      return VT_I2;
+    case TypeKind::Long:
+    case TypeKind::Enumeration:
+      return VT_I4;
+    case TypeKind::String:
+      return VT_BSTR;
+    case TypeKind::Date:
+      return VT_DATE;
+    case TypeKind::RecordArray:
+      return VT_ARRAY | VT_RECORD;
+    default:
+      return VT_VARIANT;
+  }
+}
+
+ULONG OffsetOf(ITypeInfo& type, std::size_t field) {
+  VARDESC* description = nullptr;
+  Check(type.GetVarDesc(static_cast<UINT>(field), &description));
+  const ULONG offset = description->oInst;
+  type.ReleaseVarDesc(description);
+  return offset;
+}
+
+}  // namespace
+
+RecordLayout::RecordLayout(ITypeLib& library, const RecordInfo& record) : record_(&record) {
+  const ComPointer<ITypeInfo> type = FindType(library, record.name);
+  Check(GetRecordInfoFromTypeInfo(type.Get(), info_.Receive()));
+  for (const FieldInfo& field : record.fields) {
+    fields_.push_back({PlaceType(*field.type), OffsetOf(*type.Get(), fields_.size())});
+  }
+}
+
+bool RecordLayout::Describes(IRecordInfo& info) const noexcept {
+  GUID identifier{};
+  return SUCCEEDED(info.GetGuid(&identifier)) && identifier == ToGuid(IdentifierOf(record_->name));
+}
+
+Place RecordLayout::Field(void* base, std::size_t field) const noexcept {
+  return {fields_[field].type, static_cast<unsigned char*>(base) + fields_[field].offset};
+}
+
+TypeLibrary::TypeLibrary(ComPointer<ITypeLib> library) : library_(std::move(library)) {
+  for (const RecordInfo* record : Records()) layouts_.emplace_back(*library_.Get(), *record);
+}
+
+ComPointer<ITypeInfo> TypeLibrary::Type(std::string_view name) const {
+  return FindType(*library_.Get(), name);
+}
+
+const RecordLayout& TypeLibrary::Layout(const RecordInfo& record) const {
+  for (const RecordLayout& layout : layouts_) {
+    if (&layout.Record() == &record) return layout;
+  }
+  Raise(ErrorNumber::TypeMismatch);
+}
+
+std::shared_ptr<const TypeLibrary> TypeLibrary::Loaded() {
+  const std::scoped_lock lock(loading);
+  if (!kept.library) {
+    ComPointer<ITypeLib> library;
+    Check(LoadTypeLibEx(Module::Path().c_str(), REGKIND_NONE, library.Receive()));
+    kept.library = std::make_shared<const TypeLibrary>(std::move(library));
+  }
+  return kept.library;
+}
+
+void TypeLibrary::Forget() noexcept {
+  std::shared_ptr<const TypeLibrary> dropped;
+  const std::scoped_lock lock(loading);
+  if (Module::IsUnused()) std::swap(dropped, kept.library);
+}
+
+}  // namespace amortix2
