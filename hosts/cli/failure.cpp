@@ -1,0 +1,37 @@
+#include "cli/failure.h"
+
+#include <new>
+#include <stdexcept>
+#include <utility>
+
+#include "cli/request_error.h"
+
+namespace amortix2::cli {
+namespace {
+
+Failure Of(ErrorNumber number) noexcept { return {number, ErrorName(number)}; }
+
+Failure Of(RequestError& error) noexcept {
+  const ErrorNumber number = error.Number();
+  return {number, number == ErrorNumber{0} ? "BadRequest" : ErrorName(number), error.TakeMessage(), true};
+}
+
+}  // namespace
+
+Failure CurrentFailure() noexcept {
+  try {
+    throw;
+  } catch (RequestError& error) {
+    return Of(error);
+  } catch (const AutomationError& error) {
+    return Of(error.Number());
+  } catch (const std::bad_alloc&) {
+    return Of(ErrorNumber::OutOfMemory);
+  } catch (const std::length_error&) {
+    return Of(ErrorNumber::OutOfMemory);
+  } catch (...) {
+    return Of(ErrorNumber::InvalidProcedureCall);
+  }
+}
+
+}  // namespace amortix2::cli

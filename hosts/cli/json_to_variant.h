@@ -1,0 +1,22 @@
+#pragma once
+
+// What a JSON value means as an automation value. null is Null, true and false are Boolean, an integer
+// literal of 32 bits is a Long, any other number a Double, a text a String. {"type": "Date", "value":
+// "2001-01-31"} is a value of a named type. An array is one-dimensional from 0, an array of equally long
+// arrays two-dimensional;
+// {"lower": [1], "values": [...]} is an array with other lower bounds, as many as it has dimensions.
+
+#include "automation/array.h"
+#include "automation/variant.h"
+#include "cli/json.h"
+
+namespace amortix2::cli {
+
+/// Raises RequestError for an object of another shape, a type that there is not and a value that its type
+/// cannot hold; OutOfMemory.
+Variant ToVariant(const Json& json);
+
+/// The bounds of `count` elements from `lower` on. Raises RequestError when they leave 32 bits.
+Bounds BoundsFrom(std::int64_t lower, std::size_t count);
+
+}  // namespace amortix2::cli

@@ -1,0 +1,117 @@
+// The executable: reads the command line, does one of its three commands, and turns whatever fails into an
+// exit status and a line on standard error.
+
+#include <unistd.h>
+
+#include <csignal>
+#include <memory>
+#include <system_error>
+
+#include "automation/error.h"
+#include "charts/gif_file.h"
+#include "cli/arguments.h"
+#include "cli/batch.h"
+#include "cli/call.h"
+#include "cli/listing.h"
+#include "cli/options.h"
+#include "cli/output.h"
+#include "cli/readable.h"
+#include "cli/reply.h"
+#include "cli/request_error.h"
+#include "common/system_clock.h"
+
+namespace amortix2::cli {
+namespace {
+
+class FixedClock final : public Clock {
+ public:
+  explicit FixedClock(Date today) : today_(today) {}
+  Date Today() const override { return today_; }
+
+ private:
+  Date today_;
+};
+
+std::unique_ptr<Clock> ClockOf(const Options& options) {
+  if (options.today) return std::make_unique<FixedClock>(*options.today);
+  return std::make_unique<SystemClock>();
+}
+
+void Complain(const std::string& what) { WriteAll(STDERR_FILENO, "amortix2: " + what + "\n"); }
+
+/// Says what went wrong and returns the exit status that belongs to it.
+int Report(const Failure& failure) {
+  const std::string number = std::to_string(static_cast<std::int32_t>(failure.number));
+  Complain(failure.ofRequest ? failure.message : number + " " + std::string(failure.name));
+  return failure.ofRequest ? kBadRequest : kComponentError;
+}
+
+Json RequestOf(const Options& options) {
+  Json::Fields request;
+  request.push_back({"call", Json(options.target)});
+  request.push_back({"args", Json(ReadArguments(options.arguments))});
+  request.push_back({"with", Json(ReadArguments(options.settings))});
+  return Json(std::move(request));
+}
+
+void SaveResponse(const Call& call, const std::string& path) {
+  if (call.Response().empty()) throw RequestError("nothing was sent to the page, so there is no " + path);
+  WriteWholeFile(path, call.Response());
+}
+
+int RunCall(const Options& options) {
+  const Json request = RequestOf(options);
+  const auto clock = ClockOf(options);
+  const Call call(ReadRequest(request), *clock);
+  const JsonForm form = options.types ? JsonForm::WithTypes : JsonForm::Plain;
+  if (options.json || options.types) {
+    WriteAll(STDOUT_FILENO, ReplyTo(call, nullptr, form) + "\n");
+  } else if (!call.Error()) {
+    WriteAll(STDOUT_FILENO, ReadableAnswer(call));
+  }
+  if (call.Error()) return Report(*call.Error());
+  if (!options.out.empty()) SaveResponse(call, options.out);
+  return kSuccess;
+}
+
+int Run(const Options& options) {
+  switch (options.command) {
+    case Command::List:
+      WriteAll(STDOUT_FILENO, Listing(options.target));
+      return kSuccess;
+    case Command::Call:
+      return RunCall(options);
+    case Command::Batch:
+      break;
+  }
+  RunBatch(STDIN_FILENO, STDOUT_FILENO, *ClockOf(options),
+           options.types ? JsonForm::WithTypes : JsonForm::Plain);
+  return kSuccess;
+}
+
+int Main(int argc, char** argv) {
+  // A reader that goes away is an error of writing, not the end of the process.
+  std::signal(SIGPIPE, SIG_IGN);
+  int status = kSuccess;
+  const auto options = ReadOptions(argc, argv, status);
+  if (!options) return status;
+  try {
+    return Run(*options);
+  } catch (const std::system_error& error) {
+    Complain(error.what());
+    return kInputOutput;
+  } catch (...) {
+    return Report(CurrentFailure());
+  }
+}
+
+}  // namespace
+}  // namespace amortix2::cli
+
+int main(int argc, char** argv) {
+  try {
+    return amortix2::cli::Main(argc, argv);
+  } catch (...) {
+    return amortix2::cli::kInputOutput;
+  }
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+// Values of any described type as JSON, read from a request and written to a reply. A record is an object of
+// its fields, an array of records a JSON array, in which records start at index 1 for a parameter and at
+// index 0 for a record's own list; {"lower": [0], "values": [...]} says otherwise. Everything else goes
+// through a variant.
+
+#include <string>
+
+#include "cli/json.h"
+#include "cli/variant_to_json.h"
+#include "component/description.h"
+
+namespace amortix2::cli {
+
+/// A new value as a call sees it that leaves the argument out: Missing when the parameter is optional.
+Value NewArgument(const ParameterInfo& parameter);
+
+/// Overwrites an argument. Raises RequestError for JSON of a wrong shape and for fields that the record does
+/// not have, AutomationError as the conversion to the argument's type does.
+void ReadArgument(const Json& json, Value& argument);
+
+/// Appends a value that came back; `form` is for variants.
+void AppendArgument(std::string& out, const Value& argument, JsonForm form);
+
+}  // namespace amortix2::cli

@@ -1,0 +1,215 @@
+// The executable as other programs run it.
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace amortix2::cli {
+namespace {
+
+constexpr const char* kLoan =
+    R"("call":"Calculator.SimpleLoanCalculator","args":{"vPurchaseAmt":200000,"vPeriod":360,"vIntRate":6.5}})";
+
+class Program : public ::testing::Test {
+ protected:
+  Program()
+      : folder_(std::filesystem::temp_directory_path() / ("amortix2_test_" + std::to_string(getpid()))) {
+    std::filesystem::create_directory(folder_);
+  }
+  ~Program() override { std::filesystem::remove_all(folder_); }
+
+  std::string Path(const char* name) const { return (folder_ / name).string(); }
+
+  std::string Read(const char* name) const {
+    std::ostringstream text;
+    text << std::ifstream(Path(name), std::ios::binary).rdbuf();
+    return text.str();
+  }
+
+  /// Runs the program by a shell line; its output and error text are the files "out" and "err".
+  int Run(const std::string& arguments, const std::string& input = "", const std::string& before = "") {
+    std::ofstream(Path("in"), std::ios::binary) << input;
+    const std::string line = before + " '" AMORTIX2_PROGRAM "' " + arguments + " <'" + Path("in") + "' >'" +
+                             Path("out") + "' 2>'" + Path("err") + "'";
+    return WEXITSTATUS(std::system(line.c_str()));
+  }
+
+  std::vector<std::string> Lines() const {
+    std::istringstream text(Read("out"));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);) lines.push_back(line);
+    return lines;
+  }
+
+ private:
+  std::filesystem::path folder_;
+};
+
+std::string MixedRequests(int count) {
+  static constexpr const char* kBad[] = {"", "{", "\"\xFF\"", "[[[[", "{\"call\":\"Calculator.None\"}"};
+  std::string input;
+  for (int i = 0; i < count; ++i) {
+    if (i % 10 == 9) {
+      input += kBad[i / 10 % 5];
+    } else {
+      input += "{\"id\":" + std::to_string(i) + "," + kLoan;
+    }
+    input += i % 3 == 0 ? " \t\r\n" : "\n";
+  }
+  return input;
+}
+
+TEST_F(Program, AnswersEveryLineInOrderAndInConstantMemory) {
+  const auto peak = [] {
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    return usage.ru_maxrss;
+  };
+  ASSERT_EQ(Run("batch", MixedRequests(500)), 0);
+  const long little = peak();
+  constexpr int kCount = 10000;
+  ASSERT_EQ(Run("batch", MixedRequests(kCount)), 0);
+#ifndef __SANITIZE_ADDRESS__
+  EXPECT_LT(peak(), little + 4096);
+#endif
+  const auto lines = Lines();
+  ASSERT_EQ(lines.size(), std::size_t{kCount});
+  for (int i = 0; i < kCount; ++i) {
+    const std::string& line = lines[static_cast<std::size_t>(i)];
+    const std::string expected =
+        i % 10 == 9 ? R"({"error":{"number":)" : "{\"id\":" + std::to_string(i) + R"(,"results":{)";
+    ASSERT_TRUE(line.starts_with(expected)) << i << ": " << line.substr(0, 200);
+    ASSERT_TRUE(i % 10 == 9 || line.find("\"vResPayment\":1264.14,") != std::string::npos) << i;
+  }
+}
+
+TEST_F(Program, AnswersAsSoonAsNoCompleteLineWaits) {
+  int in[2];
+  int out[2];
+  ASSERT_EQ(pipe(in) + pipe(out), 0);
+  const pid_t child = fork();
+  if (child == 0) {
+    dup2(in[0], 0);
+    dup2(out[1], 1);
+    for (const int end : {in[0], in[1], out[0], out[1]}) close(end);
+    execl(AMORTIX2_PROGRAM, "amortix2", "batch", nullptr);
+    _exit(127);
+  }
+  close(in[0]);
+  close(out[1]);
+  const auto receive = [&] {
+    std::string line;
+    for (char c; read(out[0], &c, 1) == 1 && c != '\n';) line += c;
+    return line;
+  };
+  const auto send = [&](std::string_view text) {
+    ASSERT_EQ(write(in[1], text.data(), text.size()), std::ssize(text));
+  };
+  send("{}\n[]\n{\"id\"");
+  EXPECT_NE(receive().find("BadRequest"), std::string::npos);
+  EXPECT_NE(receive().find("BadRequest"), std::string::npos);
+  send(":1," + std::string(kLoan) + "\n");
+  EXPECT_TRUE(receive().starts_with("{\"id\":1,\"results\""));
+  // The last line needs no end.
+  send("{\"id\":2," + std::string(kLoan));
+  close(in[1]);
+  EXPECT_TRUE(receive().starts_with("{\"id\":2,\"results\""));
+  EXPECT_EQ(receive(), "");
+  close(out[0]);
+  int status = -1;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+}
+
+TEST_F(Program, ALineThatIsTooLongIsReadOver) {
+  const std::string longest = "{\"id\":1," + std::string(kLoan);
+  const std::size_t limit = std::size_t{16} << 20;
+  const std::string fits = longest + std::string(limit - longest.size(), ' ');
+  ASSERT_EQ(Run("batch", fits + "\n" + fits + "x\n" + std::string(3 * limit, '[') + "\n" + longest), 0);
+  const auto lines = Lines();
+  ASSERT_EQ(lines.size(), 4u);
+  for (const std::size_t good : {0, 3}) EXPECT_TRUE(lines[good].starts_with("{\"id\":1,\"results\"")) << good;
+  for (const std::size_t bad : {1, 2}) EXPECT_NE(lines[bad].find("longer"), std::string::npos) << bad;
+}
+
+TEST_F(Program, OutputThatCannotBeWrittenIsAFailureNotACrash) {
+  const std::string program = "'" AMORTIX2_PROGRAM "'";
+  std::ofstream(Path("in"), std::ios::binary) << MixedRequests(1000);
+  for (const std::string target : {">/dev/full", ">&-"}) {
+    const std::string line = program + " batch <'" + Path("in") + "' 2>/dev/null " + target;
+    EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), 3) << target;
+  }
+  const std::string piped = "( " + program + " batch <'" + Path("in") + "' 2>/dev/null; echo $? >'" +
+                            Path("out") + "' ) | head -c 10 >/dev/null";
+  ASSERT_EQ(std::system(piped.c_str()), 0);
+  EXPECT_EQ(Read("out"), "3\n");
+}
+
+TEST_F(Program, EmptyInputIsNoLine) {
+  EXPECT_EQ(Run("batch"), 0);
+  EXPECT_EQ(Read("out"), "");
+  EXPECT_EQ(Run("batch", "\n"), 0);
+  EXPECT_EQ(Lines().size(), 1u);
+}
+
+TEST_F(Program, ExitStatusesAndErrorLines) {
+  struct Case {
+    const char* arguments;
+    int status;
+    const char* error;
+  };
+  const Case cases[] = {
+      {"--version", 0, ""},
+      {"--help", 0, ""},
+      {"list", 0, ""},
+      {"list calculator.amortix", 0, ""},
+      {"list Calculator.Amorti", 2, "did you mean Amortix?"},
+      {"", 2, "subcommand"},
+      {"call", 2, "method is required"},
+      {"call Calculator.FixedPayment vPeriod", 2, "NAME=VALUE"},
+      {"call Calculator.FixedPayment vPeriods=1", 2, "did you mean vPeriod?"},
+      {"call Calculator.FixedPayment 'vPeriod=[1'", 2, "JSON"},
+      {"call Calculator.FixedPayment --today 2001-02-29", 2, "2001-02-29"},
+      {"call Calculator.FixedPayment vPurchaseAmt=1 --out x", 2, "nothing was sent"},
+      {"call Calculator.LoadDetArray atCol=40000", 1, "amortix2: 6 Overflow\n"},
+      {"batch extra", 2, "extra"},
+  };
+  for (const Case& row : cases) {
+    EXPECT_EQ(Run(row.arguments), row.status) << row.arguments << Read("err");
+    EXPECT_NE(Read("err").find(row.error), std::string::npos) << row.arguments << Read("err");
+  }
+}
+
+TEST_F(Program, AnswersAreTheSameUnderAnyLocaleAndTimeZone) {
+  const std::string call =
+      "call --json Calculator.SimpleLoanCalculator vPurchaseAmt=1234.5 vPeriod=5 vIntRate=6.5 --today "
+      "2001-01-31";
+  ASSERT_EQ(Run(call), 0);
+  const std::string here = Read("out");
+  ASSERT_EQ(Run(call, "", "TZ=Pacific/Kiritimati LC_ALL=de_DE.UTF-8"), 0);
+  EXPECT_EQ(Read("out"), here);
+  EXPECT_NE(here.find("02-28-2001"), std::string::npos);
+}
+
+TEST_F(Program, OutKeepsTheOldFileUntilTheNewOneIsComplete) {
+  std::string palette = "[[0,0,0]";
+  for (int i = 1; i < 256; ++i) palette += ",[0,0,0]";
+  const std::string call = "call GifChart.LineChart 'vColDat=[[0,0],[0,1],[0,2]]' 'vPal=" + palette +
+                           "]' --out '" + Path("image") + "'";
+  ASSERT_EQ(Run(call), 0) << Read("err");
+  const std::string image = Read("image");
+  EXPECT_TRUE(image.starts_with("GIF87a") && image.ends_with(";"));
+  EXPECT_EQ(Run(call + " nonsense=1"), 2);
+  EXPECT_EQ(Read("image"), image);
+  EXPECT_EQ(Run(call + "/none"), 1);
+  EXPECT_NE(Read("err").find("PathNotFound"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace amortix2::cli
