@@ -13,11 +13,11 @@ void GifChart::OnStartPage(std::shared_ptr<ScriptingContext> iScriptingContext) 
   context_ = std::move(iScriptingContext);
 }
 
-void GifChart::writeGifFile(const std::string& nm, const Variant& vImg, const Variant& vPal) {
+void GifChart::writeGifFile(const std::string& nm, const Variant& vImg, const Variant& vPal) const {
   WriteWholeFile(nm, EncodeGif(ReadRaster(vImg), ReadPalette(vPal)));
 }
 
-void GifChart::DumpAFile(const Variant& x) { ReadThrough(ToText(x)); }
+void GifChart::DumpAFile(const Variant& x) const { ReadThrough(ToText(x)); }
 
 void GifChart::LineChart(const Variant& vColDat, const Variant& vPal, const Variant& /*typ*/) {
   SendLineChart(size_, vColDat, vPal, context_.get());

@@ -20,10 +20,10 @@ class GifChart {
 
   /// Writes a raster and its palette as the GIF file `nm`: charts/raster.h says how they are read, with which
   /// errors, charts/gif_file.h how the file is written. After an error no file has changed.
-  void writeGifFile(const std::string& nm, const Variant& vImg, const Variant& vPal);
+  void writeGifFile(const std::string& nm, const Variant& vImg, const Variant& vPal) const;
 
   /// Reads the file named by `x` through once (charts/gif_file.h). Raises TypeMismatch when `x` has no text.
-  void DumpAFile(const Variant& x);
+  void DumpAFile(const Variant& x) const;
 
   /// Draws a table and sends it to the page: charts/line_chart.h. `typ` is not used.
   void LineChart(const Variant& vColDat, const Variant& vPal, const Variant& typ);
