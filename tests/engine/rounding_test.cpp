@@ -7,6 +7,7 @@
 #include <random>
 
 #include "engine/elementary.h"
+#include "engine/wide_integer.h"
 
 namespace amortix2 {
 namespace {
@@ -14,12 +15,12 @@ namespace {
 /// floor(scale * x + 1/2) / scale from the bits of x, in whole numbers.
 double RoundExactly(double x, int scale) {
   int exponent = 0;
-  const auto mantissa = static_cast<__int128>(std::ldexp(std::frexp(x, &exponent), 53));
+  const auto mantissa = static_cast<WideInteger>(std::ldexp(std::frexp(x, &exponent), 53));
   const int shift = 53 - exponent;  // x = mantissa / 2^shift
   if (shift <= 0) return x;         // a whole number
   if (shift > 100) return x < 0 || x == 0 ? -0.0 + 0.0 : 0.0;
-  const __int128 half = static_cast<__int128>(1) << (shift - 1);
-  const __int128 steps = (mantissa * scale + half) >> shift;  // an arithmetic shift floors
+  const WideInteger half = static_cast<WideInteger>(1) << (shift - 1);
+  const WideInteger steps = (mantissa * scale + half) >> shift;  // an arithmetic shift floors
   return static_cast<double>(steps) / scale;
 }
 
