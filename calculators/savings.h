@@ -18,7 +18,7 @@ namespace amortix2::calculators {
 
 // ---- A plan of a whole number of years: `vPeriod` is cut down to one. The table has a row for each deposit.
 
-/// `vEndBal`: what the plan comes to. 100 a month over 10 years at 6 from nothing: 16387.92.
+/// `vEndBal`: what the plan comes to. 100 a month over 10 years at 6 from nothing: 16387.98.
 void AmountSavedCalculator(const Variant& vStartDate, const Variant& vCurrBal, const Variant& vPayment,
                            const Variant& vFreq, const Variant& vPeriod, const Variant& vIntRate,
                            Variant& vEndBal, Variant& vDetArray);

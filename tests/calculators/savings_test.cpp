@@ -1,0 +1,244 @@
+#include "calculators/savings.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <optional>
+
+#include "automation/array.h"
+#include "automation/conversion.h"
+#include "automation/raises.h"
+
+namespace amortix2::calculators {
+namespace {
+
+struct FixedClock : Clock {
+  Date Today() const override { return MakeDate(2026, 11, 21); }
+};
+const FixedClock kClock;
+const Variant kStart = MakeDate(2026, 1, 31);
+const Variant kMonthly = 4;
+const Variant kAnnual = 8;
+
+std::int32_t LastRow(const Variant& table) { return table.GetArray().Dimension(1).upper; }
+
+TEST(SavingsSolvers, CountWholeYearsAndPeriods) {
+  struct Row {
+    Variant frequency, years;
+    double balance;
+    int rows;
+  };
+  // 100 a period at 6 %, computed independently.
+  const Row rows[] = {{4, 10, 16387.98, 120}, {"4", "10", 16387.98, 120}, {3.5, 10.9, 16387.98, 120},
+                      {8, 2.9, 206, 2},       {"word", 2, 206, 2},        {4, 0.9, 0, 0}};
+  for (const Row& row : rows) {
+    Variant balance = std::int16_t{7};
+    Variant detail;
+    AmountSavedCalculator(kStart, Variant(), 100, row.frequency, row.years, 6, balance, detail);
+    EXPECT_NEAR(balance.GetDouble(), row.balance, 1e-9);
+    EXPECT_EQ(LastRow(detail), row.rows);
+    EXPECT_EQ(detail.GetArray().At(0, 1), Variant("01-31-2026"));
+    if (row.balance == 0) continue;
+    Variant rate, opening, deposit;
+    SavingsRateCalculator(kStart, 0, 100, row.frequency, row.years, balance, rate, detail);
+    StartingAmountCalculator(kStart, 100, row.frequency, row.years, 6, balance, opening, detail);
+    DepositCalculator(kStart, 0, row.frequency, row.years, 6, balance, deposit, detail);
+    EXPECT_NEAR(rate.GetDouble(), 6, 0.0011);
+    EXPECT_NEAR(opening.GetDouble(), 0, 0.05);
+    EXPECT_NEAR(deposit.GetDouble(), 100, 0.005);
+  }
+}
+
+TEST(SavingsSolvers, ErrorsLeaveTheResults) {
+  struct Row {
+    Variant start, frequency, years;
+    ErrorNumber error;
+  };
+  const Row rows[] = {
+      {"soon", 4, 10, ErrorNumber::TypeMismatch}, {kNull, 4, 10, ErrorNumber::TypeMismatch},
+      {kStart, 40000, 10, ErrorNumber::Overflow}, {kStart, 4, 1e10, ErrorNumber::Overflow},
+      {kStart, 1, 100, ErrorNumber::Overflow},    {kStart, 4, 9000, ErrorNumber::InvalidProcedureCall},
+      {kStart, 4, 0, ErrorNumber::DivisionByZero}};
+  for (const Row& row : rows) {
+    Variant deposit = "before";
+    Variant detail = "before";
+    EXPECT_EQ(
+        ErrorOf([&] { DepositCalculator(row.start, 0, row.frequency, row.years, 6, 100, deposit, detail); }),
+        row.error);
+    EXPECT_TRUE(deposit == Variant("before") && detail == Variant("before"));
+  }
+}
+
+TEST(TimeValue, RoundTripsBetweenDates) {
+  for (const auto& [end, rows] :
+       {std::pair{"1/31/2026", 0}, {"3/31/2026", 2}, {"4/15/2026", 3}, {"1/31/2036", 120}}) {
+    Variant future, present, rate, reached, detail;
+    FutureValueCalculator(kClock, kStart, end, 5000, 6, kMonthly, future, detail);
+    EXPECT_EQ(LastRow(detail), rows) << end;
+    if (rows == 3) continue;  // leftover days are credited by the schedule, not by the formula
+    PresentValueCalculator(kClock, kStart, end, future, 6, kMonthly, present, detail);
+    EXPECT_NEAR(present.GetDouble(), 5000, 0.6) << end;
+    rate = 99.0;
+    YieldCalculator(kClock, kStart, end, 5000, future, kMonthly, rate, reached, detail);
+    EXPECT_NEAR(rate.GetDouble(), rows == 0 ? 0 : 6, 0.0015) << end;
+    EXPECT_NEAR(reached.GetDouble(), future.GetDouble(), 0.5) << end;
+  }
+  Variant today, detail;
+  FutureValueCalculator(kClock, Variant(), "no date", 5000, 6, kMonthly, today, detail);
+  EXPECT_EQ(today, Variant(5000.0));
+  EXPECT_EQ(detail.GetArray().At(0, 1), Variant("11-21-2026"));
+}
+
+struct Savings {
+  Variant balance, deposit, endingBalance, endDate, rate, detail;
+};
+
+std::optional<ErrorNumber> Plan(Savings& s, const Variant& balance, const Variant& deposit,
+                                const Variant& goal, const Variant& period, const Variant& rate) {
+  return ErrorOf([&] {
+    SimpleSavingsCalculator(kStart, balance, deposit, kMonthly, goal, period, rate, 0, s.balance, s.deposit,
+                            s.endingBalance, s.endDate, s.rate, s.detail);
+  });
+}
+
+// Every pattern of zero and non-zero inputs; the one that is found comes back changed.
+TEST(SimpleSavings, ChoosesTheUnknown) {
+  for (unsigned given = 0; given < 32; ++given) {
+    const double period = given & 16 ? 12 : 0;
+    const double goal = given & 8 ? 3000 : 0;
+    const double balance = given & 4 ? 1000 : 0;
+    const double deposit = given & 2 ? 100 : 0;
+    const double rate = given & 1 ? 6 : 0;
+    Savings s;
+    ASSERT_EQ(Plan(s, balance, deposit, goal, period, rate), std::nullopt) << given;
+    const bool isGoalPlan = period != 0 && goal != 0;
+    const bool findsDeposit = isGoalPlan && deposit == 0;
+    const bool findsBalance = isGoalPlan && deposit != 0 && balance == 0;
+    const bool findsRate = isGoalPlan && deposit != 0 && balance != 0 && rate == 0;
+    const bool reachesGoal = goal != 0 && ((balance != 0 && rate != 0) || deposit != 0);
+    if (period != 0) {
+      EXPECT_EQ(s.deposit.GetDouble() != deposit, findsDeposit) << given;
+      EXPECT_EQ(s.balance.GetDouble() != balance, findsBalance) << given;
+      EXPECT_EQ(s.rate.GetDouble() != rate, findsRate) << given;
+      EXPECT_EQ(ToCivil(s.endDate.GetDate()), (CivilDate{2027, 1, 31})) << given;
+      EXPECT_EQ(LastRow(s.detail), 12) << given;
+      if (findsDeposit || findsBalance || findsRate) {
+        EXPECT_NEAR(s.endingBalance.GetDouble(), 3000, 0.2) << given;
+      }
+      if (!isGoalPlan && rate == 0) {
+        EXPECT_EQ(s.endingBalance, Variant(balance + 12 * deposit)) << given;
+      }
+    } else if (reachesGoal) {
+      EXPECT_GE(s.endingBalance.GetDouble(), 2999.51) << given;
+      EXPECT_GT(LastRow(s.detail), 1) << given;
+    } else {  // stands still for one period
+      EXPECT_EQ(s.endingBalance, s.balance) << given;
+      EXPECT_EQ(LastRow(s.detail), 1) << given;
+    }
+  }
+}
+
+TEST(SimpleSavings, KeepsItsPromisesAtTheEdges) {
+  Savings s;
+  EXPECT_EQ(Plan(s, 1000, 100, 5000, 24, 6), std::nullopt);  // all given: the goal is computed anew
+  EXPECT_EQ(LastRow(s.detail), 24);
+  EXPECT_NEAR(s.endingBalance.GetDouble(), 1000 * 1.1271597762 + 100 * 25.4319552, 0.15);
+  EXPECT_EQ(Plan(s, 0, 1, 0, 3.9, 3), std::nullopt);  // dates at a frequency
+  EXPECT_EQ(s.detail.GetArray().At(3, 1), Variant("04-30-2026"));
+  Savings untouched;
+  EXPECT_EQ(ErrorOf([&] {
+              SimpleSavingsCalculator("soon", 1, 1, 4, 1, 1, 1, 0, untouched.balance, untouched.deposit,
+                                      untouched.endingBalance, untouched.endDate, untouched.rate,
+                                      untouched.detail);
+            }),
+            ErrorNumber::TypeMismatch);
+  EXPECT_EQ(Plan(untouched, 1000, 100, 5000, 1e6, 6), ErrorNumber::Overflow);
+  EXPECT_EQ(untouched.balance, Variant());
+}
+
+TEST(Retirement, ReachesItsGoalAfterTax) {
+  Variant grid, detail;
+  IRACalculator(kStart, "T", 0, 0, 75000, 20, 6, 25, grid, detail);
+  const Array& taxed = grid.GetArray();
+  EXPECT_EQ(taxed.Dimension(1), (Bounds{0, 6}));
+  EXPECT_EQ(taxed.At(0), Variant());
+  EXPECT_EQ(taxed.At(2), Variant(2718.46));  // 100000 / ((1.06^20 - 1) / 0.06)
+  EXPECT_NEAR(taxed.At(3).GetDouble(), 100000, 0.2);
+  EXPECT_NEAR(taxed.At(4).GetDouble(), taxed.At(3).GetDouble() * 0.75, 0.005);
+  EXPECT_EQ(ToCivil(taxed.At(5).GetDate()), (CivilDate{2046, 1, 31}));
+  EXPECT_EQ(LastRow(detail), 20);
+  for (const char* untaxed : {"t", "TT", "", "R"}) {
+    IRACalculator(kStart, untaxed, 0, 0, 75000, 20, 6, 25, grid, detail);
+    EXPECT_EQ(grid.GetArray().At(3), grid.GetArray().At(4));
+    EXPECT_NEAR(grid.GetArray().At(3).GetDouble(), 75000, 0.2);
+  }
+}
+
+TEST(Retirement, RaisesWithTheScheduleAlreadyWritten) {
+  Variant grid, detail;
+  EXPECT_EQ(ErrorOf([&] { IRACalculator(kStart, "T", 0, 0, 75000, 20, 6, 100, grid, detail); }),
+            ErrorNumber::DivisionByZero);
+  EXPECT_EQ(detail, Variant());
+  EXPECT_EQ(ErrorOf([&] { IRACalculator(kStart, "T", 0, 0, 75000, 20, 6, "some", grid, detail); }),
+            ErrorNumber::TypeMismatch);
+  EXPECT_EQ(LastRow(detail), 20);
+  EXPECT_EQ(grid, Variant());
+}
+
+// Every pattern of zero and non-zero inputs, at 6 % or an unknown rate.
+TEST(Spending, ChoosesTheUnknown) {
+  for (unsigned given = 0; given < 16; ++given) {
+    const double period = given & 8 ? 120 : 0;
+    const double withdrawal = given & 4 ? 1000 : 0;
+    const double balance = given & 2 ? 100000 : 0;
+    const double rate = given & 1 ? 6 : 0;
+    Variant resBalance, resWithdrawal, resRate, resPeriod, detail;
+    SpendingCalculator(kStart, balance, withdrawal, rate, kMonthly, period, resBalance, resWithdrawal,
+                       resRate, resPeriod, detail);
+    const bool findsBalance = period != 0 && withdrawal != 0 && balance == 0;
+    const bool findsRate = period != 0 && withdrawal != 0 && balance != 0 && rate == 0;
+    const bool findsWithdrawal = period != 0 && balance != 0 && !findsRate;
+    EXPECT_EQ(resBalance.GetDouble() != balance, findsBalance) << given;
+    EXPECT_EQ(resRate.GetDouble() != rate, findsRate) << given;
+    if (findsBalance) {
+      EXPECT_NEAR(resBalance.GetDouble(), rate == 0 ? 120000 : 90073.45, 0.005) << given;
+    }
+    if (findsRate) {
+      EXPECT_EQ(resRate, Variant(3.737)) << given;
+    }
+    if (findsWithdrawal) {
+      EXPECT_NEAR(resWithdrawal.GetDouble(), rate == 0 ? 833.33 : 1110.21, 0.005) << given;
+    }
+    const bool findsPeriod = period == 0 && withdrawal != 0 && balance != 0;
+    const std::int16_t lasts = findsPeriod                                ? (rate == 0 ? 100 : 139)
+                               : period == 0 || balance + withdrawal == 0 ? -1
+                                                                          : 120;
+    EXPECT_EQ(resPeriod, Variant(lasts)) << given;
+    EXPECT_EQ(LastRow(detail), lasts == -1 && period == 0 ? 1 : lasts == -1 ? 120 : lasts) << given;
+  }
+}
+
+TEST(Spending, LastsForEverOnInterestAlone) {
+  Variant balance, withdrawal, rate, period, detail;
+  for (double taken : {500.0, 400.0}) {
+    SpendingCalculator(kStart, 100000, taken, 6, kMonthly, 0, balance, withdrawal, rate, period, detail);
+    EXPECT_EQ(period, Variant(std::int16_t{-1}));
+    EXPECT_EQ(withdrawal, Variant(500.0));  // the interest
+  }
+}
+
+TEST(Spending, EchoesBeforeItRunsWithNothingToFind) {
+  Variant balance, withdrawal, rate, period, detail;
+  // Nothing to find, and a term that overflows: the echo stays.
+  EXPECT_EQ(ErrorOf([&] {
+              SpendingCalculator(kStart, 0, 0, 6, kAnnual, 1e6, balance, withdrawal, rate, period, detail);
+            }),
+            ErrorNumber::Overflow);
+  EXPECT_EQ(period, Variant(1e6));
+  EXPECT_EQ(rate, Variant(6.0));
+  EXPECT_EQ(LastRow(detail), 1);
+  EXPECT_EQ(detail.GetArray().At(0, 1), Variant());
+}
+
+}  // namespace
+}  // namespace amortix2::calculators
