@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path ToPath(const std::string& path) { return fs::path(std::u8string(path.begin(), path.end())); }
+fs::path ToPath(const std::string& path) { return {std::u8string(path.begin(), path.end())}; }
 
 // The file that a path stands for, with links followed, so that a link stays one when its file is replaced.
 fs::path Resolve(const std::string& path) {

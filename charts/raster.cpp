@@ -14,7 +14,8 @@ constexpr std::int64_t kMostPixels = std::int64_t{1} << 26;
 
 std::vector<std::uint8_t> Allocate(std::int64_t count, std::uint8_t value) {
   try {
-    return std::vector<std::uint8_t>(static_cast<std::size_t>(count), value);
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(count), value);
+    return bytes;
   } catch (const std::bad_alloc&) {
     Raise(ErrorNumber::OutOfMemory);
   }

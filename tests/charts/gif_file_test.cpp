@@ -23,35 +23,35 @@ class GifFile : public testing::Test {
   void SetUp() override {
     std::string name = (fs::temp_directory_path() / "gif_file_XXXXXX").string();
     ASSERT_NE(mkdtemp(name.data()), nullptr);
-    folder_ = name;
-    std::ofstream(folder_ / "old") << std::string(5000, 'o');
+    folder = name;
+    std::ofstream(folder / "old") << std::string(5000, 'o');
   }
-  void TearDown() override { fs::remove_all(folder_); }
+  void TearDown() override { fs::remove_all(folder); }
 
-  std::string Path(const std::string& name) const { return (folder_ / name).string(); }
+  std::string Path(const std::string& name) const { return (folder / name).string(); }
   std::string Content(const std::string& name) const {
-    std::ifstream file(folder_ / name, std::ios::binary);
+    std::ifstream file(folder / name, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
   auto Write(const std::string& path, std::size_t size) {
     return ErrorOf([&] { WriteWholeFile(path, std::vector<std::uint8_t>(size, 'n')); });
   }
-  auto CountFiles() const { return std::distance(fs::directory_iterator(folder_), fs::directory_iterator()); }
+  auto CountFiles() const { return std::distance(fs::directory_iterator(folder), fs::directory_iterator()); }
 
-  fs::path folder_;
+  fs::path folder;
 };
 
 TEST_F(GifFile, ReplacesTheWholeFile) {
-  fs::permissions(folder_ / "old", fs::perms::owner_read | fs::perms::owner_write);
-  fs::create_symlink("old", folder_ / "link");
+  fs::permissions(folder / "old", fs::perms::owner_read | fs::perms::owner_write);
+  fs::create_symlink("old", folder / "link");
   EXPECT_FALSE(Write(Path("new"), 100000));
   EXPECT_FALSE(Write(Path("Größe"), 3));
   EXPECT_FALSE(Write(Path("link"), 10));
   EXPECT_EQ(Content("new"), std::string(100000, 'n'));
   EXPECT_EQ(Content("Größe"), "nnn");
   EXPECT_EQ(Content("old"), std::string(10, 'n'));
-  EXPECT_TRUE(fs::is_symlink(folder_ / "link"));
-  EXPECT_EQ(fs::status(folder_ / "old").permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_TRUE(fs::is_symlink(folder / "link"));
+  EXPECT_EQ(fs::status(folder / "old").permissions(), fs::perms::owner_read | fs::perms::owner_write);
   EXPECT_EQ(CountFiles(), 4);
 }
 
@@ -60,7 +60,7 @@ TEST_F(GifFile, BadPathsAreErrors) {
   EXPECT_EQ(Write(Path("a") + '\0' + "b", 10), ErrorNumber::PathFileAccess);
   EXPECT_EQ(Write(Path("none/new"), 10), ErrorNumber::PathNotFound);
   EXPECT_EQ(Write(Path("old/new"), 10), ErrorNumber::PathNotFound);
-  EXPECT_EQ(Write(folder_.string(), 10), ErrorNumber::PathFileAccess);
+  EXPECT_EQ(Write(folder.string(), 10), ErrorNumber::PathFileAccess);
   EXPECT_EQ(Write(Path(""), 10), ErrorNumber::PathFileAccess);
   EXPECT_EQ(Write("/dev/null", 10), ErrorNumber::PathFileAccess);
   EXPECT_EQ(Write(Path(std::string(300, 'x')), 10), ErrorNumber::PathFileAccess);
@@ -85,13 +85,13 @@ TEST_F(GifFile, FullDiskLeavesTheOldFile) {
 
 TEST_F(GifFile, ReadingThrough) {
   const auto read = [&](std::size_t size) {
-    std::ofstream(folder_ / "sized") << std::string(size, 's');
+    std::ofstream(folder / "sized") << std::string(size, 's');
     return ErrorOf([&] { ReadThrough(Path("sized")); });
   };
   EXPECT_EQ(read(0), std::nullopt);
   EXPECT_EQ(read(32767), std::nullopt);
   EXPECT_EQ(read(32768), ErrorNumber::Overflow);
-  for (const std::string& none : {Path("none"), std::string(), folder_.string(), std::string("/dev/zero")}) {
+  for (const std::string& none : {Path("none"), std::string(), folder.string(), std::string("/dev/zero")}) {
     EXPECT_EQ(ErrorOf([&] { ReadThrough(none); }), std::nullopt) << none;
   }
 }

@@ -36,7 +36,7 @@ Bytes CompressSlowly(std::span<const std::uint8_t> pixels, unsigned minimumCodeS
     if (bits.size() / 8 >= 253) flush(bits.size() / 8);
     for (unsigned b = 0; b < width; ++b) bits.push_back((code >> b & 1) != 0);
   };
-  std::vector<std::uint16_t> codes(4096 * 256);
+  std::vector<std::uint16_t> codes(std::size_t{4096} * 256);
   emit(clear);
   unsigned prefix = pixels[0];
   for (const unsigned pixel : pixels.subspan(1)) {
