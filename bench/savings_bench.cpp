@@ -5,8 +5,7 @@
 //   Calculator    SimpleSavingsCalculator as a page calls it, from variants to the table
 //   RateSearch    the rate that reaches a goal, without its schedule
 //   RandomPlans   100,000 rate searches, over plans as people make them and over plans of any kind; `most` is
-//   the largest number of rounds, `slowest` the
-//                 seconds of the slowest
+//                 the largest number of rounds, `slowest` the seconds of the slowest
 
 #include <benchmark/benchmark.h>
 
