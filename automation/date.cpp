@@ -79,12 +79,13 @@ int DayOfWeek(Date date) noexcept {
   return (sinceSaturday + kSaturday + 7) % 7;
 }
 
-DateText FormatMonthDayYear(Date date) noexcept {
+DateText FormatMonthDayYear(const CivilDate& civil) noexcept {
   constexpr std::uint64_t kHyphens = std::uint64_t{'-'} << 16 | std::uint64_t{'-'} << 40;
-  const CivilDate civil = ToCivil(date);
   return Text(DigitsOf(civil.month) | DigitsOf(civil.day) << 24 | DigitsOf(civil.year / 100) << 48 | kHyphens,
               DigitsOf(civil.year % 100));
 }
+
+DateText FormatMonthDayYear(Date date) noexcept { return FormatMonthDayYear(ToCivil(date)); }
 
 DateText FormatIso(Date date) noexcept {
   constexpr std::uint64_t kHyphens = std::uint64_t{'-'} << 32 | std::uint64_t{'-'} << 56;

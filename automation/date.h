@@ -14,7 +14,7 @@ namespace amortix2 {
 struct Date {
   std::int32_t serial = 0;  ///< days since 30 December 1899, from kFirstDay to kLastDay
 
-  friend constexpr auto operator<=>(Date, Date) = default;
+  friend constexpr auto operator<=>(Date, Date) = default;  // NOLINT(modernize-use-nullptr): its own zero
 };
 
 inline constexpr Date kFirstDay{-657434};  ///< 1 January 100
@@ -44,8 +44,9 @@ int DayOfWeek(Date date) noexcept;
 
 /// A date's text: ten characters, no terminator.
 using DateText = std::array<char, 10>;
-DateText FormatMonthDayYear(Date date) noexcept;  ///< "mm-dd-yyyy"
-DateText FormatIso(Date date) noexcept;           ///< "yyyy-mm-dd"
+DateText FormatMonthDayYear(const CivilDate& date) noexcept;  ///< "mm-dd-yyyy"
+DateText FormatMonthDayYear(Date date) noexcept;
+DateText FormatIso(Date date) noexcept;  ///< "yyyy-mm-dd"
 
 inline std::string_view View(const DateText& text) noexcept { return {text.data(), text.size()}; }
 

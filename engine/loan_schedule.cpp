@@ -4,9 +4,10 @@
 
 #include "engine/loan_schedule.h"
 
+#include <algorithm>
 #include <limits>
 
-#include "automation/array.h"
+#include "automation/calendar_walk.h"
 #include "automation/conversion.h"
 #include "automation/error.h"
 #include "engine/adjustable_rate.h"
@@ -18,93 +19,124 @@
 namespace amortix2 {
 namespace {
 
-/// The dates 0, 1, 2, ... months after a start.
+/// The dates 1, 2, 3, ... months after a start, as AdvanceDate gives them.
 class MonthlyDates {
  public:
-  explicit MonthlyDates(Date start)
-      : year_(static_cast<std::int16_t>(ToCivil(start).year)),
-        month_(static_cast<std::int16_t>(ToCivil(start).month)),
-        day_(static_cast<std::int16_t>(ToCivil(start).day)) {}
+  /// Raises what the furthest date, `count` months after the start, raises.
+  MonthlyDates(Date start, int count) : day_(ToCivil(start).day), month_(start) {
+    AdvanceDate(start, monthlyMode, count);
+  }
 
-  Date After(int months) const {
-    return MakeClampedDate(year_, month_, day_, 0, static_cast<std::int16_t>(months), 0);
+  Date Next() {
+    month_.Advance();
+    return Date{month_.FirstSerial() + std::min(day_, month_.Days()) - 1};
   }
 
  private:
-  std::int16_t year_;
-  std::int16_t month_;
-  std::int16_t day_;
+  int day_;
+  CalendarMonth month_;
 };
 
 /// How a schedule's lines are laid out: the opening, a lease's prepaid payments, then the regular payments.
 struct Layout {
   int payments;  ///< n, as the term counts them
   int regular;   ///< payments made one a month
-  int first;     ///< line of the first regular payment
-  int last;      ///< line of the last one, or of what comes before it when there is none
+  int last;      ///< line of the last regular payment, or of what comes before it when there is none
 
   static Layout Of(const tLoanDesc& loan) {
+    const bool isLease = loan.typ == loanAsLease;
     const int n = ToInteger(loan.period);
-    const int regular = loan.typ == loanAsLease ? n - loan.numberPrepays : n;
-    const int first = loan.typ == loanAsLease ? 2 : 1;
-    const int last = ToInteger(regular + first - 1);
-    if (n < 0 || last < 0) Raise(ErrorNumber::SubscriptOutOfRange);
-    return {n, regular, first, last};
+    const int regular = isLease ? n - loan.numberPrepays : n;
+    const int last = ToInteger(isLease ? regular + 1 : regular);
+    if (n < 0 || last < (isLease ? 1 : 0)) Raise(ErrorNumber::SubscriptOutOfRange);
+    return {n, regular, last};
   }
 };
 
-class MonthlySchedule {
+/// The cost of a monthly loan up to the sale, line after line.
+class MonthlyCost {
  public:
-  explicit MonthlySchedule(tLoanDesc& loan)
-      : loan_(loan),
-        layout_(Layout::Of(loan)),
-        dates_(loan.startDate),
-        rate_(loan),
-        growth_(MonthlyGrowth(loan.intRate)),
-        running_{loan.startingBalance, loan.payment, loan.taxRate / 100} {}
+  MonthlyCost(const tCreditQualification& qualification, const Layout& layout)
+      : totals_(qualification),
+        discountGrowth_(MonthlyGrowth(qualification.investmentGrowthRate)),
+        homeGrowthAYear_(1 + qualification.homeValueGrowthRate / 100),
+        horizon_(Horizon(layout, qualification.monthsToKeep)) {}
 
-  void Build() {
-    loan_.schedule.assign(static_cast<std::size_t>(layout_.last) + 1, tSchedule{});
-    loan_.schedule[0] = OpeningLine(loan_);
-    if (loan_.typ == loanAsLease) WritePrepaidLine();
-    for (int k = 1; k <= layout_.regular; ++k) WriteRegularLine(k);
+  void Add(const tSchedule& line) {
+    if (month_ > horizon_) return;
+    totals_.AddLine(line, discount_);
+    if (month_ > 0) totals_.AddCharges(discount_, homeGrowth_);
+    discount_ *= discountGrowth_;
+    if (--monthsToAnniversary_ == 0) {
+      homeGrowth_ *= homeGrowthAYear_;
+      monthsToAnniversary_ = 12;
+    }
+    balance_ = line.endingBalance;
+    ++month_;
   }
 
-  /// What a term that was searched for leaves is paid with its last payment.
-  void SettleRemainder() {
-    tSchedule& line = loan_.schedule.back();
-    if (layout_.regular == 0 || !(line.endingBalance > 0)) return;
-    line.payment += line.endingBalance;
-    line.endingBalance = 0;
-  }
+  void AddInterest(const tSchedule& line) { totals_.AddInterest(line); }
 
-  /// A lease's balance grows on for each month that was paid in advance; then it is paid at once.
-  tSchedule CloseLease() {
-    tSchedule line;
-    line.lineDate = dates_.After(layout_.payments);
-    line.startingBalance = running_.balance;
-    line.intRate = (growth_ - 1) * 1200;
-    double grown = running_.balance;
-    for (int month = 0; month < loan_.numberPrepays; ++month) grown = RoundToCents(grown * growth_);
-    line.intCharged = RoundToCents(grown - running_.balance);
-    line.taxCredited = running_.taxFraction * line.intCharged;
-    line.payment = grown;
-    loan_.residualAmount = grown;
-    loan_.schedule.push_back(line);
-    return line;
+  void Store(tLoanDesc& loan) {
+    totals_.Sell(loan, balance_, homeGrowth_, discountGrowth_, discount_);
+    totals_.Store(loan);
   }
-
-  const Layout& Lines() const { return layout_; }
 
  private:
+  static int Horizon(const Layout& layout, double monthsToKeep) {
+    const bool isShorter = monthsToKeep >= 1 && monthsToKeep <= layout.payments;
+    return isShorter ? ToInteger(monthsToKeep) : layout.last;
+  }
+
+  CostTotals totals_;
+  double discountGrowth_;
+  double homeGrowthAYear_;
+  double discount_ = 1;
+  double homeGrowth_ = 1;
+  double balance_ = 0;
+  int horizon_;
+  int month_ = 0;
+  int monthsToAnniversary_ = 13;  // the opening line is no month
+};
+
+/// Builds the lines and sums them in one pass: the chain of rounded balances leaves the processor idle
+/// enough.
+class MonthlySchedule {
+ public:
+  MonthlySchedule(tLoanDesc& loan, const tCreditQualification& qualification, bool settleRemainder)
+      : loan_(loan),
+        settleRemainder_(settleRemainder),
+        layout_(Layout::Of(loan)),
+        dates_(loan.startDate, layout_.payments),
+        rate_(loan),
+        growth_(MonthlyGrowth(loan.intRate)),
+        running_{loan.startingBalance, loan.payment, loan.taxRate / 100},
+        cost_(qualification, layout_) {}
+
+  void Build() {
+    loan_.schedule.clear();
+    loan_.schedule.reserve(static_cast<std::size_t>(layout_.last) + 2);  // a lease has a closing line too
+    Write(OpeningLine(loan_));
+    if (loan_.typ == loanAsLease) WritePrepaidLine();
+    for (int k = 1; k <= layout_.regular; ++k) WriteRegularLine(k);
+    if (loan_.typ == loanAsLease) CloseLease();
+    cost_.Store(loan_);
+  }
+
+ private:
+  void Write(const tSchedule& line) {
+    loan_.schedule.push_back(line);
+    cost_.Add(line);
+  }
+
   void WritePrepaidLine() {
-    if (layout_.last < 1) Raise(ErrorNumber::SubscriptOutOfRange);
-    tSchedule& line = loan_.schedule[1];
+    tSchedule line;
     line.lineDate = loan_.startDate;
     line.startingBalance = running_.balance;
     line.payment = running_.payment * loan_.numberPrepays;
     running_.balance -= line.payment;
     line.endingBalance = running_.balance;
+    Write(line);
   }
 
   void WriteRegularLine(int k) {
@@ -113,8 +145,8 @@ class MonthlySchedule {
       running_.payment =
           RoundToCents(Divide(running_.balance, AnnuityFactor(growth_, layout_.regular - k + 1)));
     }
-    tSchedule& line = loan_.schedule[static_cast<std::size_t>(layout_.first + k - 1)];
-    line.lineDate = dates_.After(k);
+    tSchedule line;
+    line.lineDate = dates_.Next();
     line.intRate = (growth_ - 1) * 1200;
     if (loan_.typ == creditCard && k >= 2) {
       // The card's payments fall in mid-month: half of this one has been owed all month.
@@ -124,39 +156,41 @@ class MonthlySchedule {
       const double grown = RoundToCents(running_.balance * growth_);
       running_.Pay(line, grown, RoundToCents(grown - running_.balance));
     }
+    if (settleRemainder_ && k == layout_.regular) SettleRemainder(line);
+    Write(line);
+  }
+
+  /// What a term that was searched for leaves is paid with its last payment.
+  void SettleRemainder(tSchedule& last) {
+    last.payment += running_.balance;
+    last.endingBalance = running_.balance = 0;
+  }
+
+  /// A lease's balance grows on for each month that was paid in advance; then it is paid at once.
+  void CloseLease() {
+    tSchedule line;
+    line.lineDate = AdvanceDate(loan_.startDate, monthlyMode, layout_.payments);
+    line.startingBalance = running_.balance;
+    line.intRate = (growth_ - 1) * 1200;
+    double grown = running_.balance;
+    for (int month = 0; month < loan_.numberPrepays; ++month) grown = RoundToCents(grown * growth_);
+    line.intCharged = RoundToCents(grown - running_.balance);
+    line.taxCredited = running_.taxFraction * line.intCharged;
+    line.payment = grown;
+    loan_.residualAmount = grown;
+    loan_.schedule.push_back(line);
+    cost_.AddInterest(line);
   }
 
   tLoanDesc& loan_;
+  bool settleRemainder_;
   Layout layout_;
   MonthlyDates dates_;
   AdjustableRate rate_;
   double growth_;
   RunningLoan running_;
+  MonthlyCost cost_;
 };
-
-int Horizon(const Layout& layout, double monthsToKeep) {
-  const bool isShorter = monthsToKeep >= 1 && monthsToKeep <= layout.payments;
-  const int horizon = isShorter ? ToInteger(monthsToKeep) : layout.last;
-  return horizon < layout.last ? horizon : layout.last;
-}
-
-CostTotals SumLines(const tLoanDesc& loan, const Layout& layout, const tCreditQualification& qualification) {
-  const double discountGrowth = MonthlyGrowth(qualification.investmentGrowthRate);
-  const double homeGrowthAYear = 1 + qualification.homeValueGrowthRate / 100;
-  const int horizon = Horizon(layout, qualification.monthsToKeep);
-  CostTotals totals(qualification);
-  double discount = 1;
-  double homeGrowth = 1;
-  for (int m = 0; m <= horizon; ++m) {
-    totals.AddLine(loan.schedule[static_cast<std::size_t>(m)], discount);
-    if (m > 0) totals.AddCharges(discount, homeGrowth);
-    discount *= discountGrowth;
-    if (m > 0 && m % 12 == 0) homeGrowth *= homeGrowthAYear;
-  }
-  totals.Sell(loan, loan.schedule[static_cast<std::size_t>(horizon)].endingBalance, homeGrowth,
-              discountGrowth, discount);
-  return totals;
-}
 
 }  // namespace
 
@@ -183,12 +217,7 @@ void BuildLoanSchedule(tLoanDesc& loan, const tCreditQualification& qualificatio
     loan.period = found.payments;
     loan.payment = found.payment;
   }
-  MonthlySchedule schedule(loan);
-  schedule.Build();
-  if (isTermUnknown) schedule.SettleRemainder();
-  CostTotals totals = SumLines(loan, schedule.Lines(), qualification);
-  if (loan.typ == loanAsLease) totals.AddInterest(schedule.CloseLease());
-  totals.Store(loan);
+  MonthlySchedule(loan, qualification, isTermUnknown).Build();
 }
 
 }  // namespace amortix2
