@@ -140,7 +140,7 @@ class Variant {
   }
   template <class T>
   static T FromPayload(const Words& words) noexcept {
-    std::array<unsigned char, sizeof(T)> bytes;
+    std::array<unsigned char, sizeof(T)> bytes;  // NOLINT(bugprone-sizeof-expression): a pointer too
     std::memcpy(bytes.data(), &words.payload, sizeof bytes);
     return std::bit_cast<T>(bytes);
   }
