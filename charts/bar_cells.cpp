@@ -6,59 +6,59 @@ namespace amortix2 {
 namespace {
 
 TextStyle Choose(const BarChartSettings& settings, Markup styleClass, TextStyle plain) {
-  return settings.useStyleSheets ? TextStyle{styleClass, ""} : plain;
+  return settings.useStyleSheets ? TextStyle{styleClass, ""_m} : plain;
 }
 
 }  // namespace
 
 TextStyle AxisLabelStyle(const BarChartSettings& settings) {
-  return Choose(settings, " CLASS=%xyaxis%>", {"><FONT SIZE=%1%>", "</FONT>"});
+  return Choose(settings, " CLASS=%xyaxis%>"_m, {"><FONT SIZE=%1%>"_m, "</FONT>"_m});
 }
 
 TextStyle ChartTitleStyle(const BarChartSettings& settings) {
-  return Choose(settings, "CLASS=%chtitle%>", {"><FONT SIZE=%3%><b>", "</b></FONT>"});
+  return Choose(settings, "CLASS=%chtitle%>"_m, {"><FONT SIZE=%3%><b>"_m, "</b></FONT>"_m});
 }
 
 TextStyle YCaptionStyle(const BarChartSettings& settings) {
-  return Choose(settings, "CLASS=%xylabel%>", {"><FONT SIZE=%3%><b>", "</b></FONT>"});
+  return Choose(settings, "CLASS=%xylabel%>"_m, {"><FONT SIZE=%3%><b>"_m, "</b></FONT>"_m});
 }
 
 TextStyle XCaptionStyle(const BarChartSettings& settings) {
-  return Choose(settings, "CLASS=%xylabel%>", {"><b>", "</b>"});
+  return Choose(settings, "CLASS=%xylabel%>"_m, {"><b>"_m, "</b>"_m});
 }
 
 void WriteLabelCell(MarkupWriter& out, const BarChartSettings& settings, const LabelCell& cell,
                     std::string_view text) {
   const TextStyle style = AxisLabelStyle(settings);
   const auto label = [&](Markup opening) {
-    out.Line(opening, cell.width, "%", style.opening, text, style.closing, "</TD>");
+    out.Line(opening, cell.width, "%"_m, style.opening, text, style.closing, "</TD>"_m);
   };
   switch (cell.kind) {
     case LabelCell::Kind::Left:
-      return label("<TD ALIGN=%left% width=%");
+      return label("<TD ALIGN=%left% width=%"_m);
     case LabelCell::Kind::Middle:
-      return label("<TD ALIGN=%middle% width=%");
+      return label("<TD ALIGN=%middle% width=%"_m);
     case LabelCell::Kind::Right:
-      return label("<TD ALIGN=%right% width =%");
+      return label("<TD ALIGN=%right% width =%"_m);
     case LabelCell::Kind::Gap:
-      return out.Line("<TD width=%", cell.width, "%>&nbsp;</TD>");
+      return out.Line("<TD width=%"_m, cell.width, "%>&nbsp;</TD>"_m);
   }
 }
 
 void SpacerCell(MarkupWriter& out, std::string_view blank, Pixels width) { ImageCell(out, 1, blank, width); }
 
 void OpenPile(MarkupWriter& out, Markup edge) {
-  out.Line("<TD VALIGN=%", edge, "%>");
-  out.Line("<table border=%0% cellspacing=%0% cellpadding=%0%>");
+  out.Line("<TD VALIGN=%"_m, edge, "%>"_m);
+  out.Line("<table border=%0% cellspacing=%0% cellpadding=%0%>"_m);
 }
 
 void PileRow(MarkupWriter& out, Markup edge, const PileImage& image) {
-  out.Append("<tr><td valign=%", edge, "%><IMG border=0 ");
-  out.Line("alt=%", image.tooltip, "% height =%", image.height, "% src=%", image.image, "% width=%",
-           image.width, "% ></td></tr>");
+  out.Append("<tr><td valign=%"_m, edge, "%><IMG border=0 "_m);
+  out.Line("alt=%"_m, image.tooltip, "% height =%"_m, image.height, "% src=%"_m, image.image, "% width=%"_m,
+           image.width, "% ></td></tr>"_m);
 }
 
-void ClosePile(MarkupWriter& out) { out.Line("</Table></TD>"); }
+void ClosePile(MarkupWriter& out) { out.Line("</Table></TD>"_m); }
 
 std::string BarTooltip(const BarChartSettings& settings, double value, std::string_view legend) {
   std::string text = FormatNumber(value, settings.altFormat);

@@ -25,14 +25,14 @@ TextStyle ChartTitleStyle(const BarChartSettings& settings);
 TextStyle YCaptionStyle(const BarChartSettings& settings);
 TextStyle XCaptionStyle(const BarChartSettings& settings);
 
-inline constexpr Markup kPlainTable = "<TABLE BORDER=%0% CELLSPACING=%0% CELLPADDING=%0%>";
+inline constexpr Markup kPlainTable = "<TABLE BORDER=%0% CELLSPACING=%0% CELLPADDING=%0%>"_m;
 
 /// A cell of the plot's row that holds one stretched image. `height` is a number or a SignedNumber.
 template <class Height>
 void ImageCell(MarkupWriter& out, Height height, std::string_view image, Pixels width) {
-  out.Append("<TD VALIGN=%bottom%><IMG border=0 ");
-  out.Append("height=%", height, "% ");
-  out.Line("src=%", image, "% width =%", width, "% ></TD>");
+  out.Append("<TD VALIGN=%bottom%><IMG border=0 "_m);
+  out.Append("height=%"_m, height, "% "_m);
+  out.Line("src=%"_m, image, "% width =%"_m, width, "% ></TD>"_m);
 }
 
 /// A cell of the label row below the plot; a gap's text is not written.

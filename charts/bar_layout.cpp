@@ -9,101 +9,106 @@ constexpr Pixels kFrameWidth = 3;
 
 void OpenFrame(MarkupWriter& out, const BarChartInput& input) {
   const BarChartSettings& settings = input.settings;
-  out.Line("<TABLE WIDTH=%", settings.totalFrameWidth, "% BORDER=%0% ", "CELLPADDING=%0% CELLSPACING=%0%>");
-  out.Line("<TR>");
+  out.Line("<TABLE WIDTH=%"_m, settings.totalFrameWidth, "% BORDER=%0% "_m,
+           "CELLPADDING=%0% CELLSPACING=%0%>"_m);
+  out.Line("<TR>"_m);
   if (settings.useStyleSheets) {
-    out.Line("<TD CLASS=%title% COLSPAN=%3%>&nbsp;", input.texts.frameTitle);
+    out.Line("<TD CLASS=%title% COLSPAN=%3%>&nbsp;"_m, input.texts.frameTitle);
   } else {
-    out.Line("<TD BGCOLOR=%#666666% COLSPAN=%3%>");
-    out.Line("<FONT color=%#ffffff%>");
-    out.Line("<STRONG>&nbsp; ", input.texts.frameTitle, "</STRONG>");
-    out.Line("</FONT>");
+    out.Line("<TD BGCOLOR=%#666666% COLSPAN=%3%>"_m);
+    out.Line("<FONT color=%#ffffff%>"_m);
+    out.Line("<STRONG>&nbsp; "_m, input.texts.frameTitle, "</STRONG>"_m);
+    out.Line("</FONT>"_m);
   }
-  out.Line("</TD></TR>");
-  const Markup look = settings.useStyleSheets ? Markup("CLASS=%frame%") : Markup("BGCOLOR=%silver%");
-  out.Line("<TR><TD HEIGHT=%3% COLSPAN=%3% ", look, "><IMG src=%", settings.spaceImage, "% ></TD></TR>");
-  out.Line("<TR>");
-  out.Line("<TD WIDTH=%3% ", look, "><IMG src=%", settings.spaceImage, "% ></TD>");
-  out.Line("<TD WIDTH=%", settings.totalFrameWidth - 2 * kFrameWidth, "%>");
+  out.Line("</TD></TR>"_m);
+  const Markup look = settings.useStyleSheets ? "CLASS=%frame%"_m : "BGCOLOR=%silver%"_m;
+  out.Line("<TR><TD HEIGHT=%3% COLSPAN=%3% "_m, look, "><IMG src=%"_m, settings.spaceImage,
+           "% ></TD></TR>"_m);
+  out.Line("<TR>"_m);
+  out.Line("<TD WIDTH=%3% "_m, look, "><IMG src=%"_m, settings.spaceImage, "% ></TD>"_m);
+  out.Line("<TD WIDTH=%"_m, settings.totalFrameWidth - 2 * kFrameWidth, "%>"_m);
 }
 
 void CloseFrame(MarkupWriter& out, const BarChartSettings& settings) {
-  const Markup look = settings.useStyleSheets ? Markup("CLASS=%frame%>") : Markup("bgcolor=%silver%>");
-  out.Line("</TD>");
-  out.Line("<TD WIDTH=%3% ", look, "<IMG height=%1% ", "src=%", settings.spaceImage, "% ></TD>");
-  out.Line("</TR>");
-  out.Line("<TR>");
-  out.Line("<TD HEIGHT=%3% COLSPAN=%3% ", look, "<IMG height=%1% src=%", settings.spaceImage, "% ></TD>");
-  out.Line("</TR>");
-  out.Line("</TABLE>");
+  const Markup look = settings.useStyleSheets ? "CLASS=%frame%>"_m : "bgcolor=%silver%>"_m;
+  out.Line("</TD>"_m);
+  out.Line("<TD WIDTH=%3% "_m, look, "<IMG height=%1% "_m, "src=%"_m, settings.spaceImage, "% ></TD>"_m);
+  out.Line("</TR>"_m);
+  out.Line("<TR>"_m);
+  out.Line("<TD HEIGHT=%3% COLSPAN=%3% "_m, look, "<IMG height=%1% src=%"_m, settings.spaceImage,
+           "% ></TD>"_m);
+  out.Line("</TR>"_m);
+  out.Line("</TABLE>"_m);
 }
 
 void WriteChartTitle(MarkupWriter& out, const BarChartInput& input) {
   const TextStyle style = ChartTitleStyle(input.settings);
-  out.Line("<TR>");
-  out.Line("<TD COLSPAN=%3% ALIGN=%middle% ", style.opening, input.texts.chartTitle, style.closing, "</TD>");
-  out.Line("</TR>");
+  out.Line("<TR>"_m);
+  out.Line("<TD COLSPAN=%3% ALIGN=%middle% "_m, style.opening, input.texts.chartTitle, style.closing,
+           "</TD>"_m);
+  out.Line("</TR>"_m);
 }
 
 void WritePlot(MarkupWriter& out, const BarChartInput& input, const Plot& plot) {
-  out.Line("<TD>");
+  out.Line("<TD>"_m);
   if (input.hasBackground) {
-    out.Line("<TABLE BORDER=%0% background=%", input.texts.background, "% CELLSPACING=%0% CELLPADDING=%0%>");
+    out.Line("<TABLE BORDER=%0% background=%"_m, input.texts.background,
+             "% CELLSPACING=%0% CELLPADDING=%0%>"_m);
   } else {
     out.Line(kPlainTable);
   }
-  out.Line("<TR>");
+  out.Line("<TR>"_m);
   ImageCell(out, SignedNumber{plot.AxisHeight()}, input.settings.axisImage, 1);
   plot.WriteBars(out);
-  out.Line("</TR>");
-  out.Line("</TABLE>");
+  out.Line("</TR>"_m);
+  out.Line("</TABLE>"_m);
 }
 
 // The axis line below the plot and its labels, in the plot's own cell.
 void WriteBottomAxis(MarkupWriter& out, const BarChartInput& input, const Plot& plot) {
-  const auto open = [&](Markup rest) { out.Line("<TABLE ", "width =%", plot.Width(), "%", rest); };
-  open(" BORDER=%0% CELLPADDING=%0%  CELLSPACING=%0%>");
-  out.Line("<TR><TD>");
-  out.Append("<IMG border=0 height=% 1% src=%", input.settings.axisImage, "% ");
-  out.Line("width =%", plot.Width(), "% ></TD>");
-  out.Line("</TR>");
-  out.Line("</TABLE>");
-  open(" BORDER=%0% CELLPADDING=%0%  CELLSPACING=%0%><TR>");
+  const auto open = [&](Markup rest) { out.Line("<TABLE "_m, "width =%"_m, plot.Width(), "%"_m, rest); };
+  open(" BORDER=%0% CELLPADDING=%0%  CELLSPACING=%0%>"_m);
+  out.Line("<TR><TD>"_m);
+  out.Append("<IMG border=0 height=% 1% src=%"_m, input.settings.axisImage, "% "_m);
+  out.Line("width =%"_m, plot.Width(), "% ></TD>"_m);
+  out.Line("</TR>"_m);
+  out.Line("</TABLE>"_m);
+  open(" BORDER=%0% CELLPADDING=%0%  CELLSPACING=%0%><TR>"_m);
   plot.WriteBottomLabels(out);
-  out.Line("</TR></TABLE>");
-  out.Line("</TD>");
-  out.Line("</TR>");
+  out.Line("</TR></TABLE>"_m);
+  out.Line("</TD>"_m);
+  out.Line("</TR>"_m);
 }
 
 void WriteXCaption(MarkupWriter& out, const BarChartInput& input) {
   const TextStyle style = XCaptionStyle(input.settings);
-  out.Line("<TR>");
-  out.Line("<TD COLSPAN=%2%></TD>");
-  out.Line("<TD ALIGN=%middle% ", style.opening, input.texts.xCaption, style.closing, "</TD>");
-  out.Line("</TR>");
+  out.Line("<TR>"_m);
+  out.Line("<TD COLSPAN=%2%></TD>"_m);
+  out.Line("<TD ALIGN=%middle% "_m, style.opening, input.texts.xCaption, style.closing, "</TD>"_m);
+  out.Line("</TR>"_m);
 }
 
 void WriteLegend(MarkupWriter& out, const BarChartInput& input) {
   constexpr Pixels kImageWidth = 20;
   const std::int32_t count = input.values.Series();
   const Pixels textWidth = LegendTextWidth(input.settings.graph.width, count);
-  out.Line("<TR>");
-  out.Line("<TD COLSPAN=%2%>&nbsp;</TD>");
-  out.Line("<TD VALIGN=%middle% >");
-  out.Line("<TABLE  VALIGN=%middle% BORDER=%0% CELLPADDING=%2% ", "CELLSPACING=%2%>");
-  out.Line("<TR>");
-  out.Line("<TD width=%10%>&nbsp;</TD>");
+  out.Line("<TR>"_m);
+  out.Line("<TD COLSPAN=%2%>&nbsp;</TD>"_m);
+  out.Line("<TD VALIGN=%middle% >"_m);
+  out.Line("<TABLE  VALIGN=%middle% BORDER=%0% CELLPADDING=%2% "_m, "CELLSPACING=%2%>"_m);
+  out.Line("<TR>"_m);
+  out.Line("<TD width=%10%>&nbsp;</TD>"_m);
   for (std::int32_t i = 1; i <= count; ++i) {
     const auto series = static_cast<std::size_t>(input.reversedLegend ? count + 1 - i : i);
     const std::string& legend = input.texts.legends[series];
-    out.Line("<TD VALIGN=%bottom%><IMG border=0  height=15 ", "alt=%", legend, "% src=%",
-             input.texts.images[series], "% width=%", kImageWidth, "% ></TD>");
-    out.Line("<TD ALIGN=%left% width=%", textWidth, "%>", legend, "</TD>");
+    out.Line("<TD VALIGN=%bottom%><IMG border=0  height=15 "_m, "alt=%"_m, legend, "% src=%"_m,
+             input.texts.images[series], "% width=%"_m, kImageWidth, "% ></TD>"_m);
+    out.Line("<TD ALIGN=%left% width=%"_m, textWidth, "%>"_m, legend, "</TD>"_m);
   }
-  out.Line("</TR>");
-  out.Line("</TABLE>");
-  out.Line("</TD>");
-  out.Line("</TR>");
+  out.Line("</TR>"_m);
+  out.Line("</TABLE>"_m);
+  out.Line("</TD>"_m);
+  out.Line("</TR>"_m);
 }
 
 }  // namespace
@@ -111,22 +116,23 @@ void WriteLegend(MarkupWriter& out, const BarChartInput& input) {
 void WriteBarChart(MarkupWriter& out, const BarChartInput& input, const Plot& plot) {
   const bool framed = !input.texts.frameTitle.empty();
   const TextStyle captionStyle = YCaptionStyle(input.settings);
-  out.Line("<!-- Generated Chart -->");
+  out.Line("<!-- Generated Chart -->"_m);
   if (framed) OpenFrame(out, input);
   out.Line(kPlainTable);
   WriteChartTitle(out, input);
-  out.Line("<TR>");
-  out.Line("<TD VALIGN=%center% ", captionStyle.opening, input.texts.yCaption, captionStyle.closing, "</TD>");
-  out.Line("<TD VALIGN=%top%>");
+  out.Line("<TR>"_m);
+  out.Line("<TD VALIGN=%center% "_m, captionStyle.opening, input.texts.yCaption, captionStyle.closing,
+           "</TD>"_m);
+  out.Line("<TD VALIGN=%top%>"_m);
   plot.WriteSideLabels(out);
-  out.Line("</TD>");
+  out.Line("</TD>"_m);
   WritePlot(out, input, plot);
   WriteBottomAxis(out, input, plot);
   WriteXCaption(out, input);
   if (input.hasLegend) WriteLegend(out, input);
-  out.Line("</TABLE>");
+  out.Line("</TABLE>"_m);
   if (framed) CloseFrame(out, input.settings);
-  out.Line("<!-- End Of Generated Chart -->");
+  out.Line("<!-- End Of Generated Chart -->"_m);
 }
 
 }  // namespace amortix2

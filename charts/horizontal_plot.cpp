@@ -25,26 +25,26 @@ void HorizontalPlot::WriteSideLabels(MarkupWriter& out) const {
   constexpr Pixels kLargestLine =
       20;  // of any browser's line of text: lower rows must not grow with their text
   const TextStyle style = AxisLabelStyle(input_.settings);
-  const Markup fixed = pitch_ < kLargestLine ? Markup("STYLE=%line-height:1px% ") : Markup("");
+  const Markup fixed = pitch_ < kLargestLine ? "STYLE=%line-height:1px% "_m : ""_m;
   const auto row = [&](Pixels height, const auto&... content) {
-    out.Line("<TR>");
-    out.Line("<TD VALIGN=%middle% ALIGN=%right% NOWRAP ", fixed, "height=%", height, "% ", style.opening,
-             content..., style.closing, "</TD>");
-    out.Line("</TR>");
+    out.Line("<TR>"_m);
+    out.Line("<TD VALIGN=%middle% ALIGN=%right% NOWRAP "_m, fixed, "height=%"_m, height, "% "_m,
+             style.opening, content..., style.closing, "</TD>"_m);
+    out.Line("</TR>"_m);
   };
   out.Line(kPlainTable);
   // Half a gap less than a whole one, so that every label stands at the middle of its group.
-  row(thickness_ - thickness_ / 2, "<IMG src=%", input_.settings.spaceImage, "% >");
+  row(thickness_ - thickness_ / 2, "<IMG src=%"_m, input_.settings.spaceImage, "% >"_m);
   const Pixels interval = (kTextHeight - 1) / std::max<Pixels>(pitch_, 1) + 1;
   for (std::int32_t group = 1; group <= input_.values.Rows(); ++group) {
     const bool labelled = (group - 1) % interval == 0;
     row(pitch_, labelled ? std::string_view(input_.values.Label(group)) : std::string_view());
   }
-  out.Line("</TABLE>");
+  out.Line("</TABLE>"_m);
 }
 
 void HorizontalPlot::WriteBars(MarkupWriter& out) const {
-  const Markup edge = "bottom";
+  const Markup edge = "bottom"_m;
   const auto space = [&](Pixels width) { PileRow(out, edge, {input_.texts.blank, "", width, thickness_}); };
   OpenPile(out, edge);
   space(length_);

@@ -10,21 +10,12 @@ constexpr std::int32_t kLinesAtOnce = 100;
 
 }  // namespace
 
-void MarkupWriter::Substitute(std::string_view text, char placeholder) {
+void MarkupWriter::Put(std::string_view pageText) {
   const std::size_t start = line_.size();
-  line_.resize(start + text.size());
-  char* out = line_.data() + start;
-  const char* const end = text.data() + text.size();
-  for (const char* in = text.data(); in != end; ++in) {
-    char c = *in;
-    if (c == '%') {
-      const bool pair = in + 1 != end && in[1] == '%';
-      if (pair) ++in;
-      c = pair ? '%' : placeholder;
-    }
-    *out++ = c;
-  }
-  line_.resize(static_cast<std::size_t>(out - line_.data()));
+  line_ += pageText;
+  if (pageText.find('%') == std::string_view::npos) return;
+  const char* const end = CopySubstituted(pageText, '%', line_.data() + start);
+  line_.resize(static_cast<std::size_t>(end - line_.data()));
 }
 
 void MarkupWriter::PutNumber(std::int64_t number) {

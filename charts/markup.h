@@ -16,16 +16,41 @@
 
 namespace amortix2 {
 
-/// A literal of the program, with placeholders. Made from string literals only, at compile time.
+/// Copies `text` to `out`, every "%%" as one "%" and every other "%" as `placeholder`; returns the end of the
+/// copy.
+constexpr char* CopySubstituted(std::string_view text, char placeholder, char* out) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool percent = text[i] == '%';
+    const bool pair = percent && i + 1 < text.size() && text[i + 1] == '%';
+    *out++ = percent && !pair ? placeholder : text[i];
+    if (pair) ++i;
+  }
+  return out;
+}
+
+/// A literal of the program, its placeholders already turned into quotes. Written "<TD width=%30%>"_m.
 class Markup {
  public:
-  template <std::size_t N>
-  consteval Markup(const char (&literal)[N]) : text_(literal, N - 1) {}
+  explicit constexpr Markup(std::string_view text) : text_(text) {}
   constexpr std::string_view Text() const noexcept { return text_; }
 
  private:
   std::string_view text_;
 };
+
+template <std::size_t N>
+struct MarkupLiteral {
+  consteval MarkupLiteral(const char (&literal)[N])
+      : size(static_cast<std::size_t>(CopySubstituted({literal, N - 1}, '"', text) - text)) {}
+
+  char text[N] = {};
+  std::size_t size;
+};
+
+template <MarkupLiteral kLiteral>
+consteval Markup operator""_m() {
+  return Markup({kLiteral.text, kLiteral.size});
+}
 
 /// A number written with a blank in the place of the sign when it is not negative (" 300", "-5").
 struct SignedNumber {
@@ -70,18 +95,14 @@ class MarkupWriter {
   std::string OpenElements() const { return tags_.OpenElements(); }
 
  private:
-  template <std::size_t N>
-  void Put(const char (&literal)[N]) {
-    Substitute({literal, N - 1}, '"');
-  }
-  void Put(Markup literal) { Substitute(literal.Text(), '"'); }
-  void Put(std::string_view pageText) { Substitute(pageText, '%'); }
+  void Put(const char*) = delete;  // a literal without its suffix
+  void Put(Markup literal) { line_ += literal.Text(); }
+  void Put(std::string_view pageText);
   void Put(SignedNumber number);
   template <class Number>
   requires std::is_integral_v<Number>
   void Put(Number number) { PutNumber(number); }
 
-  void Substitute(std::string_view text, char placeholder);
   void PutNumber(std::int64_t number);
   void Check(std::size_t start);
   void EndLine();

@@ -27,56 +27,55 @@ void UprightPlot::WriteSideLabels(MarkupWriter& out) const {
   const TextStyle style = AxisLabelStyle(input_.settings);
   const Pixels height = AxisHeight();
   const auto row = [&](Markup edge, Pixels rowHeight, const auto&... content) {
-    out.Line("<TR>");
-    out.Line("<TD VALIGN=%", edge, "% ALIGN=%right% height=%", rowHeight, "% ", style.opening, content...,
-             style.closing, "</TD>");
-    out.Line("</TR>");
+    out.Line("<TR>"_m);
+    out.Line("<TD VALIGN=%"_m, edge, "% ALIGN=%right% height=%"_m, rowHeight, "% "_m, style.opening,
+             content..., style.closing, "</TD>"_m);
+    out.Line("</TR>"_m);
   };
-  out.Line("<TABLE width=33 BORDER=%0% height=%", SignedNumber{height}, "% CELLSPACING=%0% CELLPADDING=%0%>");
+  out.Line("<TABLE width=33 BORDER=%0% height=%"_m, SignedNumber{height},
+           "% CELLSPACING=%0% CELLPADDING=%0%>"_m);
   for (int line = 0; line <= kGridIntervals; ++line) {
     const bool end = line == 0 || line == kGridIntervals;
-    const Markup edge = line == 0                ? Markup("top")
-                        : line == kGridIntervals ? Markup("bottom")
-                                                 : Markup("middle");
+    const Markup edge = line == 0 ? "top"_m : line == kGridIntervals ? "bottom"_m : "middle"_m;
     const Pixels rowHeight = height / (end ? 2 * kGridIntervals : kGridIntervals);
     if (const auto value = GridLabel(input_.axis, line, input_.settings.valueLabels)) {
       row(edge, rowHeight, FormatNumber(*value, input_.settings.valueLabelFormat));
     } else {
-      row(edge, rowHeight, "<IMG src=%", input_.settings.spaceImage, "% >");
+      row(edge, rowHeight, "<IMG src=%"_m, input_.settings.spaceImage, "% >"_m);
     }
   }
-  out.Line("</TABLE>");
+  out.Line("</TABLE>"_m);
 }
 
 void UprightPlot::WriteBars(MarkupWriter& out) const {
   if (split_.zeroRow == kGridIntervals) return WriteGroups(out, Side::Above);
-  out.Line("<TD>", kPlainTable);
+  out.Line("<TD>"_m, kPlainTable);
   if (split_.zeroRow > 0) WriteAbove(out);
   WriteZeroLine(out);
   WriteBelow(out);
-  out.Line("</TABLE></TD>");
+  out.Line("</TABLE></TD>"_m);
 }
 
 void UprightPlot::WriteAbove(MarkupWriter& out) const {
-  out.Line("<TR><TD>", kPlainTable);
-  out.Line("<TR height=%", split_.above, "% >");
+  out.Line("<TR><TD>"_m, kPlainTable);
+  out.Line("<TR height=%"_m, split_.above, "% >"_m);
   WriteGroups(out, Side::Above);
-  out.Line("</TR></TABLE></TD></TR>");
+  out.Line("</TR></TABLE></TD></TR>"_m);
 }
 
 void UprightPlot::WriteZeroLine(MarkupWriter& out) const {
-  out.Line("<TR height=%1% ><TD>");
-  out.Line("<IMG border=0 height=% 1% src=%", input_.settings.axisImage, "% width =%", groupsWidth_,
-           "% ></TD>");
-  out.Line("</TR>");
+  out.Line("<TR height=%1% ><TD>"_m);
+  out.Line("<IMG border=0 height=% 1% src=%"_m, input_.settings.axisImage, "% width =%"_m, groupsWidth_,
+           "% ></TD>"_m);
+  out.Line("</TR>"_m);
 }
 
 void UprightPlot::WriteBelow(MarkupWriter& out) const {
-  out.Line("<TR height=%", split_.below - 1, "% >");  // the zero line has the other pixel
-  out.Line("<TD VALIGN=%top%>", kPlainTable);
-  out.Line("<TR>");
+  out.Line("<TR height=%"_m, split_.below - 1, "% >"_m);  // the zero line has the other pixel
+  out.Line("<TD VALIGN=%top%>"_m, kPlainTable);
+  out.Line("<TR>"_m);
   WriteGroups(out, Side::Below);
-  out.Line("</TR></TABLE></TD></TR>");
+  out.Line("</TR></TABLE></TD></TR>"_m);
 }
 
 void UprightPlot::WriteGroups(MarkupWriter& out, Side side) const {
@@ -106,7 +105,7 @@ void UprightPlot::WriteGroups(MarkupWriter& out, Side side) const {
 void UprightPlot::WriteSlice(MarkupWriter& out, Side side, std::int32_t row, Pixels width,
                              std::span<const Segment> segments) const {
   if (segments.empty()) return SpacerCell(out, input_.texts.blank, width);
-  const Markup edge = side == Side::Above ? Markup("bottom") : Markup("top");
+  const Markup edge = side == Side::Above ? "bottom"_m : "top"_m;
   OpenPile(out, edge);
   for (const Segment& segment : segments) {
     const auto& image = input_.texts.images[static_cast<std::size_t>(segment.series)];

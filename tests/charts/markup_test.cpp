@@ -21,13 +21,13 @@ TEST(Markup, PlaceholdersAndTexts) {
     std::string written, expected;
   } cases[] = {
       // The program's literals.
-      {Written("height=%", 300, "% "), R"(height="300" )"},
-      {Written("100%% sure"), "100% sure"},
-      {Written("%%%0%%%"), R"(%"0%")"},
-      {Written("odd % end %"), R"(odd " end ")"},
+      {Written("height=%"_m, 300, "% "_m), R"(height="300" )"},
+      {Written("100%% sure"_m), "100% sure"},
+      {Written("%%%0%%%"_m), R"(%"0%")"},
+      {Written("odd % end %"_m), R"(odd " end ")"},
       // The page's texts never become quotes.
-      {Written("alt=%", Text(""), "%"), R"(alt="")"},
-      {Written("src=%", Text("a%20b.gif"), "%"), R"(src="a%20b.gif")"},
+      {Written("alt=%"_m, Text(""), "%"_m), R"(alt="")"},
+      {Written("src=%"_m, Text("a%20b.gif"), "%"_m), R"(src="a%20b.gif")"},
       {Written(Text("100%"), Text("100%%"), Text("%%%")), "100%100%%%"},
       {Written(Text("<b>\"&</b>")), "<b>\"&</b>"},
       // Numbers.
@@ -40,8 +40,8 @@ TEST(Markup, LinesAreAnArray) {
   for (const int count : {0, 1, 99, 100, 101, 350}) {
     MarkupWriter out(false);
     for (int i = 1; i <= count; ++i) {
-      out.Append("<", i);
-      out.Line(">");
+      out.Append("<"_m, i);
+      out.Line(">"_m);
     }
     const Array lines = out.Finish();
     ASSERT_EQ(lines.Dimension(1), (Bounds{0, count + 1})) << count;
@@ -50,7 +50,7 @@ TEST(Markup, LinesAreAnArray) {
     EXPECT_EQ(lines.At(count + 1), Variant());
   }
   MarkupWriter unfinished(false);
-  unfinished.Append("rest");
+  unfinished.Append("rest"_m);
   EXPECT_EQ(unfinished.Finish().At(1), Variant("rest"));
 }
 
@@ -78,8 +78,8 @@ TEST(Markup, BrokenNestingIsMarkedWhenChecked) {
     EXPECT_EQ(tags.OpenElements(), step.open.empty() ? "" : mark + std::string(step.open)) << step.fragment;
   }
   MarkupWriter out(true);
-  out.Append("<TABLE>");
-  out.Line("<TD>");
+  out.Append("<TABLE>"_m);
+  out.Line("<TD>"_m);
   EXPECT_EQ(out.Finish().At(1).GetString(), "<TABLE>" + mark + "<TD>");
 }
 
