@@ -116,7 +116,7 @@ class MonthlySchedule {
   void Build() {
     loan_.schedule.clear();
     loan_.schedule.reserve(static_cast<std::size_t>(layout_.last) + 2);  // a lease has a closing line too
-    Write(OpeningLine(loan_));
+    cost_.Add(loan_.schedule.emplace_back(OpeningLine(loan_)));
     if (loan_.typ == loanAsLease) WritePrepaidLine();
     for (int k = 1; k <= layout_.regular; ++k) WriteRegularLine(k);
     if (loan_.typ == loanAsLease) CloseLease();
@@ -124,19 +124,14 @@ class MonthlySchedule {
   }
 
  private:
-  void Write(const tSchedule& line) {
-    loan_.schedule.push_back(line);
-    cost_.Add(line);
-  }
-
   void WritePrepaidLine() {
-    tSchedule line;
+    tSchedule& line = loan_.schedule.emplace_back();
     line.lineDate = loan_.startDate;
     line.startingBalance = running_.balance;
     line.payment = running_.payment * loan_.numberPrepays;
     running_.balance -= line.payment;
     line.endingBalance = running_.balance;
-    Write(line);
+    cost_.Add(line);
   }
 
   void WriteRegularLine(int k) {
@@ -145,7 +140,8 @@ class MonthlySchedule {
       running_.payment =
           RoundToCents(Divide(running_.balance, AnnuityFactor(growth_, layout_.regular - k + 1)));
     }
-    tSchedule line;
+    tSchedule& line =
+        loan_.schedule.emplace_back();  // filled in place: a copy would cost as much as the rest
     line.lineDate = dates_.Next();
     line.intRate = (growth_ - 1) * 1200;
     if (loan_.typ == creditCard && k >= 2) {
@@ -157,7 +153,7 @@ class MonthlySchedule {
       running_.Pay(line, grown, RoundToCents(grown - running_.balance));
     }
     if (settleRemainder_ && k == layout_.regular) SettleRemainder(line);
-    Write(line);
+    cost_.Add(line);
   }
 
   /// What a term that was searched for leaves is paid with its last payment.
@@ -168,7 +164,7 @@ class MonthlySchedule {
 
   /// A lease's balance grows on for each month that was paid in advance; then it is paid at once.
   void CloseLease() {
-    tSchedule line;
+    tSchedule& line = loan_.schedule.emplace_back();
     line.lineDate = AdvanceDate(loan_.startDate, monthlyMode, layout_.payments);
     line.startingBalance = running_.balance;
     line.intRate = (growth_ - 1) * 1200;
@@ -178,7 +174,6 @@ class MonthlySchedule {
     line.taxCredited = running_.taxFraction * line.intCharged;
     line.payment = grown;
     loan_.residualAmount = grown;
-    loan_.schedule.push_back(line);
     cost_.AddInterest(line);
   }
 
