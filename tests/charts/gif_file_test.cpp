@@ -56,29 +56,25 @@ TEST_F(GifFile, ReplacesTheWholeFile) {
 }
 
 TEST_F(GifFile, BadPathsAreErrors) {
-  EXPECT_EQ(Write("", 10), ErrorNumber::PathFileAccess);
-  EXPECT_EQ(Write(Path("a") + '\0' + "b", 10), ErrorNumber::PathFileAccess);
-  EXPECT_EQ(Write(Path("none/new"), 10), ErrorNumber::PathNotFound);
-  EXPECT_EQ(Write(Path("old/new"), 10), ErrorNumber::PathNotFound);
-  EXPECT_EQ(Write(folder.string(), 10), ErrorNumber::PathFileAccess);
-  EXPECT_EQ(Write(Path(""), 10), ErrorNumber::PathFileAccess);
-  EXPECT_EQ(Write("/dev/null", 10), ErrorNumber::PathFileAccess);
-  EXPECT_EQ(Write(Path(std::string(300, 'x')), 10), ErrorNumber::PathFileAccess);
+  for (const std::string& path : {Path("none/new"), Path("old/new")}) {
+    EXPECT_EQ(Write(path, 10), ErrorNumber::PathNotFound) << path;
+  }
+  for (const std::string& path : {std::string(), Path("a") + '\0', folder.string(), Path(""),
+                                  std::string("/dev/null"), Path(std::string(300, 'x'))}) {
+    EXPECT_EQ(Write(path, 10), ErrorNumber::PathFileAccess) << path;
+  }
   EXPECT_EQ(CountFiles(), 1);
 }
 
 TEST_F(GifFile, FullDiskLeavesTheOldFile) {
   std::signal(SIGXFSZ, SIG_IGN);
-  rlimit before;
-  getrlimit(RLIMIT_FSIZE, &before);
-  rlimit tight = before;
-  tight.rlim_cur = 4096;
+  rlimit limit;
+  getrlimit(RLIMIT_FSIZE, &limit);
+  const rlimit tight{4096, limit.rlim_max};
   setrlimit(RLIMIT_FSIZE, &tight);
-  const auto replaced = Write(Path("old"), 100000);
-  const auto created = Write(Path("new"), 100000);
-  setrlimit(RLIMIT_FSIZE, &before);
-  EXPECT_EQ(replaced, ErrorNumber::PathFileAccess);
-  EXPECT_EQ(created, ErrorNumber::PathFileAccess);
+  EXPECT_EQ(Write(Path("old"), 100000), ErrorNumber::PathFileAccess);
+  EXPECT_EQ(Write(Path("new"), 100000), ErrorNumber::PathFileAccess);
+  setrlimit(RLIMIT_FSIZE, &limit);
   EXPECT_EQ(Content("old"), std::string(5000, 'o'));
   EXPECT_EQ(CountFiles(), 1);
 }
