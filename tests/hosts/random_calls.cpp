@@ -15,6 +15,7 @@
 
 #include "automation/error.h"
 #include "automation/page.h"
+#include "cli/typed_json.h"
 #include "component/description.h"
 #include "hosts/garbage.h"
 
@@ -22,7 +23,7 @@ namespace amortix2::testing {
 namespace {
 
 using std::chrono::steady_clock;
-constexpr std::chrono::seconds kLongestCall{30};
+constexpr std::chrono::seconds kLongestCall{10};
 
 class SomeDay final : public Clock {
  public:
@@ -37,60 +38,82 @@ class Page final : public ScriptingContext, private PageResponse {
   void BinaryWrite(std::span<const std::uint8_t>) override {}
 };
 
+/// Every call is made of its number alone, so that one that shows a fault can be repeated.
 class RandomCalls {
  public:
-  explicit RandomCalls(std::uint64_t seed) : garbage_(seed) {}
-
-  void Call() {
+  void Run(std::uint64_t number) {
+    garbage_ = Garbage(number);
     const auto classes = Classes();
     const ClassInfo& type = *classes[static_cast<std::size_t>(garbage_.Pick(std::ssize(classes)))];
-    // An object serves several calls, so that settings of one meet the next.
-    if (!object_ || &object_->Class() != &type || garbage_.Pick(8) == 0) object_.emplace(type, clock_);
-    Invoke(type.members[static_cast<std::size_t>(garbage_.Pick(std::ssize(type.members)))]);
+    Object object(type, clock_);
+    // Some calls meet an object that others have changed.
+    for (std::int64_t calls = garbage_.Pick(4) == 0 ? 3 : 1; calls > 0; --calls) {
+      const MemberInfo& member =
+          type.members[static_cast<std::size_t>(garbage_.Pick(std::ssize(type.members)))];
+      const std::vector<Value> arguments = MakeArguments(member);
+      const std::string fault = Invoke(object, member, arguments);
+      if (!fault.empty()) Report(number, type, member, arguments, fault);
+    }
   }
 
-  int Report() const {
+  int Summary() const {
     for (const auto& [number, count] : outcomes_) {
       std::printf("%8ld  %s\n", count, number == ErrorNumber{0} ? "result" : ErrorName(number).data());
     }
     std::printf("slowest call: %.3f s, %s\n", std::chrono::duration<double>(slowest_).count(),
                 slowestName_.c_str());
-    if (slowest_ > kLongestCall) std::printf("too slow\n");
-    return faults_ == 0 && slowest_ <= kLongestCall ? 0 : 1;
+    return faults_ == 0 ? 0 : 1;
   }
 
  private:
-  void Invoke(const MemberInfo& member) {
-    std::vector<Value> values;
-    std::vector<void*> places;
+  std::vector<Value> MakeArguments(const MemberInfo& member) {
+    std::vector<Value> arguments;
     for (const ParameterInfo& parameter : member.parameters) {
-      values.emplace_back(*parameter.type);
-      Fill(*parameter.type, values.back().Get());
+      arguments.emplace_back(*parameter.type);
+      Fill(*parameter.type, arguments.back().Get());
     }
-    for (Value& value : values) places.push_back(value.Get());
+    return arguments;
+  }
+
+  /// What is wrong with the outcome; empty when all is well.
+  std::string Invoke(Object& object, const MemberInfo& member, const std::vector<Value>& arguments) {
+    std::vector<void*> places;
+    for (const Value& argument : arguments) places.push_back(const_cast<void*>(argument.Get()));
     std::optional<Value> result;
     if (member.result) result.emplace(*member.result);
     const auto start = steady_clock::now();
     try {
-      member.call(object_->Get(), places, result ? result->Get() : nullptr);
+      member.call(object.Get(), places, result ? result->Get() : nullptr);
       ++outcomes_[ErrorNumber{0}];
     } catch (const AutomationError& error) {
       ++outcomes_[error.Number()];
     } catch (const std::exception& other) {
-      Fault(member, other.what());
+      return std::string("raised ") + other.what();
     }
-    if (const auto took = steady_clock::now() - start; took > slowest_) {
+    const auto took = steady_clock::now() - start;
+    if (took > slowest_) {
       slowest_ = took;
       slowestName_ = member.name;
     }
-    for (const Value& value : values) {
-      if (!IsSound(value.Type(), value.Get())) Fault(member, "a result is infinite or not a number");
+    if (took > kLongestCall)
+      return "took " + std::to_string(std::chrono::duration<double>(took).count()) + " s";
+    for (const Value& argument : arguments) {
+      if (!IsSound(argument.Type(), argument.Get())) return "gave a result that is infinite or not a number";
     }
+    return {};
   }
 
-  void Fault(const MemberInfo& member, const char* what) {
+  void Report(std::uint64_t number, const ClassInfo& type, const MemberInfo& member,
+              const std::vector<Value>& arguments, const std::string& fault) {
     ++faults_;
-    std::printf("%s.%s: %s\n", object_->Class().name.data(), std::string(member.name).c_str(), what);
+    std::string text = "call " + std::to_string(number) + " " + fault + ": " + std::string(type.name) + ".";
+    text.append(member.name);
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+      text.append(" ").append(member.parameters[i].name).append("=");
+      cli::AppendArgument(text, arguments[i], cli::JsonForm::WithTypes);
+    }
+    std::puts(text.substr(0, 4000).c_str());
+    std::fflush(stdout);
   }
 
   void Fill(const TypeInfo& type, void* value) {
@@ -154,10 +177,9 @@ class RandomCalls {
     return std::ranges::all_of(value.GetArray().Cells(), [](const Variant& cell) { return IsSound(cell); });
   }
 
-  Garbage garbage_;
+  Garbage garbage_{0};
   SomeDay clock_;
   std::shared_ptr<Page> page_ = std::make_shared<Page>();
-  std::optional<Object> object_;
   std::map<ErrorNumber, long> outcomes_;
   long faults_ = 0;
   steady_clock::duration slowest_{};
@@ -168,16 +190,16 @@ class RandomCalls {
 }  // namespace amortix2::testing
 
 int main(int argc, char** argv) {
-  const long count = argc > 1 ? std::atol(argv[1]) : 100000;
-  const auto seed = static_cast<std::uint64_t>(argc > 2 ? std::atol(argv[2]) : 1);
+  const std::uint64_t count = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 100000;
+  const std::uint64_t first = argc > 2 ? std::strtoull(argv[2], nullptr, 10) : 1;
   // Some members write files, under names as random as everything else.
   namespace fs = std::filesystem;
-  const fs::path folder = fs::temp_directory_path() / ("random_calls_" + std::to_string(seed));
+  const fs::path folder = fs::temp_directory_path() / ("random_calls_" + std::to_string(first));
   fs::create_directory(folder);
   fs::current_path(folder);
-  amortix2::testing::RandomCalls calls(seed);
-  for (long i = 0; i < count; ++i) calls.Call();
+  amortix2::testing::RandomCalls calls;
+  for (std::uint64_t number = first; number < first + count; ++number) calls.Run(number);
   fs::current_path("/");
   fs::remove_all(folder);
-  return calls.Report();
+  return calls.Summary();
 }
