@@ -79,37 +79,43 @@ void UprightPlot::WriteBelow(MarkupWriter& out) const {
 }
 
 void UprightPlot::WriteGroups(MarkupWriter& out, Side side) const {
-  std::vector<Pixels> heights(static_cast<std::size_t>(input_.drawn.Series()) + 1);
-  std::vector<Segment> segments;  // from the zero line outwards
+  std::vector<Bar> bars(static_cast<std::size_t>(input_.drawn.Series()));
+  std::vector<Segment> segments;
   for (std::int32_t row = 1; row <= pattern_.groups; ++row) {
     for (std::int32_t series = 1; series <= input_.drawn.Series(); ++series) {
-      const Pixels height = split_.BarHeight(input_.drawn.At(row, series));
-      heights[static_cast<std::size_t>(series)] = height * static_cast<int>(side);
+      Bar& bar = bars[static_cast<std::size_t>(series - 1)];
+      bar.height = split_.BarHeight(input_.drawn.At(row, series)) * static_cast<int>(side);
+      if (bar.height > 0) bar.tooltip = BarTooltip(input_, row, series);
     }
     for (const Slice& slice : pattern_.slices) {
-      segments.clear();
-      Pixels reached = 0;
-      for (std::int32_t series = slice.last; series >= slice.first; --series) {
-        const Pixels height = heights[static_cast<std::size_t>(series)];
-        if (height <= reached) continue;
-        segments.push_back({series, height - reached});
-        reached = height;
-      }
+      VisibleSegments(slice, bars, segments);
       if (side == Side::Above) std::ranges::reverse(segments);
-      WriteSlice(out, side, row, slice.width, segments);
+      WriteSlice(out, side, slice.width, segments);
     }
     SpacerCell(out, input_.texts.blank, 1);
   }
 }
 
-void UprightPlot::WriteSlice(MarkupWriter& out, Side side, std::int32_t row, Pixels width,
+void UprightPlot::VisibleSegments(const Slice& slice, std::span<const Bar> bars,
+                                  std::vector<Segment>& segments) const {
+  segments.clear();
+  Pixels reached = 0;
+  for (std::int32_t series = slice.last; series >= slice.first; --series) {
+    const Bar& bar = bars[static_cast<std::size_t>(series - 1)];
+    if (bar.height <= reached) continue;
+    segments.push_back(
+        {input_.texts.images[static_cast<std::size_t>(series)], bar.tooltip, bar.height - reached});
+    reached = bar.height;
+  }
+}
+
+void UprightPlot::WriteSlice(MarkupWriter& out, Side side, Pixels width,
                              std::span<const Segment> segments) const {
   if (segments.empty()) return SpacerCell(out, input_.texts.blank, width);
   const Markup edge = side == Side::Above ? "bottom"_m : "top"_m;
   OpenPile(out, edge);
   for (const Segment& segment : segments) {
-    const auto& image = input_.texts.images[static_cast<std::size_t>(segment.series)];
-    PileRow(out, edge, {image, BarTooltip(input_, row, segment.series), width, segment.height});
+    PileRow(out, edge, {segment.image, segment.tooltip, width, segment.height});
   }
   ClosePile(out);
 }

@@ -8,6 +8,7 @@
 
 #include "automation/raises.h"
 #include "charts/bar_page.h"
+#include "charts/tag_balance.h"
 
 namespace amortix2 {
 namespace {
@@ -356,6 +357,7 @@ TEST(BarChart, AnyTableGivesBalancedMarkup) {
     if (ErrorOf([&] { text = page.Draw(chart, style); })) continue;
     ++drawn;
     EXPECT_TRUE(IsBalanced(text));
+    EXPECT_EQ(TagBalance().Follow(text), 0);
     EXPECT_EQ(Count(text, "nan") + Count(text, "inf"), 0);
     EXPECT_EQ(Count(text, "\"") % 2, 0);
   }
