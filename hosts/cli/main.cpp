@@ -17,6 +17,7 @@
 #include "cli/output.h"
 #include "cli/readable.h"
 #include "cli/reply.h"
+#include "cli/request.h"
 #include "cli/request_error.h"
 #include "common/system_clock.h"
 
@@ -60,14 +61,15 @@ void SaveResponse(const Call& call, const std::string& path) {
 }
 
 int RunCall(const Options& options) {
-  const Json request = RequestOf(options);
+  const Json json = RequestOf(options);
+  const Request request = ReadRequest(json);
   const auto clock = ClockOf(options);
-  const Call call(ReadRequest(request), *clock);
+  const Call call(request, *clock);
   const JsonForm form = options.types ? JsonForm::WithTypes : JsonForm::Plain;
   if (options.json || options.types) {
     WriteAll(STDOUT_FILENO, ReplyTo(call, nullptr, form) + "\n");
   } else if (!call.Error()) {
-    WriteAll(STDOUT_FILENO, ReadableAnswer(call));
+    WriteAll(STDOUT_FILENO, ReadableAnswer(call, request));
   }
   if (call.Error()) return Report(*call.Error());
   if (!options.out.empty()) SaveResponse(call, options.out);

@@ -5,61 +5,11 @@
 #include "automation/array.h"
 #include "automation/conversion.h"
 #include "cli/text_table.h"
+#include "cli/typed_json.h"
+#include "cli/value_lines.h"
 
 namespace amortix2::cli {
 namespace {
-
-/// One value under its name, kept back until all that belong together can be aligned.
-struct Line {
-  std::string_view name;
-  Variant value;
-  Unit unit;
-  std::string_view help;
-  const EnumerationInfo* enumeration = nullptr;
-};
-
-/// What stands in parentheses behind the help: the unit, or the name that a code has.
-std::string_view Note(const Line& line) {
-  if (line.enumeration) {
-    const auto constant =
-        std::ranges::find(line.enumeration->constants, line.value.GetLong(), &ConstantInfo::value);
-    return constant == line.enumeration->constants.end() ? std::string_view{} : constant->name;
-  }
-  const bool plain = line.unit == Unit::Text || line.unit == Unit::Currency || line.unit == Unit::Date;
-  return plain ? std::string_view{} : UnitName(line.unit);
-}
-
-std::string About(const Line& line) {
-  std::string about(line.help);
-  if (const auto note = Note(line); !note.empty()) about.append(" (").append(note).append(")");
-  return about;
-}
-
-std::string ValueText(const Line& line) {
-  const bool money = line.unit == Unit::Currency || line.unit == Unit::MonthlyCurrency;
-  return PlainText(line.value, money ? 2 : 0);
-}
-
-/// Names, values and what they mean; a text may be long and is its own meaning.
-void AppendLines(std::string& out, const std::vector<Line>& lines) {
-  std::size_t nameWidth = 0;
-  std::size_t valueWidth = 0;
-  for (const Line& line : lines) {
-    nameWidth = std::max(nameWidth, line.name.size());
-    if (line.value.Type() != VariantType::String) valueWidth = std::max(valueWidth, ValueText(line).size());
-  }
-  for (const Line& line : lines) {
-    const std::string value = ValueText(line);
-    out.append(line.name).append(nameWidth - line.name.size() + 2, ' ');
-    if (line.value.Type() == VariantType::String) {
-      out += value;
-    } else {
-      out.append(valueWidth - value.size(), ' ').append(value).append("  ").append(About(line));
-    }
-    out.erase(out.find_last_not_of(' ') + 1);
-    out += '\n';
-  }
-}
 
 /// What a block shows: a name, and what that is.
 struct Title {
@@ -109,14 +59,18 @@ void AppendGrid(std::string& out, const Title& title, const Array& array) {
   AppendTable(out, table);
 }
 
+bool IsTextOrEmpty(const Variant& cell) {
+  return cell.Type() == VariantType::String || cell.Type() == VariantType::Empty;
+}
+
 /// Lines of text stand as they are, other lists one element a line.
 void AppendList(std::string& out, const Title& title, const Array& array) {
   const Bounds bounds = array.Dimension(1);
   AppendHeading(out, title, "elements " + Range(bounds));
-  const bool allText = std::ranges::all_of(
-      array.Cells(), [](const Variant& cell) { return cell.Type() == VariantType::String; });
-  if (allText) {
-    for (const Variant& cell : array.Cells()) out.append(cell.GetString()).append("\n");
+  if (std::ranges::all_of(array.Cells(), IsTextOrEmpty)) {
+    for (const Variant& cell : array.Cells()) {
+      if (cell.Type() == VariantType::String) out.append(cell.GetString()).append("\n");
+    }
   } else {
     AppendTable(out, {{""}, bounds, true, [&](std::int64_t row, std::size_t) { return array.At(row); }});
   }
@@ -201,21 +155,32 @@ void AppendBlock(std::string& out, const Title& title, const Value& value) {
   }
 }
 
+/// True for a variant that is as the caller gave it, or left it: nothing came back in it.
+bool IsUnchanged(const ParameterInfo& parameter, const Value& value, const Json::Fields& given) {
+  if (value.Type().kind != TypeKind::Variant) return false;
+  Value before = NewArgument(parameter);
+  for (const Json::Field& field : given) {
+    if (SameName(field.name, parameter.name)) ReadArgument(field.value, before);
+  }
+  return *static_cast<const Variant*>(before.Get()) == *static_cast<const Variant*>(value.Get());
+}
+
 }  // namespace
 
-std::string ReadableAnswer(const Call& call) {
+std::string ReadableAnswer(const Call& call, const Request& request) {
   std::vector<Line> lines;
   std::string blocks;
   const auto add = [&](const ParameterInfo& info, const Value& value) {
     AppendBlock(blocks, {std::string(info.name), info.help}, value);
     if (!value.Type().read) return;
     Variant single = value.Type().read(value.Get());
-    if (!ArrayIn(single))
-      lines.push_back({info.name, std::move(single), info.unit, info.help, value.Type().enumeration});
+    if (ArrayIn(single)) return;
+    lines.push_back({info.name, std::move(single), info.unit, info.help, value.Type().enumeration});
   };
   for (std::size_t i = 0; i < call.Arguments().size(); ++i) {
     const ParameterInfo& parameter = call.Method()->parameters[i];
-    if (parameter.byReference) add(parameter, call.Arguments()[i]);
+    const Value& value = call.Arguments()[i];
+    if (parameter.byReference && !IsUnchanged(parameter, value, request.arguments)) add(parameter, value);
   }
   ParameterInfo result;
   result.name = "returns";

@@ -6,11 +6,12 @@
 #include <string>
 
 #include "cli/call.h"
+#include "cli/request.h"
 
 namespace amortix2::cli {
 
-/// The by-reference results and what the method returned, of a call that succeeded. What went to the page's
-/// response is only mentioned.
-std::string ReadableAnswer(const Call& call);
+/// The by-reference results that have changed and what the method returned, of a call that succeeded. What
+/// went to the page's response is only mentioned.
+std::string ReadableAnswer(const Call& call, const Request& request);
 
 }  // namespace amortix2::cli
