@@ -6,15 +6,13 @@
 // Threads: an object of a class that keeps no state may be called by any number of threads at once, and is
 // handed to other apartments as it is. Calls on an object that keeps settings wait for each other.
 
-#include <oleauto.h>
-#include <windows.h>
-
 #include <atomic>
 
 #include "com/call.h"
 #include "com/com_pointer.h"
 #include "com/failure.h"
 #include "com/module.h"
+#include "com/platform.h"
 #include "common/system_clock.h"
 #include "component/description.h"
 

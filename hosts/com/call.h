@@ -3,14 +3,12 @@
 // One late-bound call: the caller's arguments, by place and by name, become one value per parameter of the
 // component's member; afterwards its results go back into the caller's variables.
 
-#include <oleauto.h>
-#include <windows.h>
-
 #include <memory>
 #include <optional>
 #include <vector>
 
 #include "com/changes.h"
+#include "com/platform.h"
 #include "com/records.h"
 #include "com/type_library.h"
 #include "component/description.h"

@@ -2,12 +2,10 @@
 
 // Creates objects of one class of the component for the platform.
 
-#include <unknwn.h>
-#include <windows.h>
-
 #include <atomic>
 
 #include "com/module.h"
+#include "com/platform.h"
 #include "component/description.h"
 
 namespace amortix2 {

@@ -2,10 +2,9 @@
 
 // A counted reference to an object of the platform, released when it goes out of scope.
 
-#include <unknwn.h>
-#include <windows.h>
-
 #include <utility>
+
+#include "com/platform.h"
 
 namespace amortix2 {
 

@@ -23,12 +23,12 @@ configure_file(resources.rc.in resources.rc @ONLY)
 set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/resources.rc PROPERTIES
   OBJECT_DEPENDS "${AMORTIX2_TYPE_LIBRARY};${AMORTIX2_MANIFEST}")
 
-add_library(amortix2_dll SHARED
+# Everything but the exported functions is a library of its own, so that the tests' clients can call as it does.
+add_library(com_binding STATIC
   automation_object.cpp
   call.cpp
   changes.cpp
   class_factory.cpp
-  exports.cpp
   failure.cpp
   late_bound.cpp
   make_value.cpp
@@ -41,13 +41,20 @@ add_library(amortix2_dll SHARED
   registry_entries.cpp
   text.cpp
   type_library.cpp
-  Amortix2.def
-  ${CMAKE_CURRENT_BINARY_DIR}/resources.rc
 )
+target_compile_definitions(com_binding PUBLIC UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
+target_link_libraries(com_binding PUBLIC com common ole32 oleaut32 advapi32 uuid)
+
+add_library(amortix2_dll SHARED exports.cpp Amortix2.def ${CMAKE_CURRENT_BINARY_DIR}/resources.rc)
 set_target_properties(amortix2_dll PROPERTIES OUTPUT_NAME Amortix2 PREFIX "")
-target_compile_definitions(amortix2_dll PRIVATE UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
-target_link_libraries(amortix2_dll PRIVATE com common ole32 oleaut32 advapi32 uuid)
-target_link_options(amortix2_dll PRIVATE -Wl,--enable-stdcall-fixup)
+target_link_libraries(amortix2_dll PRIVATE com_binding)
+target_link_options(amortix2_dll PRIVATE -Wl,--enable-stdcall-fixup $<$<CONFIG:Release>:-s>)
 
 add_custom_command(TARGET amortix2_dll POST_BUILD
   COMMAND ${CMAKE_COMMAND} -E copy_if_different ${AMORTIX2_MANIFEST} $<TARGET_FILE_DIR:amortix2_dll>)
+
+# The records and enumerations for C++ clients, as the type library has them.
+add_library(com_interface INTERFACE)
+add_custom_target(com_interface_header DEPENDS ${CMAKE_CURRENT_BINARY_DIR}/include/amortix2.h)
+add_dependencies(com_interface com_interface_header)
+target_include_directories(com_interface SYSTEM INTERFACE ${CMAKE_CURRENT_BINARY_DIR}/include)

@@ -1,14 +1,12 @@
 // The functions by which the platform reaches the DLL.
 
-#include <olectl.h>
-#include <windows.h>
-
 #include <cwchar>
 #include <new>
 
 #include "com/class_factory.h"
 #include "com/failure.h"
 #include "com/module.h"
+#include "com/platform.h"
 #include "com/registration.h"
 
 using amortix2::Guarded;

@@ -5,13 +5,11 @@
 // code: the automation error number in the platform's own range (0x800A0000 and the number), with source and
 // description for who asks. Running out of memory is reported without asking for any.
 
-#include <oleauto.h>
-#include <windows.h>
-
 #include <exception>
 #include <string>
 
 #include "automation/error.h"
+#include "com/platform.h"
 
 namespace amortix2 {
 

@@ -2,10 +2,10 @@
 
 // Identifiers in the platform's own form.
 
-#include <windows.h>
-
 #include <array>
 #include <string_view>
+
+#include "com/platform.h"
 
 namespace amortix2 {
 

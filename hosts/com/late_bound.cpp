@@ -1,10 +1,13 @@
 #include "com/late_bound.h"
 
+#include <dispex.h>
+
 #include <algorithm>
 #include <new>
 #include <string>
 #include <vector>
 
+#include "com/com_pointer.h"
 #include "com/failure.h"
 #include "com/text.h"
 
@@ -30,14 +33,32 @@ struct Details : EXCEPINFO {
   }
 };
 
+/// Objects of script engines answer the later of the two interfaces better, some only that one.
+DISPID NumberOf(IDispatch& object, const wchar_t* name) {
+  DISPID number = DISPID_UNKNOWN;
+  if (const auto extended = ComPointer<IDispatch>::Shared(&object).As<IDispatchEx>(__uuidof(IDispatchEx))) {
+    BSTR text = MakeBstr(std::wstring_view(name));
+    const HRESULT result = extended->GetDispID(text, fdexNameCaseInsensitive, &number);
+    SysFreeString(text);
+    Check(result);
+  } else {
+    auto* text = const_cast<wchar_t*>(name);
+    Check(object.GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &number));
+  }
+  return number;
+}
+
 HRESULT Invoke(IDispatch& object, DISPID member, std::span<const OwnedVariant> arguments, VARIANT& result) {
   std::vector<VARIANT> reversed(arguments.size());
   std::ranges::transform(arguments, reversed.rbegin(), [](const OwnedVariant& value) { return value.Get(); });
   DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
+  constexpr WORD kFlags = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
   Details details;
-  const HRESULT code =
-      object.Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
-                    &parameters, &result, &details, nullptr);
+  const auto extended = ComPointer<IDispatch>::Shared(&object).As<IDispatchEx>(__uuidof(IDispatchEx));
+  const HRESULT code = extended ? extended->InvokeEx(member, LOCALE_USER_DEFAULT, kFlags, &parameters,
+                                                     &result, &details, nullptr)
+                                : object.Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, kFlags, &parameters,
+                                                &result, &details, nullptr);
   if (code == DISP_E_EXCEPTION) details.Throw();
   return code;
 }
@@ -45,11 +66,8 @@ HRESULT Invoke(IDispatch& object, DISPID member, std::span<const OwnedVariant> a
 }  // namespace
 
 OwnedVariant CallByName(IDispatch& object, const wchar_t* name, std::span<const OwnedVariant> arguments) {
-  auto* text = const_cast<wchar_t*>(name);
-  DISPID member = DISPID_UNKNOWN;
-  Check(object.GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &member));
   OwnedVariant result;
-  Check(Invoke(object, member, arguments, result.Get()));
+  Check(Invoke(object, NumberOf(object, name), arguments, result.Get()));
   return result;
 }
 

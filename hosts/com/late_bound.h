@@ -2,12 +2,10 @@
 
 // Calls of other objects by name, as scripts make them.
 
-#include <oleauto.h>
-#include <windows.h>
-
 #include <span>
 
 #include "com/owned_variant.h"
+#include "com/platform.h"
 
 namespace amortix2 {
 

@@ -2,9 +2,9 @@
 
 // The DLL as a whole: where it lies, and whether anything still uses it.
 
-#include <windows.h>
-
 #include <string>
+
+#include "com/platform.h"
 
 namespace amortix2 {
 

@@ -2,13 +2,11 @@
 
 // Values of the platform that free what they hold: a VARIANT, a SAFEARRAY, access to a SAFEARRAY's data.
 
-#include <oleauto.h>
-#include <windows.h>
-
 #include <memory>
 #include <utility>
 
 #include "automation/error.h"
+#include "com/platform.h"
 
 namespace amortix2 {
 

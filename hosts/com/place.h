@@ -3,10 +3,9 @@
 // A place of the platform that holds one value of a known type: what a by-reference argument points to, an
 // element of a SAFEARRAY, a field of a record. They are all read and written alike.
 
-#include <oleauto.h>
-#include <windows.h>
-
 #include <cstddef>
+
+#include "com/platform.h"
 
 namespace amortix2 {
 

@@ -2,10 +2,8 @@
 
 // Records on their way between the platform's memory and the component's records.
 
-#include <oleauto.h>
-#include <windows.h>
-
 #include "com/owned_variant.h"
+#include "com/platform.h"
 #include "com/type_library.h"
 
 namespace amortix2 {

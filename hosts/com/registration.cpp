@@ -1,11 +1,10 @@
 #include "com/registration.h"
 
-#include <windows.h>
-
 #include <utility>
 
 #include "com/failure.h"
 #include "com/module.h"
+#include "com/platform.h"
 #include "com/registry_entries.h"
 
 namespace amortix2 {

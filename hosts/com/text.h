@@ -2,11 +2,10 @@
 
 // Text on its way between the component, which keeps UTF-8, and the platform, which keeps UTF-16.
 
-#include <oleauto.h>
-#include <windows.h>
-
 #include <string>
 #include <string_view>
+
+#include "com/platform.h"
 
 namespace amortix2 {
 

@@ -3,9 +3,6 @@
 // The type library that the DLL carries, and what is read from it: the types for clients that ask, and how
 // records lie in memory. It is loaded when first needed and kept while objects live.
 
-#include <oleauto.h>
-#include <windows.h>
-
 #include <memory>
 #include <span>
 #include <string_view>
@@ -13,6 +10,7 @@
 
 #include "com/com_pointer.h"
 #include "com/place.h"
+#include "com/platform.h"
 #include "component/description.h"
 
 namespace amortix2 {

@@ -1,0 +1,142 @@
+#pragma once
+
+// What the clients share: checks that print what failed, and calls as a late-bound C++ program makes them.
+
+#include <cstdio>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "com/com_pointer.h"
+#include "com/failure.h"
+#include "com/late_bound.h"
+#include "com/owned_variant.h"
+#include "com/text.h"
+#include "com/values.h"
+
+namespace amortix2::client {
+
+inline int failures = 0;
+
+inline bool Check(bool holds, const char* text, int line, const std::string& about = {}) {
+  if (!holds) {
+    ++failures;
+    std::printf("line %d: %s %s\n", line, text, about.c_str());
+  }
+  return holds;
+}
+#define CHECK(...) amortix2::client::Check((__VA_ARGS__), #__VA_ARGS__, __LINE__)
+#define CHECK_FOR(about, ...) amortix2::client::Check((__VA_ARGS__), #__VA_ARGS__, __LINE__, about)
+
+/// Runs a client's body in an apartment; the exit status says whether all checks held.
+inline int Run(DWORD apartment, const std::function<void()>& body) {
+  CoInitializeEx(nullptr, apartment);
+  try {
+    body();
+  } catch (const ForeignError& error) {
+    CHECK_FOR(std::to_string(error.Code()) + ToUtf8(error.Description()), !"unexpected failure");
+  } catch (const std::exception& error) {
+    CHECK_FOR(error.what(), !"unexpected exception");
+  }
+  CoUninitialize();
+  std::puts(failures == 0 ? "done" : "failed");
+  return failures == 0 ? 0 : 1;
+}
+
+inline ComPointer<IDispatch> Create(const wchar_t* programId) {
+  CLSID identifier{};
+  amortix2::Check(CLSIDFromProgID(programId, &identifier));
+  ComPointer<IDispatch> object;
+  amortix2::Check(CoCreateInstance(identifier, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
+                                   reinterpret_cast<void**>(object.Receive())));
+  return object;
+}
+
+/// A by-reference argument.
+inline OwnedVariant Reference(VARTYPE type, void* place) {
+  OwnedVariant argument;
+  argument.Get().vt = static_cast<VARTYPE>(VT_BYREF | type);
+  argument.Get().byref = place;
+  return argument;
+}
+inline OwnedVariant Reference(OwnedVariant& variable) { return Reference(VT_VARIANT, &variable.Get()); }
+
+/// Calls and returns the automation error number, 0 for none.
+inline int NumberOfFailure(IDispatch& object, const wchar_t* name, std::span<const OwnedVariant> arguments) {
+  try {
+    CallByName(object, name, arguments);
+    return 0;
+  } catch (const ForeignError& error) {
+    return HRESULT_FACILITY(error.Code()) == 10 ? HRESULT_CODE(error.Code()) : error.Code();
+  }
+}
+
+/// SimpleLoanCalculator with one amount, 12 months and 6 %; results start Empty unless given as places.
+struct Loan {
+  OwnedVariant results[7];
+
+  std::vector<OwnedVariant> Arguments(OwnedVariant amount) {
+    std::vector<OwnedVariant> arguments;
+    arguments.push_back(MakeValue(""));
+    arguments.push_back(std::move(amount));
+    for (const double number : {0.0, 12.0, 6.0}) arguments.push_back(MakeValue(number));
+    for (OwnedVariant& result : results) arguments.push_back(Reference(result));
+    return arguments;
+  }
+  int Calculate(IDispatch& calculator, OwnedVariant amount) {
+    return NumberOfFailure(calculator, L"SimpleLoanCalculator", Arguments(std::move(amount)));
+  }
+};
+
+/// An object with members that scripts could have written; an empty name is the default property.
+class Scripted final : public IDispatch {
+ public:
+  using Member = std::function<OwnedVariant(std::span<VARIANT> arguments)>;
+  explicit Scripted(std::map<std::wstring, Member> members) : members_(std::move(members)) {}
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identifier, void** object) override {
+    const bool known = identifier == IID_IUnknown || identifier == IID_IDispatch;
+    *object = known ? this : nullptr;
+    if (known) AddRef();
+    return known ? S_OK : E_NOINTERFACE;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
+  ULONG STDMETHODCALLTYPE Release() override { return --references; }
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* numbers) override {
+    const auto found = members_.find(names[0]);
+    if (found == members_.end()) return DISP_E_UNKNOWNNAME;
+    *numbers = static_cast<DISPID>(std::distance(members_.begin(), found)) + (members_.contains(L"") ? 0 : 1);
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID number, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT* result,
+                                   EXCEPINFO* details, UINT*) override {
+    const auto place = static_cast<std::size_t>(number) - (members_.contains(L"") ? 0U : 1U);
+    if (place >= members_.size()) return DISP_E_MEMBERNOTFOUND;
+    try {
+      *result = std::next(members_.begin(), static_cast<std::ptrdiff_t>(place))
+                    ->second({parameters->rgvarg, parameters->cArgs})
+                    .Take();
+      return S_OK;
+    } catch (...) {
+      return ReportCurrentFailure({"Scripted", IID_IDispatch}, details);
+    }
+  }
+
+  OwnedVariant AsArgument() {
+    OwnedVariant argument;
+    argument.Get().vt = VT_DISPATCH;
+    argument.Get().pdispVal = this;
+    AddRef();
+    return argument;
+  }
+
+  ULONG references = 1;
+
+ private:
+  std::map<std::wstring, Member> members_;
+};
+
+}  // namespace amortix2::client
