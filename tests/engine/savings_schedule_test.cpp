@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <iterator>
+
 #include "automation/raises.h"
 #include "engine/random_savings.h"
 #include "engine/savings_detail.h"
@@ -56,7 +59,7 @@ TEST(SavingsSchedule, RunsAtEveryFrequency) {
     plan.paymentMode = enumFrequencyType{row.payments};
     plan.compoundingMode = enumFrequencyType{row.compounding};
     BuildSavingsSchedule(plan);
-    EXPECT_EQ(plan.schedule.size(), row.lines + 1u) << row.payments;
+    EXPECT_EQ(std::ssize(plan.schedule), row.lines + 1) << row.payments;
     EXPECT_NEAR(plan.endingBalance, row.endingBalance, 1e-9) << row.payments << ' ' << row.compounding;
     EXPECT_EQ(plan.schedule.back().lineDate, MakeDate(row.lastYear, 2, 10)) << row.payments;
   }
@@ -110,7 +113,7 @@ TEST(SavingsSchedule, RunsToItsGoal) {
   for (const Row& row : rows) {
     tSavingsDesc plan = Monthly(row.balance, row.deposit, row.withdrawal, row.rate, row.goal);
     BuildSavingsSchedule(plan);
-    EXPECT_EQ(plan.schedule.size(), row.lines + 1u) << row.goal;
+    EXPECT_EQ(std::ssize(plan.schedule), row.lines + 1) << row.goal;
     EXPECT_NEAR(plan.schedule.back().payment, row.lastPayment, 1e-9) << row.goal;
     EXPECT_NEAR(plan.endingBalance, row.endingBalance, 1e-9) << row.goal;
     EXPECT_EQ(plan.endDate, AdvanceDate(plan.startDate, monthlyMode, row.lines)) << row.goal;

@@ -98,7 +98,7 @@ TEST(SavingsSolver, SolvedAmountsReachTheGoal) {
     if (lowest != 0 && plan.endingBalance < 1 && goal > 1) continue;  // a goal that debts alone would reach
     // Half a cent of each line and of the solved amount itself, grown to the end.
     const double growth = SavingsPeriodFactor(plan);
-    const double lines = static_cast<double>(plan.schedule.size());
+    const auto lines = static_cast<double>(plan.schedule.size());
     EXPECT_NEAR(plan.endingBalance, goal, 0.01 * lines * std::pow(growth, lines)) << i;
   }
 }
