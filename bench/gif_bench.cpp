@@ -1,9 +1,9 @@
 // What a line chart of 380 by 300 pixels costs, next to giflib (encoding) and libgd (drawing and encoding):
 //
-//   DrawChart, DrawChartGd              background, eleven grid lines, three series of 120 points, 3 pixels thick
-//   EncodeChart, EncodeChartGiflib, EncodeChartGd
-//   EncodeNoise, EncodeNoiseGiflib      the worst case: no two pixels alike
-//   WholeChart                          table of variants to finished GIF
+//   DrawChart, DrawChartGd           background, eleven grid lines, three series of 120 points 3 pixels thick
+//   EncodeChart, and by Giflib, Gd   the chart's pixels, with a palette of 256 colours
+//   EncodeNoise, and by Giflib       the worst case: random pixels
+//   WholeChart                       table of variants to finished GIF
 //
 // The peers draw the same lines and encode the same pixels; all write to memory.
 
@@ -93,7 +93,8 @@ gdImagePtr DrawByGd() {
   };
   for (int series = 1; series <= kSeries; ++series) {
     for (int point = 2; point <= kPoints; ++point) {
-      gdImageLine(image, column(point - 1), row(point - 1, series), column(point), row(point, series), series);
+      gdImageLine(image, column(point - 1), row(point - 1, series), column(point), row(point, series),
+                  series);
     }
   }
   return image;
@@ -158,5 +159,3 @@ BENCHMARK(WholeChart);
 
 }  // namespace
 }  // namespace amortix2
-
-BENCHMARK_MAIN();

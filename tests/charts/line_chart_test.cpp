@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <span>
@@ -18,7 +19,7 @@ namespace amortix2 {
 namespace {
 
 std::uint8_t At(const Raster& raster, int x, int y) {
-  return raster.Pixels()[static_cast<std::size_t>(y * raster.Width() + x)];
+  return raster.Pixels().begin()[std::ptrdiff_t{y} * raster.Width() + x];
 }
 
 // A line of radius 1 is its path: one pixel for each step along the longer side, from end to end, each within
@@ -88,7 +89,7 @@ Colours Grid(int spacing, const std::vector<std::array<std::uint8_t, 3>>& stripe
 }
 
 TEST(LineChart, GridAndZeroLine) {
-  constexpr GraphSize size{.height = 50, .width = 41};
+  const GraphSize size{.height = 50, .width = 41};
   const auto column = [&](const Variant& table) { return Column(DrawLineChart(size, table), 40); };
   // The axis bottom lies on row 50, below the picture, and without negatives that is where zero is.
   EXPECT_EQ(column(Table({})), Grid(5));
@@ -102,7 +103,7 @@ TEST(LineChart, SeriesStandWhereTheirValuesAre) {
   // Two pixels to a tenth of the axis, 0 to 100; points at x = 0, 10 and 20. The first series falls and rises
   // again at 45 degrees, the second crosses its turn, the third lies on the axis bottom: one row is left of
   // it.
-  constexpr GraphSize size{.height = 20, .width = 21};
+  const GraphSize size{.height = 20, .width = 21};
   const Raster chart =
       DrawLineChart(size, Table({{100, "50", "none"}, {50, 50.0, kNull}, {100, Currency{500000}, kMissing}}));
   EXPECT_EQ(Column(chart, 0), Grid(2, {{0, 2, 1}, {9, 11, 2}, {19, 19, 3}}));
@@ -112,7 +113,7 @@ TEST(LineChart, SeriesStandWhereTheirValuesAre) {
 }
 
 TEST(LineChart, HeadRowCountsForTheAxisAndHeadColumnDoesNot) {
-  constexpr GraphSize size{.height = 20, .width = 21};
+  const GraphSize size{.height = 20, .width = 21};
   Variant table = Table({{100}, {100}});
   table.GetArray().At(1, 0) = 1e6;
   EXPECT_EQ(Column(DrawLineChart(size, table), 9), Grid(2, {{0, 1, 1}}));
