@@ -65,8 +65,7 @@ TEST(SavingsSchedule, RunsAtEveryFrequency) {
   }
 }
 
-// Days from day zero of the calendar where not even one period fits; their interest is not taxed when
-// credited.
+// Not even one period fits: the days count from day zero of the calendar. Their tax is not deducted.
 TEST(SavingsSchedule, CreditsLeftoverDaysBeforeTax) {
   tSavingsDesc plan = Monthly(1000, 0, 0, 6, 0);
   plan.startDate = MakeDate(2026, 1, 1);
