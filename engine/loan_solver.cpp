@@ -5,9 +5,9 @@
 //   x = x2 + (x1 - x2) (P - f2) / (f1 - f2),
 //
 // to close in within a few steps. Payments are rounded to cents, which ends the search: f meets P, or stops
-// changing. Rounding could also send the secant round in a circle; the last pair of trials is the search's
-// whole state, so a pair that was seen before proves it. One remembered pair, renewed after 1, 2, 4, 8, ...
-// steps, is enough to see it.
+// changing. Rounding, or an amount below zero, can also send the secant round in circles or nowhere: a
+// hundred trials without coming closer, where a search that works needs a dozen in all, end it with the
+// closest.
 
 #include "engine/loan_solver.h"
 
@@ -47,24 +47,19 @@ double AnnualRate(double growth) { return (growth - 1) * 1200; }
 struct Trial {
   double growth = 0;
   double payment = 0;
-
-  friend bool operator==(const Trial&, const Trial&) = default;
 };
 
-/// The last two trials of a search, and the memory that proves a circle.
+/// The last two trials of a search, and the closest so far.
 class SecantHistory {
  public:
   void Add(Trial trial, double target) {
-    if (count_ == 0 || std::abs(trial.payment - target) < std::abs(closest_.payment - target))
+    if (count_ == 0 || std::abs(trial.payment - target) < std::abs(closest_.payment - target)) {
       closest_ = trial;
+      closestAt_ = count_;
+    }
     previous_ = latest_;
     latest_ = trial;
     ++count_;
-    isCircle_ = count_ > 2 && latest_ == rememberedLatest_ && previous_ == rememberedPrevious_;
-    if ((count_ & (count_ - 1)) == 0) {
-      rememberedLatest_ = latest_;
-      rememberedPrevious_ = previous_;
-    }
   }
 
   double Secant(double target) const {
@@ -72,16 +67,18 @@ class SecantHistory {
                                   (latest_.payment - previous_.payment);
   }
 
-  bool HasStalled() const { return count_ >= 2 && latest_.payment == previous_.payment; }
-  bool IsCircle() const { return isCircle_; }
+  bool HasSettled() const { return count_ >= 2 && latest_.payment == previous_.payment; }
+  bool HasLostItsWay() const { return count_ - closestAt_ > kPatience; }
   int Count() const { return count_; }
   const Trial& Latest() const { return latest_; }
   const Trial& Closest() const { return closest_; }
 
  private:
-  Trial latest_, previous_, closest_, rememberedLatest_, rememberedPrevious_;
+  static constexpr int kPatience = 100;
+
+  Trial latest_, previous_, closest_;
   int count_ = 0;
-  bool isCircle_ = false;
+  int closestAt_ = 0;
 };
 
 }  // namespace
@@ -94,8 +91,8 @@ RateFound FindGrowth(const RateTarget& target) {
   double low = 1;
   double high = Divide(target.payment, target.amount) + 1;
   SecantHistory history;
-  while (!history.HasStalled()) {
-    if (history.IsCircle()) return {history.Closest().growth, target.payment, history.Count()};
+  while (!history.HasSettled()) {
+    if (history.HasLostItsWay()) return {history.Closest().growth, target.payment, history.Count()};
     const double growth = Finite(history.Count() < 2 ? (low + high) / 2 : history.Secant(target.payment));
     // By way of the annual rate, which is what the loan's own payment is computed from.
     const double payment =

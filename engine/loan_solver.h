@@ -33,9 +33,8 @@ struct RateFound {
 };
 
 /// Two bisections of the growths from 1 to where a month's interest equals the payment, then secant steps on
-/// the payment rounded to cents, until it is met or two trials in a row give the same one. A search that
-/// comes back to where it has been stops with the trial whose payment was closest. Raises Overflow,
-/// DivisionByZero.
+/// the payment rounded to cents, until it is met or two trials in a row give the same one. A search that no
+/// longer comes closer stops with the closest trial. Raises Overflow, DivisionByZero.
 RateFound FindGrowth(const RateTarget& target);
 
 }  // namespace amortix2
