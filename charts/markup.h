@@ -48,7 +48,7 @@ struct MarkupLiteral {
 };
 
 template <MarkupLiteral kLiteral>
-consteval Markup operator""_m() {
+constexpr Markup operator""_m() {
   return Markup({kLiteral.text, kLiteral.size});
 }
 
