@@ -5,7 +5,7 @@
 // Texts of the page (titles, labels, legends, URLs) go out as they are, markup included: a page that shows
 // texts of strangers escapes them first.
 
-#include <string_view>
+#include <string>
 
 #include "automation/variant.h"
 #include "charts/bar_settings.h"
@@ -32,8 +32,8 @@ void SetImage(std::string& url, const Variant& value);
 /// Raises SubscriptOutOfRange for a table that is not two-dimensional and for a list that is too short or no
 /// list, DivisionByZero for a table without rows or series and for settings that leave the bars no width,
 /// Overflow for numbers too large to draw, TypeMismatch for a text that is none, OutOfMemory for a chart of
-/// too many lines. Only "SR" changes its arguments: series and rows stay as they are, but the series' order
-/// in `vColDat`, `Colgif` and `Colleg` is turned round, all of it or (when one of them is too short) nothing.
+/// too many lines. Only "SR" changes its arguments: it turns round the order of the series in `vColDat`,
+/// `Colgif` and `Colleg`, in all of them or (when one is too short) in none.
 Variant DrawBarChart(const BarChartSettings& settings, Variant& vColDat, const Variant& blnk, Variant& Colgif,
                      Variant& Colleg, const Variant& Ttl, const Variant& Xaxis, const Variant& Yaxis,
                      const Variant& typ);
