@@ -44,7 +44,7 @@ int DayOfWeek(Date date) noexcept;
 
 /// A date's text: ten characters, no terminator.
 using DateText = std::array<char, 10>;
-DateText FormatMonthDayYear(const CivilDate& date) noexcept;  ///< "mm-dd-yyyy"
+DateText FormatMonthDayYear(const CivilDate& civil) noexcept;  ///< "mm-dd-yyyy"
 DateText FormatMonthDayYear(Date date) noexcept;
 DateText FormatIso(Date date) noexcept;  ///< "yyyy-mm-dd"
 

@@ -27,7 +27,7 @@ inline double RoundTo(double x, double scale) {
   const double raised = x * scale + 0.5;
   if (!(raised > -kExactHalves && raised < kExactHalves)) return RoundLarge(x, scale);
   // By way of 64 bits because std::floor is a library call on baseline x86-64.
-  double whole = static_cast<double>(static_cast<std::int64_t>(raised));
+  auto whole = static_cast<double>(static_cast<std::int64_t>(raised));
   if (whole > raised) whole -= 1;
   if (whole == raised && LiesBelow(x, scale, whole - 0.5)) whole -= 1;
   return whole / scale;
