@@ -53,9 +53,8 @@ std::string_view Closest(std::string_view asked, const Names& names) {
 [[noreturn]] void RaiseUnknown(const std::string& owner, std::string_view kind, std::string_view asked,
                                const Names& names) {
   std::string message = owner + " has no " + std::string(kind) + " " + Quoted(asked);
-  if (const auto closest = Closest(Shortened(asked), names); !closest.empty()) {
-    message.append("; did you mean ").append(closest).append("?");
-  }
+  const auto closest = Closest(Shortened(asked), names);
+  message += closest.empty() ? "." : "; did you mean " + std::string(closest) + "?";
   message += names.empty() ? " There are none." : " There are:";
   for (const std::string_view name : names) message.append(" ").append(name);
   throw RequestError(ErrorNumber::NoSuchMember, std::move(message));

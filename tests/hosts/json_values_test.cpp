@@ -30,7 +30,7 @@ std::string Written(const Variant& value, JsonForm form) {
 }
 
 Array Row(std::int32_t lower, std::initializer_list<Variant> cells) {
-  Array array({lower, lower + static_cast<std::int32_t>(cells.size()) - 1});
+  Array array({lower, lower + (static_cast<std::int32_t>(cells.size()) - 1)});
   std::ranges::copy(cells, array.Cells().begin());
   return array;
 }
