@@ -62,6 +62,8 @@ TEST(SavingsSchedule, RunsAtEveryFrequency) {
     EXPECT_EQ(std::ssize(plan.schedule), row.lines + 1) << row.payments;
     EXPECT_NEAR(plan.endingBalance, row.endingBalance, 1e-9) << row.payments << ' ' << row.compounding;
     EXPECT_EQ(plan.schedule.back().lineDate, MakeDate(row.lastYear, 2, 10)) << row.payments;
+    EXPECT_DOUBLE_EQ(plan.schedule[1].intRate, 4.8);
+    EXPECT_EQ(plan.schedule.back().intRate, row.payments == dailymode ? plan.schedule[1].intRate : 6);
   }
 }
 
@@ -100,7 +102,9 @@ TEST(SavingsSchedule, RunsToItsGoal) {
       {0, 100, 0, 6, 1000, 10, 77.19, 1000},     // the last deposit is cut to reach it
       {1000, 100, 0, 0, 1500, 5, 100, 1500},     // reached exactly
       {999.6, 0.1, 0, 0, 1000, 1, 0.1, 999.7},   // near enough
+      {999, 0.51, 0, 0, 1000, 2, 0.49, 1000},    // not near enough
       {1000, 0, 0, 6, 1500, 82, 0, 1505.25},     // by interest alone: nothing to cut
+      {0, 100, 0, 6, 3000, 29, 100, 3112.47},    // by the last line's interest: nothing to cut
       {100000, 0, 1000, 6, 0, 139, -975.72, 0},  // spent down
       {10000, 0, 1000, 0, 2500, 8, -500, 2500},  // spent down to a rest
       {1000, 50, 0, 12, 500, 1, -10, 1000},      // out of reach: takes out its interest

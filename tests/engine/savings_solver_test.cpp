@@ -61,6 +61,7 @@ TEST(SavingsSolver, FindsEachQuantity) {
       {spendingRate, &tSavingsDesc::intRate, 3.737, 0},
       // Losses, no interest, more than even a total loss leaves, and a goal beyond any rate.
       {Plan(annualMode, 5, 1000, 0, kUnknown, 800), &tSavingsDesc::intRate, -4.365, 800},
+      {Plan(annualMode, 2, 1000, 0, kUnknown, 250), &tSavingsDesc::intRate, -50, 250},
       {Plan(annualMode, 5, 1000, 100, kUnknown, 1200), &tSavingsDesc::intRate, -5.532, 1200.01},
       {Plan(annualMode, 5, 1000, 100, kUnknown, 1500), &tSavingsDesc::intRate, 0, 1500},
       {Plan(annualMode, 5, 1000, 100, kUnknown, 50), &tSavingsDesc::intRate, 0, 1500},
