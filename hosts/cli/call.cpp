@@ -40,6 +40,7 @@ void ReadSetting(const Json& json, const MemberInfo& member, std::vector<Value>&
 /// Calls, and returns what the member returns, if anything.
 std::optional<Value> Invoke(Object& object, const MemberInfo& member, std::vector<Value>& arguments) {
   std::vector<void*> places;
+  places.reserve(arguments.size());
   for (Value& argument : arguments) places.push_back(argument.Get());
   std::optional<Value> result;
   if (member.result) result.emplace(*member.result);

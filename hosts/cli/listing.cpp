@@ -51,7 +51,7 @@ void AppendNames(std::string& out, std::string_view label, const MemberInfo& mem
   for (const ParameterInfo& parameter : member.parameters) {
     if (parameter.byReference != byReference) continue;
     std::string name(parameter.name);
-    if (parameter.optional) name = "[" + name + "]";
+    if (parameter.optional) name.insert(0, 1, '[').append("]");
     if (line.empty()) line.append(kIndent).append(label);
     if (line.size() + 1 + name.size() > kLineWidth) {
       out += line + "\n";

@@ -78,6 +78,7 @@ class RandomCalls {
   /// What is wrong with the outcome; empty when all is well.
   std::string Invoke(Object& object, const MemberInfo& member, const std::vector<Value>& arguments) {
     std::vector<void*> places;
+    places.reserve(arguments.size());
     for (const Value& argument : arguments) places.push_back(const_cast<void*>(argument.Get()));
     std::optional<Value> result;
     if (member.result) result.emplace(*member.result);
