@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "automation/conversion.h"
-#include "charts/gif_file.h"
+#include "automation/whole_file.h"
 #include "charts/gif_writer.h"
 #include "charts/line_chart.h"
 

@@ -19,10 +19,11 @@ class GifChart {
   void OnStartPage(std::shared_ptr<ScriptingContext> iScriptingContext);
 
   /// Writes a raster and its palette as the GIF file `nm`: charts/raster.h says how they are read, with which
-  /// errors, charts/gif_file.h how the file is written. After an error no file has changed.
+  /// errors, automation/whole_file.h how the file is written. After an error no file has changed.
   void writeGifFile(const std::string& nm, const Variant& vImg, const Variant& vPal) const;
 
-  /// Reads the file named by `x` through once (charts/gif_file.h). Raises TypeMismatch when `x` has no text.
+  /// Reads the file named by `x` through once (automation/whole_file.h). Raises TypeMismatch when `x` has no
+  /// text.
   void DumpAFile(const Variant& x) const;
 
   /// Draws a table and sends it to the page: charts/line_chart.h. `typ` is not used.

@@ -8,7 +8,7 @@
 #include <system_error>
 
 #include "automation/error.h"
-#include "charts/gif_file.h"
+#include "automation/whole_file.h"
 #include "cli/arguments.h"
 #include "cli/batch.h"
 #include "cli/call.h"

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <string>
 
-#include "charts/gif_file.h"
+#include "automation/whole_file.h"
 #include "charts/gif_writer.h"
 #include "charts/sample_rasters.h"
 

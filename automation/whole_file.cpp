@@ -1,4 +1,4 @@
-#include "charts/gif_file.h"
+#include "automation/whole_file.h"
 
 #include <filesystem>
 #include <fstream>

@@ -1,6 +1,6 @@
 #pragma once
 
-// The files that the GIF chart touches: a finished image is written whole or not at all, and a file can be
+// The files that the component touches: a result is written whole or not at all, and a file can be
 // read through once. Paths are UTF-8.
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "charts/gif_file.h"
+#include "automation/whole_file.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -18,10 +18,10 @@ namespace {
 namespace fs = std::filesystem;
 
 // Every test works in a fresh folder that holds the file "old" alone.
-class GifFile : public testing::Test {
+class WholeFile : public testing::Test {
  protected:
   void SetUp() override {
-    std::string name = (fs::temp_directory_path() / "gif_file_XXXXXX").string();
+    std::string name = (fs::temp_directory_path() / "whole_file_XXXXXX").string();
     ASSERT_NE(mkdtemp(name.data()), nullptr);
     folder = name;
     std::ofstream(folder / "old") << std::string(5000, 'o');
@@ -41,7 +41,7 @@ class GifFile : public testing::Test {
   fs::path folder;
 };
 
-TEST_F(GifFile, ReplacesTheWholeFile) {
+TEST_F(WholeFile, ReplacesTheWholeFile) {
   fs::permissions(folder / "old", fs::perms::owner_read | fs::perms::owner_write);
   fs::create_symlink("old", folder / "link");
   EXPECT_FALSE(Write(Path("new"), 100000));
@@ -55,7 +55,7 @@ TEST_F(GifFile, ReplacesTheWholeFile) {
   EXPECT_EQ(CountFiles(), 4);
 }
 
-TEST_F(GifFile, BadPathsAreErrors) {
+TEST_F(WholeFile, BadPathsAreErrors) {
   for (const std::string& path : {Path("none/new"), Path("old/new")}) {
     EXPECT_EQ(Write(path, 10), ErrorNumber::PathNotFound) << path;
   }
@@ -66,7 +66,7 @@ TEST_F(GifFile, BadPathsAreErrors) {
   EXPECT_EQ(CountFiles(), 1);
 }
 
-TEST_F(GifFile, FullDiskLeavesTheOldFile) {
+TEST_F(WholeFile, FullDiskLeavesTheOldFile) {
   std::signal(SIGXFSZ, SIG_IGN);
   rlimit limit;
   getrlimit(RLIMIT_FSIZE, &limit);
@@ -79,7 +79,7 @@ TEST_F(GifFile, FullDiskLeavesTheOldFile) {
   EXPECT_EQ(CountFiles(), 1);
 }
 
-TEST_F(GifFile, ReadingThrough) {
+TEST_F(WholeFile, ReadingThrough) {
   const auto read = [&](std::size_t size) {
     std::ofstream(folder / "sized") << std::string(size, 's');
     return ErrorOf([&] { ReadThrough(Path("sized")); });
