@@ -59,6 +59,12 @@ class Array {
   Variant& At(std::int64_t row, std::int64_t column) { return cells_[Offset(row, column)]; }
   const Variant& At(std::int64_t row, std::int64_t column) const { return cells_[Offset(row, column)]; }
 
+  /// The `count` cells of a row from a column on, checked once. Raises as At does.
+  std::span<Variant> Run(std::int64_t row, std::int64_t column, std::int32_t count) {
+    static_cast<void>(Offset(row, column + count - 1));
+    return std::span(cells_).subspan(Offset(row, column), static_cast<std::size_t>(count));
+  }
+
   /// All cells, row after row.
   std::span<Variant> Cells() noexcept { return cells_; }
   std::span<const Variant> Cells() const noexcept { return cells_; }

@@ -1,5 +1,7 @@
 #include "engine/savings_detail.h"
 
+#include <span>
+
 #include "automation/calendar_walk.h"
 #include "automation/error.h"
 #include "engine/rounding.h"
@@ -13,11 +15,12 @@ void LoadSaveDetArray(const tSavingsDesc& save, std::int16_t atCol, std::int16_t
   for (std::int32_t row = 1; row <= lastRow; ++row) {
     if (static_cast<std::size_t>(row) >= save.schedule.size()) Raise(ErrorNumber::SubscriptOutOfRange);
     const tSchedule& line = save.schedule[static_cast<std::size_t>(row)];
-    detArray.At(row, atCol) = FormatMonthDayYear(calendar.At(line.lineDate));
-    detArray.At(row, atCol + 1) = line.payment;
-    detArray.At(row, atCol + 2) = line.intCredited;
-    detArray.At(row, atCol + 3) = Finite(line.payment + line.intCredited);
-    detArray.At(row, atCol + 4) = line.endingBalance;
+    const std::span<Variant> cells = detArray.Run(row, atCol, 5);
+    cells[0] = FormatMonthDayYear(calendar.At(line.lineDate));
+    cells[1] = line.payment;
+    cells[2] = line.intCredited;
+    cells[3] = Finite(line.payment + line.intCredited);
+    cells[4] = line.endingBalance;
   }
 }
 

@@ -47,14 +47,14 @@ class CostTotals {
     interest_ += line.intCharged;
     taxCredited_ += line.taxCredited;
     payments_ += line.payment;
-    costPV_ += Divide(line.payment - line.taxCredited, discount);
+    costPV_ += Discounted(line.payment - line.taxCredited, discount);
   }
 
   /// The home's charges of `months` months, the property tax grown by `homeGrowth`.
   void AddCharges(double discount, double homeGrowth, double months = 1) {
-    if (charges_ != 0) costPV_ += Divide(months * charges_, discount);
+    if (charges_ != 0) costPV_ += Discounted(months * charges_, discount);
     if (qualification_.propertyTaxCharge != 0) {
-      costPV_ += Divide(months * RoundToCents(homeGrowth * qualification_.propertyTaxCharge), discount);
+      costPV_ += Discounted(months * RoundToCents(homeGrowth * qualification_.propertyTaxCharge), discount);
     }
   }
 
@@ -72,6 +72,11 @@ class CostTotals {
   void Store(tLoanDesc& loan) const;
 
  private:
+  /// Where money does not grow, a division a line is saved.
+  static double Discounted(double amount, double discount) {
+    return discount == 1 ? amount : Divide(amount, discount);
+  }
+
   const tCreditQualification& qualification_;
   double charges_;
   double costPV_;

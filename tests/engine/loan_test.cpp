@@ -65,7 +65,7 @@ TEST(LoanSolver, RateSearchEndsAndMeetsThePayment) {
     const auto months = static_cast<std::int32_t>(1 + random() % 480);
     const double amount = RoundToCents(std::pow(10, 1 + 6 * unit(random)));
     const double residual = typ == loanAsLease ? RoundToCents(amount * unit(random) * 0.8) : 0;
-    const auto prepays = static_cast<std::int32_t>(typ == loanAsLease ? random() % 4 % months : 0);
+    const auto prepays = static_cast<std::int32_t>(typ == loanAsLease ? random() % 4 : 0) % months;
     const double payment = RoundToCents((amount - residual) / months * (0.9 + unit(random)) + 0.01);
     const PaymentTerms terms{typ, months, prepays};
     RateFound found{};
