@@ -84,7 +84,6 @@ void MonthlyLeaseCalculator(const Clock& clock, const Variant& vDummy, const Var
   lease.intRate = NumericOrZero(vIntRate);
   lease.residualAmount = NumericOrZero(vEndingBal);
   lease.period = std::max(NumericOrZero(vPeriod), 1.0);
-  lease.numberPrepays = ToInteger(std::min(NumericOrZero(vPrepays), lease.period));
   if (!MarkUnknown(lease)) {
     Array detail = Table(1);
     vResPrincipal = vResPayment = vResPeriod = vResIntRate = vResPrepays = vResEndingBal = 0.0;
@@ -92,6 +91,7 @@ void MonthlyLeaseCalculator(const Clock& clock, const Variant& vDummy, const Var
     vDetArr = std::move(detail);
     return;
   }
+  lease.numberPrepays = ToInteger(std::min(NumericOrZero(vPrepays), lease.period));
   work.Solve(LoanCalculator);
   Array detail = Detail(lease, static_cast<std::int32_t>(lease.schedule.size()) - 1);
   vResPrincipal = lease.startingBalance;

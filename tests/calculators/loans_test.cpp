@@ -175,6 +175,8 @@ TEST(MonthlyLease, ChoosesWhatToFind) {
                          {{"vPrincipal", 900}, {"vPayment", 100}, {"vPeriod", 3}, {"vPrepays", 5}});
   EXPECT_EQ(cut["vResPrepays"], Variant(std::int16_t{3}));
   EXPECT_EQ(cut.Number("vResEndingBal"), 600);
+  // What is not solved is not converted either.
+  EXPECT_EQ(Ask("MonthlyLeaseCalculator", {{"vPeriod", 1e6}, {"vPrepays", 1e6}}).error, ErrorNumber{});
   EXPECT_EQ(
       Ask("MonthlyLeaseCalculator", {{"vPrincipal", 900}, {"vPayment", 100}, {"vPeriod", 0.5}})["vResPeriod"],
       Variant(1.0));
