@@ -4,6 +4,7 @@
 
 #include "automation/calendar_walk.h"
 #include "automation/error.h"
+#include "engine/rounding.h"
 
 namespace amortix2 {
 
@@ -18,7 +19,7 @@ void LoadDetArray(const tLoanDesc& loan, std::int16_t atCol, std::int16_t lastRo
     const std::span<Variant> cells = detArray.Run(row, atCol, hasRates ? 6 : 5);
     cells[0] = FormatMonthDayYear(calendar.At(line.lineDate));
     cells[1] = line.payment;
-    cells[2] = line.startingBalance - line.endingBalance;
+    cells[2] = Finite(line.startingBalance - line.endingBalance);
     cells[3] = line.intCharged;
     cells[4] = line.endingBalance;
     if (hasRates) cells[5] = line.intRate;

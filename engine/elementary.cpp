@@ -67,6 +67,8 @@ double NaturalLogarithm(double x) {
   return k * kLn2High + (logarithm + k * kLn2Low);
 }
 
-double RealPower(double base, double exponent) { return Exponential(exponent * NaturalLogarithm(base)); }
+double RealPower(double base, double exponent) {
+  return exponent == 0 ? 1 : Exponential(exponent * NaturalLogarithm(base));
+}
 
 }  // namespace amortix2

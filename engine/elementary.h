@@ -18,7 +18,8 @@ double Exponential(double x);
 /// The natural logarithm of x > 0; minus infinity for 0, NaN below.
 double NaturalLogarithm(double x);
 
-/// base > 0 to any power: Exponential(exponent * NaturalLogarithm(base)).
+/// base >= 0 to any power: Exponential(exponent * NaturalLogarithm(base)), and 1 for the power 0. A base
+/// below 0 gives NaN for any other power.
 double RealPower(double base, double exponent);
 
 }  // namespace amortix2

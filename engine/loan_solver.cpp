@@ -84,8 +84,8 @@ class SecantHistory {
 }  // namespace
 
 RateFound FindGrowth(const RateTarget& target) {
-  const double owed = target.amount - target.residual;
-  if (!(owed < target.payment * target.terms.payments)) {
+  const double owed = Finite(target.amount - target.residual);
+  if (!(owed < Finite(target.payment * target.terms.payments))) {
     return {1, RoundToCents(Divide(owed, target.terms.payments)), 0};
   }
   double low = 1;

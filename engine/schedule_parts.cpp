@@ -17,7 +17,7 @@ tSchedule OpeningLine(const tLoanDesc& loan) {
 
 void CostTotals::Sell(const tLoanDesc& loan, double balanceOwed, double homeGrowth, double growth,
                       double discount) {
-  balanceOwedPV_ = Divide(growth * balanceOwed, discount);
+  balanceOwedPV_ = Divide(growth * balanceOwed, Finite(discount));
   costPV_ += balanceOwedPV_;
   const double price = loan.startingBalance + qualification_.downPaymentAmount;
   valuePV_ = Divide(RoundToCents(price * homeGrowth) * growth, discount);

@@ -18,11 +18,12 @@ struct RunningLoan {
   double payment;  ///< falls to what is owed with the last payment, and to 0 after it
   double taxFraction;
 
-  /// Writes a line from the balance after interest. A payment that exceeds it is cut.
+  /// Writes a line from the balance after interest. A payment that exceeds it is cut. Raises Overflow when
+  /// the tax is not finite, also past the horizon, where no total has it.
   void Pay(tSchedule& line, double grownBalance, double interest) {
     line.startingBalance = balance;
     line.intCharged = interest;
-    line.taxCredited = taxFraction * interest;
+    line.taxCredited = Finite(taxFraction * interest);
     balance = grownBalance - payment;
     if (balance < 0) {
       payment += balance;
@@ -65,7 +66,8 @@ class CostTotals {
   }
 
   /// The sale: the balance still owed is paid off and the home has its value. Present values are `growth` /
-  /// `discount` of the amounts.
+  /// `discount` of the amounts. Raises Overflow for an infinite `discount`: it has made nothing of
+  /// some line's amounts unseen.
   void Sell(const tLoanDesc& loan, double balanceOwed, double homeGrowth, double growth, double discount);
 
   /// Writes the totals. Raises Overflow when one is not finite.

@@ -316,7 +316,12 @@ TEST(LoanSolver, EachImpossibleLoanHasItsError) {
   struct Row {
     tLoanDesc loan;
     std::optional<ErrorNumber> error;
+    tCreditQualification home = {};
   };
+  tLoanDesc taxed = Loan(1e5, 0, 0, 12);  // no interest until it is past the horizon
+  taxed.taxRate = 1e308;
+  taxed.firstRatePeriod = 5;
+  taxed.firstRateIncrease = taxed.intRateMaximum = 12;
   tLoanDesc lease = Loan(1000, 100, 6, 3, loanAsLease);
   lease.numberPrepays = 9;
   const Row rows[] = {
@@ -331,9 +336,12 @@ TEST(LoanSolver, EachImpossibleLoanHasItsError) {
        ErrorNumber::Overflow},  // cents never move: no term in 16 bits
       {Loan(1000, 1, 1, 32700), std::nullopt},
       {lease, ErrorNumber::SubscriptOutOfRange},
+      {taxed, ErrorNumber::Overflow, {.monthsToKeep = 1}},
+      {Loan(1000, 100, 6, 12), ErrorNumber::Overflow, {.investmentGrowthRate = 1e300}},
+      {Loan(1000, 100, 6, 12, biWeekly), ErrorNumber::DivisionByZero, {.investmentGrowthRate = -1200}},
   };
   for (const Row& row : rows) {
-    EXPECT_EQ(ErrorOf([&] { Solved(row.loan); }), row.error)
+    EXPECT_EQ(ErrorOf([&] { Solved(row.loan, row.home); }), row.error)
         << row.loan.startingBalance << ' ' << row.loan.payment << ' ' << row.loan.intRate << ' '
         << row.loan.period;
   }
@@ -356,6 +364,10 @@ TEST(DetailArrays, ShowsTheDelayedStartAndARateWhereThereIsRoom) {
   EXPECT_EQ(ErrorOf([&] { LoadDetArray(solved, 0, 3, narrow); }), std::nullopt);
   EXPECT_EQ(ErrorOf([&] { LoadDetArray(solved, 1, 3, narrow); }), ErrorNumber::SubscriptOutOfRange);
   EXPECT_EQ(ErrorOf([&] { LoadDetArray(solved, 0, 4, table); }), ErrorNumber::SubscriptOutOfRange);
+  tLoanDesc beyond = solved;
+  beyond.schedule[3].startingBalance = 1e308;
+  beyond.schedule[3].endingBalance = -1e308;
+  EXPECT_EQ(ErrorOf([&] { LoadDetArray(beyond, 0, 3, table); }), ErrorNumber::Overflow);
 }
 
 }  // namespace
