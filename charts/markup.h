@@ -47,9 +47,9 @@ struct MarkupLiteral {
   std::size_t size;
 };
 
-template <MarkupLiteral kLiteral>
+template <MarkupLiteral Literal>
 constexpr Markup operator""_m() {
-  return Markup({kLiteral.text, kLiteral.size});
+  return Markup({Literal.text, Literal.size});
 }
 
 /// A number written with a blank in the place of the sign when it is not negative (" 300", "-5").
@@ -69,10 +69,11 @@ class MarkupWriter {
   /// With `checkTags`, a fragment that breaks the nesting has kSyncError put in front of it.
   explicit MarkupWriter(bool checkTags = kCheckTags) : checkTags_(checkTags) {}
 
+  void Put(const char*) = delete;  // a literal without its suffix
+
   /// Appends a fragment to the current line. Its parts: string literals and Markup, whose placeholders become
-  /// quotes; texts of the page (std::string, std::string_view), in which "%%" and a lone "%" both come out as
-  /// one
-  /// "%"; and numbers.
+  /// quotes; texts of the page (std::string, std::string_view), in which "%%" and a lone "%" both come out
+  /// as one; and numbers.
   template <class... Parts>
   void Append(const Parts&... parts) {
     const std::size_t start = line_.size();
@@ -95,7 +96,6 @@ class MarkupWriter {
   std::string OpenElements() const { return tags_.OpenElements(); }
 
  private:
-  void Put(const char*) = delete;  // a literal without its suffix
   void Put(Markup literal) { line_ += literal.Text(); }
   void Put(std::string_view pageText);
   void Put(SignedNumber number);
