@@ -40,6 +40,8 @@ inline Answer Ask(std::string_view method, const std::map<std::string_view, Vari
   const MemberInfo& member = *FindMember(calculator.Class(), method);
   std::vector<Value> values;
   std::vector<void*> arguments;
+  values.reserve(member.parameters.size());
+  arguments.reserve(member.parameters.size());
   for (const ParameterInfo& parameter : member.parameters) values.emplace_back(*parameter.type);
   for (Value& value : values) arguments.push_back(value.Get());
   for (const auto& [name, input] : inputs) {

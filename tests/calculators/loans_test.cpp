@@ -109,7 +109,8 @@ TEST(AdjustablePayment, RaisesThePaymentWithTheRate) {
   EXPECT_EQ(answer.Table("vDetArray").Dimension(2).upper, 5);
   double balance = 100000;
   for (int k = 1; k <= 40; ++k) {  // 8 % at payment 12, half a point more at 18 and 24, then the cap
-    const double rate = k < 12 ? 6 : std::min(9.0, 8 + 0.5 * ((k - 12) / 6));
+    const int laterChanges = (k - 12) / 6;
+    const double rate = k < 12 ? 6 : std::min(9.0, 8 + 0.5 * laterChanges);
     EXPECT_NEAR(answer.Cell("vDetArray", k, 4), balance * rate / 1200, 0.00501) << k;
     balance = answer.Cell("vDetArray", k, 5);
   }

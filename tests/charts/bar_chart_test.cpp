@@ -20,7 +20,7 @@ std::string FirstMissing(const std::string& text, const std::string& fragments) 
   std::size_t from = 0;
   for (std::size_t start = 0; start < fragments.size();) {
     const std::size_t end = std::min(fragments.find('\n', start), fragments.size());
-    const std::string fragment = fragments.substr(start, end - start);
+    std::string fragment = fragments.substr(start, end - start);
     const std::size_t found = text.find(fragment, from);
     if (found == std::string::npos) return fragment;
     from = found + fragment.size();

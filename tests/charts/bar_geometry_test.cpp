@@ -95,8 +95,8 @@ TEST(BarGeometry, LabelRowsFillTheWidth) {
       ASSERT_GT(cell.width, 0);
       if (cell.kind == LabelCell::Kind::Gap) continue;
       ++labels;
-      const Pixels left = start - (cell.index - 1) * 7;  // how far the cell reaches beyond its group
-      const Pixels right = cell.index * 7 - end;
+      const Pixels left = start - (cell.index - 1) * Pixels{7};  // how far the cell reaches beyond its group
+      const Pixels right = cell.index * Pixels{7} - end;
       EXPECT_EQ(cell.kind == LabelCell::Kind::Left     ? left
                 : cell.kind == LabelCell::Kind::Middle ? left - right
                                                        : right,
