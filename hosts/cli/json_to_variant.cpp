@@ -31,13 +31,17 @@ Integer ToWhole(const Json& json, VariantType type) {
 }
 
 Currency ToCurrency(const Json& json) {
-  constexpr double kScale = 10000;
+  constexpr std::int64_t kScale = 10000;
   constexpr double kLimit = 0x1p63;
   if (const std::string* text = json.Text()) {
     if (const auto amount = ParseCurrency(*text)) return *amount;
   } else if (const auto number = json.Number()) {
-    const double scaled = std::nearbyint(*number * kScale);
-    if (scaled >= -kLimit && scaled < kLimit) return {static_cast<std::int64_t>(scaled)};
+    if (std::abs(*number) * kScale < kLimit) {
+      // Apart, since a double of so many digits does not hold their product.
+      const double whole = std::trunc(*number);
+      const double decimals = std::nearbyint((*number - whole) * kScale);
+      return {static_cast<std::int64_t>(whole) * kScale + static_cast<std::int64_t>(decimals)};
+    }
   }
   RaiseNotOfType(json, VariantType::Currency);
 }

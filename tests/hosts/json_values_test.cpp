@@ -84,6 +84,8 @@ TEST(JsonValues, ReadAndWrittenBothWays) {
       {R"({"type":"Double","value":5})", 5.0, "5", ""},
       {R"({"type":"Currency","value":12.5})", Currency{125000}, "12.5",
        R"({"type":"Currency","value":12.5})"},
+      {R"({"type":"Currency","value":-100000000000001})", Currency{-1000000000000010000}, "-100000000000001",
+       ""},
       {R"({"type":"Currency","value":"-0.0001"})", Currency{-1}, "-0.0001", ""},
       {R"({"type":"Currency","value":"922337203685477.5807"})", Currency{9223372036854775807},
        "922337203685477.5807", R"({"type":"Currency","value":"922337203685477.5807"})"},
