@@ -3,7 +3,9 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
+#include <iterator>
 #include <memory>
 #include <system_error>
 
@@ -13,6 +15,7 @@
 #include "cli/batch.h"
 #include "cli/call.h"
 #include "cli/listing.h"
+#include "cli/names.h"
 #include "cli/options.h"
 #include "cli/output.h"
 #include "cli/readable.h"
@@ -47,11 +50,24 @@ int Report(const Failure& failure) {
   return failure.ofRequest ? kBadRequest : kComponentError;
 }
 
+/// One --with may be followed by several settings, which are no arguments of the method.
+void TakeSettings(const Target& target, Json::Fields& arguments, Json::Fields& settings) {
+  const auto isArgument = [&](const Json::Field& field) {
+    return FindParameter(target.method, field.name) || !FindMember(target.type, field.name);
+  };
+  const auto others = std::ranges::stable_partition(arguments, isArgument);
+  std::ranges::move(others, std::back_inserter(settings));
+  arguments.erase(others.begin(), others.end());
+}
+
 Json RequestOf(const Options& options) {
+  Json::Fields arguments = ReadArguments(options.arguments);
+  Json::Fields settings = ReadArguments(options.settings);
+  if (!settings.empty()) TakeSettings(FindTarget(options.target), arguments, settings);
   Json::Fields request;
   request.push_back({"call", Json(options.target)});
-  request.push_back({"args", Json(ReadArguments(options.arguments))});
-  request.push_back({"with", Json(ReadArguments(options.settings))});
+  request.push_back({"args", Json(std::move(arguments))});
+  request.push_back({"with", Json(std::move(settings))});
   return Json(std::move(request));
 }
 

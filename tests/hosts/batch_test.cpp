@@ -176,6 +176,8 @@ TEST_F(Program, ExitStatusesAndErrorLines) {
       {"call Calculator.FixedPayment --today 2001-02-29", 2, "2001-02-29"},
       {"call Calculator.FixedPayment vPurchaseAmt=1 --out x", 2, "nothing was sent"},
       {"call Calculator.LoadDetArray atCol=40000", 1, "amortix2: 6 Overflow\n"},
+      {"call BarChart.MakeChart --with NegativeBars=1 YLabelMode=11 vColDat=5", 1, "amortix2: 9 Subscript"},
+      {"call BarChart.MakeChart --with NegativeBars=1 YLabel=11", 2, "no argument"},
       {"batch extra", 2, "extra"},
   };
   for (const Case& row : cases) {
