@@ -46,10 +46,9 @@ void Changes::Add(Place place, const Variant& before, const Variant& after) {
 
 void Changes::AddCells(SAFEARRAY* array, VARTYPE elementType, const Array& before, const Array& after) {
   const SafeArrayData data(array);
-  const ColumnOrder order(after);
-  for (std::size_t i = 0; i < after.Cells().size(); ++i) {
-    Add({elementType, data.At(order.Of(i))}, before.Cells()[i], after.Cells()[i]);
-  }
+  ForEachCell(after, [&](std::size_t index, std::size_t platformIndex) {
+    Add({elementType, data.At(platformIndex)}, before.Cells()[index], after.Cells()[index]);
+  });
 }
 
 void Changes::AddRecord(const TypeLibrary& library, const RecordInfo& record, void* place, void* before,

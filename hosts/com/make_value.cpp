@@ -21,12 +21,11 @@ SAFEARRAY* MakeSafeArray(const Array& array, VARTYPE elementType) {
   if (!result) throw std::bad_alloc();
 
   const SafeArrayData data(result.get());
-  const ColumnOrder order(array);
   const std::span<const Variant> cells = array.Cells();
-  for (std::size_t i = 0; i < cells.size(); ++i) {
-    OwnedVariant cell = MakeValue(cells[i], elementType);
-    Exchange({elementType, data.At(order.Of(i))}, cell.Get());
-  }
+  ForEachCell(array, [&](std::size_t index, std::size_t platformIndex) {
+    OwnedVariant cell = MakeValue(cells[index], elementType);
+    Exchange({elementType, data.At(platformIndex)}, cell.Get());
+  });
   return result.release();
 }
 

@@ -18,7 +18,9 @@ class OwnedVariant {
     std::swap(value_, other.value_);
     return *this;
   }
-  ~OwnedVariant() { VariantClear(&value_); }
+  ~OwnedVariant() {
+    if (value_.vt >= VT_BSTR) VariantClear(&value_);  // the types before it hold nothing
+  }
 
   VARIANT& Get() noexcept { return value_; }
   const VARIANT& Get() const noexcept { return value_; }

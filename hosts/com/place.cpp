@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "automation/error.h"
 
@@ -66,11 +67,11 @@ VARIANT Peek(Place place) {
 }
 
 void Exchange(Place place, VARIANT& value) noexcept {
+  if (place.type == VT_VARIANT) return std::swap(*static_cast<VARIANT*>(place.data), value);
   const VARTYPE type = value.vt;
-  const bool whole = place.type == VT_VARIANT;
-  auto* inner = static_cast<unsigned char*>(whole ? &value : Payload(value));
+  auto* inner = static_cast<unsigned char*>(Payload(value));
   std::swap_ranges(inner, inner + SizeOf(place.type), static_cast<unsigned char*>(place.data));
-  if (!whole) value.vt = type;
+  value.vt = type;
 }
 
 }  // namespace amortix2

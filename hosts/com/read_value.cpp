@@ -131,8 +131,9 @@ class Reader {
     if ((cellsLeft_ -= static_cast<std::int64_t>(cells.size())) < 0) Raise(ErrorNumber::OutOfMemory);
 
     const SafeArrayData data(array);
-    const ColumnOrder order(result);
-    for (std::size_t i = 0; i < cells.size(); ++i) cells[i] = Read(Peek({elementType, data.At(order.Of(i))}));
+    ForEachCell(result, [&](std::size_t index, std::size_t platformIndex) {
+      cells[index] = Read(Peek({elementType, data.At(platformIndex)}));
+    });
     return result;
   }
 

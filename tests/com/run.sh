@@ -1,0 +1,113 @@
+#!/bin/bash
+# One step of the COM server's tests in Wine: run.sh STEP. The environment says where things are:
+#   COM_BIN    folder of Amortix2.dll and the clients        COM_WORK   scratch folder, with Wine's prefix in it
+#   COM_BITS   64 or 32                                       COM_NATIVE folder of the build machine's programs
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+pages=$here/../../examples/pages
+export WINEPREFIX=$COM_WORK/prefix WINEARCH=win$COM_BITS WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
+unset DISPLAY
+loader=wine
+[ "$COM_BITS" = 64 ] && [ -x /usr/lib/wine/wine64 ] && loader=/usr/lib/wine/wine64
+server=/usr/lib/wine/wineserver
+[ -x "$server" ] || server=wineserver
+
+windows_path() { echo "Z:${1//\//\\}"; }
+dll=$(windows_path "$COM_BIN/Amortix2.dll")
+
+# The registered classes, once the registry is written to disk.
+keys() { "$server" -w; cat "$WINEPREFIX"/{system,user}.reg | sed -n 's/^\(\[Software\\\\Classes.*\]\).*/\1/p' | sort; }
+identifiers=$(grep -oE '[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}' "$here/../../hosts/com/amortix2.idl" | sort -u)
+
+# Everything that registering wrote is gone again, and nothing else; Wine itself may have added keys meanwhile.
+check_clean() {
+  keys >"$COM_WORK/keys.after"
+  comm -23 "$COM_WORK/keys.before" "$COM_WORK/keys.after" | while IFS= read -r key; do
+    grep -qF "${key%]}\\\\" "$COM_WORK/keys.after" || { echo "lost: $key"; return 1; }
+  done
+  ! grep -iF -e amortix -e "$identifiers" "$COM_WORK/keys.after" || return 1
+}
+
+script() { "$loader" cscript /nologo "$(windows_path "$1")"; }
+
+client() { "$loader" "$COM_BIN/$1_client.exe" "${@:2}"; }
+
+case $1 in
+  setup)
+    rm -rf "$COM_WORK"
+    mkdir -p "$COM_WORK"
+    "$loader" wineboot -i
+    keys >"$COM_WORK/keys.before"
+    echo "Without registration"
+    client lifetime "$(windows_path "$COM_BIN/Amortix2.manifest")"
+    echo "For the user alone"
+    "$loader" regsvr32 /s /n /i:user "$dll"
+    "$server" -w
+    ! grep -qi amortix "$WINEPREFIX/system.reg"
+    # Wine looks for classes in the machine's part alone, so that no object can be made here.
+    for key in 'Amortix2.BarChart\\CLSID' 'Amortix2.BarChart.1\\CLSID' "TypeLib.*\\\\0\\\\win$COM_BITS"; do
+      grep -q "Classes.*${key//\\/\\\\}" "$WINEPREFIX/user.reg"
+    done
+    "$loader" regsvr32 /s /u /n /i:user "$dll"
+    check_clean
+    echo "For the machine"
+    "$loader" regsvr32 /s "$dll"
+    ;;
+  cleanup)
+    "$loader" regsvr32 /s /u "$dll"
+    check_clean
+    "$server" -k || true
+    rm -rf "$WINEPREFIX"
+    ;;
+  client)
+    client "${@:2}"
+    ;;
+  differential)
+    work=$COM_WORK/differential
+    rm -rf "$work"
+    mkdir -p "$work/native" "$work/com"
+    "$COM_NATIVE/com_requests" make 2000 "$work"
+    cat "$here/script_client.vbs" "$work/calls.vbs" >"$work/client.vbs"
+    (cd "$work/com" && script "$work/client.vbs" >../lines)
+    today=$(head -1 "$work/lines" | tr -d '\r' | cut -d' ' -f2)
+    tail -n +2 "$work/lines" >"$work/values"
+    (cd "$work/native" && "$COM_NATIVE/amortix2" batch --types --today "$today" <../requests.jsonl >../replies)
+    "$COM_NATIVE/com_requests" compare "$work/replies" "$work/values"
+    diff -r "$work/native" "$work/com"
+    ls "$work/native"/*.gif >/dev/null
+    ;;
+  pages)
+    mkdir -p "$COM_WORK/pages"
+    cd "$COM_WORK/pages"
+    checked=0
+    while IFS= read -r line; do
+      case $line in
+        page\ *)
+          read -r _ name query <<<"$line"
+          echo "$name?$query"
+          { printf 'Option Explicit\nConst QueryText = "%s"\n' "$query"; cat "$here/page_server.vbs"
+            awk -f "$here/page_to_script.awk" "$pages/$name.asp"; echo EndPage; } >page.vbs
+          script "$PWD/page.vbs" >page.html
+          ;;
+        \ \ *)
+          grep -qF -- "${line:2}" page.html || { echo "lacks: $line"; head -c 2000 page.html; exit 1; }
+          checked=$((checked + 1))
+          ;;
+      esac
+    done <"$here/pages.txt"
+    [ "$checked" -gt 10 ]
+    ;;
+  image)
+    # The same line chart: bytes that a page's response gets, late-bound, and the file of the native program.
+    cd "$COM_WORK"
+    table='[[0,0,0],[0,5,-3],[0,7,2.5],[0,-4,9]]'
+    palette=[$(for i in $(seq 0 255); do printf '[%d,%d,%d],' "$i" $((255 - i)) $((i / 2)); done | sed 's/,$//')]
+    client lifetime com.gif
+    "$COM_NATIVE/amortix2" call GifChart.LineChart vColDat="$table" vPal="$palette" typ= --out native.gif
+    cmp com.gif native.gif
+    ;;
+  *)
+    echo "no such step: $1" >&2
+    exit 2
+    ;;
+esac
