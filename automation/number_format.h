@@ -7,15 +7,32 @@
 // - ";" parts the patterns of positive values, of negative values and of zero.
 // - A character behind a backslash, a text in double quotes and any other character stand for themselves.
 
+#include <array>
 #include <string>
 #include <string_view>
 
+#include "automation/pattern_section.h"
+
 namespace amortix2 {
 
-/// `value` by `pattern`, any text. Rounds halves away from zero, on the 15 significant digits that a double
-/// is sure of. A negative value has its minus sign in front of the whole text ("-$1,234"), also where it
-/// rounds to zero, unless the pattern has a part for negative values. An empty pattern gives NumberText.
-/// Raises Overflow when `value` is not finite.
-std::string FormatNumber(double value, std::string_view pattern);
+/// A pattern, read once for any number of values. Holds nothing of the text that it was read from, and at
+/// most a small multiple of that text's length. Any number of threads may format by it at once.
+class NumberPattern {
+ public:
+  /// `pattern` may be any text.
+  explicit NumberPattern(std::string_view pattern);
+
+  /// Appends `value` to `text`. Rounds halves away from zero, on the 15 significant digits that a double is
+  /// sure of. A negative value has its minus sign in front of the whole text ("-$1,234"), also where it
+  /// rounds to zero, unless the pattern has a part for negative values. An empty pattern gives NumberText.
+  /// Raises Overflow when `value` is not finite; `text` is then as before.
+  void AppendTo(std::string& text, double value) const;
+
+  /// What AppendTo appends.
+  std::string Format(double value) const;
+
+ private:
+  std::array<PatternSection, 3> sections_;  // for positive values, for negative values, for zero
+};
 
 }  // namespace amortix2

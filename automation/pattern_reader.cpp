@@ -9,7 +9,7 @@ Token PatternReader::Next() noexcept {
   const bool isStray = (token.kind == TokenKind::Comma && (!behindPlace_ || behindPoint_)) ||
                        (token.kind == TokenKind::Point && behindPoint_);
   if (isStray) token.kind = TokenKind::Literal;
-  behindPoint_ = behindPoint_ || token.kind == TokenKind::Point;
+  behindPoint_ = token.kind != TokenKind::SectionEnd && (behindPoint_ || token.kind == TokenKind::Point);
   behindPlace_ = token.IsPlace() || token.kind == TokenKind::Comma;
   return token;
 }

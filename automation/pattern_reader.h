@@ -1,7 +1,7 @@
 #pragma once
 
 // A number pattern as a row of tokens: digit places, the marks that stand for something, and literal text.
-// Nothing is copied; a token is a view into the pattern.
+// Nothing is copied; a token is a view into the pattern. Every section is read as if it stood alone.
 
 #include <cstdint>
 #include <string_view>
@@ -33,9 +33,6 @@ class PatternReader {
   explicit PatternReader(std::string_view pattern) noexcept : rest_(pattern) {}
 
   bool AtEnd() const noexcept { return rest_.empty(); }
-
-  /// How many characters have not been read.
-  std::size_t Remaining() const noexcept { return rest_.size(); }
 
   /// Reads the next token; there must be one.
   Token Next() noexcept;

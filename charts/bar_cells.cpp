@@ -1,7 +1,5 @@
 #include "charts/bar_cells.h"
 
-#include "automation/number_format.h"
-
 namespace amortix2 {
 namespace {
 
@@ -60,17 +58,13 @@ void PileRow(MarkupWriter& out, Markup edge, const PileImage& image) {
 
 void ClosePile(MarkupWriter& out) { out.Line("</Table></TD>"_m); }
 
-std::string BarTooltip(const BarChartSettings& settings, double value, std::string_view legend) {
-  std::string text = FormatNumber(value, settings.altFormat);
-  if (!settings.altLabelWithLegend || legend.empty()) return text;
-  return std::string(legend) + ", " + text;
-}
-
-std::string BarTooltip(const BarChartInput& input, std::int32_t row, std::int32_t series) {
-  const auto& legends = input.texts.legends;
-  const std::string_view legend =
-      legends.empty() ? std::string_view() : legends[static_cast<std::size_t>(series)];
-  return BarTooltip(input.settings, input.values.At(row, series), legend);
+void MakeTooltip(std::string& tooltip, const BarChartInput& input, std::int32_t row, std::int32_t series) {
+  tooltip.clear();
+  if (input.settings.altLabelWithLegend) {
+    tooltip += input.texts.legends[static_cast<std::size_t>(series)];
+    if (!tooltip.empty()) tooltip += ", ";
+  }
+  input.tooltipFormat.AppendTo(tooltip, input.values.At(row, series));
 }
 
 }  // namespace amortix2

@@ -56,11 +56,8 @@ void OpenPile(MarkupWriter& out, Markup edge);
 void PileRow(MarkupWriter& out, Markup edge, const PileImage& image);
 void ClosePile(MarkupWriter& out);
 
-/// A bar's tooltip: its value in the alternative format, behind `legend` and ", " when the settings ask for
-/// that and there is one.
-std::string BarTooltip(const BarChartSettings& settings, double value, std::string_view legend);
-
-/// The tooltip of one bar of a chart.
-std::string BarTooltip(const BarChartInput& input, std::int32_t row, std::int32_t series);
+/// Replaces `tooltip` by that of one bar: its value in the alternative format, behind its legend and ", "
+/// when the settings ask for that and there is one. The string's memory serves one bar after the other.
+void MakeTooltip(std::string& tooltip, const BarChartInput& input, std::int32_t row, std::int32_t series);
 
 }  // namespace amortix2

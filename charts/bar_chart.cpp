@@ -129,6 +129,8 @@ Variant DrawBarChart(const BarChartSettings& settings, Variant& vColDat, const V
       .values = values,
       .drawn = drawn,
       .axis = TableAxis(drawn),
+      .tooltipFormat = NumberPattern(settings.altFormat),
+      .valueLabelFormat = NumberPattern(settings.valueLabelFormat),
       .hasBackground = !style.line,
       .hasLegend = hasLegend,
       .reversedLegend = stacked && style.reversed,

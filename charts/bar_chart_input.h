@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "automation/number_format.h"
 #include "charts/axis_range.h"
 #include "charts/bar_settings.h"
 #include "charts/chart_table.h"
@@ -27,9 +28,11 @@ struct BarChartTexts {
 struct BarChartInput {
   const BarChartSettings& settings;
   const BarChartTexts& texts;
-  const ChartTable& values;  ///< what each bar stands for
-  const ChartTable& drawn;   ///< where each bar ends; running totals in stacked charts, else `values`
-  AxisRange axis;            ///< of `drawn`
+  const ChartTable& values;        ///< what each bar stands for
+  const ChartTable& drawn;         ///< where each bar ends; running totals in stacked charts, else `values`
+  AxisRange axis;                  ///< of `drawn`
+  NumberPattern tooltipFormat;     ///< the settings' altFormat
+  NumberPattern valueLabelFormat;  ///< the settings' format of that name
   bool hasBackground;
   bool hasLegend;
   bool reversedLegend;  ///< the legend goes from the last series to the first

@@ -1,9 +1,9 @@
 #include "charts/horizontal_plot.h"
 
 #include <algorithm>
+#include <string>
 #include <string_view>
 
-#include "automation/number_format.h"
 #include "charts/bar_cells.h"
 
 // All bars and gaps are rows of one pile, so that every bar starts at the axis whatever its length.
@@ -46,6 +46,7 @@ void HorizontalPlot::WriteSideLabels(MarkupWriter& out) const {
 void HorizontalPlot::WriteBars(MarkupWriter& out) const {
   const Markup edge = "bottom"_m;
   const auto space = [&](Pixels width) { PileRow(out, edge, {input_.texts.blank, "", width, thickness_}); };
+  std::string tooltip;
   OpenPile(out, edge);
   space(length_);
   for (std::int32_t row = 1; row <= input_.drawn.Rows(); ++row) {
@@ -55,7 +56,8 @@ void HorizontalPlot::WriteBars(MarkupWriter& out) const {
         space(1);
       } else {
         const auto& image = input_.texts.images[static_cast<std::size_t>(series)];
-        PileRow(out, edge, {image, BarTooltip(input_, row, series), bar, thickness_});
+        MakeTooltip(tooltip, input_, row, series);
+        PileRow(out, edge, {image, tooltip, bar, thickness_});
       }
     }
     space(length_);
@@ -67,7 +69,7 @@ void HorizontalPlot::WriteBottomLabels(MarkupWriter& out) const {
   const BarChartSettings& settings = input_.settings;
   for (const LabelCell& cell : GridLabelCells(input_.axis, settings.valueLabels, length_)) {
     const auto value = GridLabel(input_.axis, cell.index, settings.valueLabels);
-    WriteLabelCell(out, settings, cell, FormatNumber(*value, settings.valueLabelFormat));
+    WriteLabelCell(out, settings, cell, input_.valueLabelFormat.Format(*value));
   }
 }
 

@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "automation/number_format.h"
 #include "charts/bar_cells.h"
 
 // A row of the plot is a row of cells: for every group its slices, then one free pixel. Where bars hang below
@@ -39,7 +38,7 @@ void UprightPlot::WriteSideLabels(MarkupWriter& out) const {
     const Markup edge = line == 0 ? "top"_m : line == kGridIntervals ? "bottom"_m : "middle"_m;
     const Pixels rowHeight = height / (end ? 2 * kGridIntervals : kGridIntervals);
     if (const auto value = GridLabel(input_.axis, line, input_.settings.valueLabels)) {
-      row(edge, rowHeight, FormatNumber(*value, input_.settings.valueLabelFormat));
+      row(edge, rowHeight, input_.valueLabelFormat.Format(*value));
     } else {
       row(edge, rowHeight, "<IMG src=%"_m, input_.settings.spaceImage, "% >"_m);
     }
@@ -85,7 +84,7 @@ void UprightPlot::WriteGroups(MarkupWriter& out, Side side) const {
     for (std::int32_t series = 1; series <= input_.drawn.Series(); ++series) {
       Bar& bar = bars[static_cast<std::size_t>(series - 1)];
       bar.height = split_.BarHeight(input_.drawn.At(row, series)) * static_cast<int>(side);
-      if (bar.height > 0) bar.tooltip = BarTooltip(input_, row, series);
+      if (bar.height > 0) MakeTooltip(bar.tooltip, input_, row, series);
     }
     for (const Slice& slice : pattern_.slices) {
       VisibleSegments(slice, bars, segments);

@@ -52,7 +52,7 @@ const std::vector<FormatCase> kFormats{
 
 TEST(NumberFormat, FollowsItsPattern) {
   for (const FormatCase& c : kFormats)
-    EXPECT_EQ(FormatNumber(c.value, c.pattern), c.expected) << c.value << " by " << c.pattern;
+    EXPECT_EQ(NumberPattern(c.pattern).Format(c.value), c.expected) << c.value << " by " << c.pattern;
 }
 
 // Every short pattern of the special characters, on numbers of every size: the text has at most 309 digits,
@@ -68,14 +68,14 @@ TEST(NumberFormat, EveryPatternIsSafe) {
       pattern += kCharacters[rest % kCharacters.size()];
     }
     for (const double value : {0.0, -0.5, 1234567.891, -1e308, 5e-324}) {
-      longest = std::max(longest, FormatNumber(value, pattern).size());
+      longest = std::max(longest, NumberPattern(pattern).Format(value).size());
     }
   }
   EXPECT_LE(longest, 309U + 102U + 8U);
   for (const char c : kCharacters) {
-    EXPECT_LE(FormatNumber(1e308, std::string(100'000, c)).size(), 1'000'000U) << c;
+    EXPECT_LE(NumberPattern(std::string(100'000, c)).Format(1e308).size(), 1'000'000U) << c;
   }
-  EXPECT_EQ(ErrorOf([] { FormatNumber(1e308 * 10, "0"); }), ErrorNumber::Overflow);
+  EXPECT_EQ(ErrorOf([] { NumberPattern("0").Format(1e308 * 10); }), ErrorNumber::Overflow);
 }
 
 }  // namespace
