@@ -140,7 +140,8 @@ std::vector<LabelCell> GroupLabelCells(std::int32_t groups, Pixels pitch) {
   constexpr std::int32_t kLabelAll = 12;
   std::vector<LabelCell> cells;
   if (groups <= kLabelAll) {
-    for (std::int32_t group = 1; group <= groups; ++group) cells.push_back({Middle, pitch, group});
+    // As wide as the group's bars; the table spreads the pixels between the groups.
+    for (std::int32_t group = 1; group <= groups; ++group) cells.push_back({Middle, pitch - 1, group});
     return cells;
   }
   const std::int32_t interval = (groups - 1 + 5) / 6;

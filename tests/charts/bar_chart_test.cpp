@@ -96,7 +96,7 @@ TEST(BarChart, WholeChart) {
 <TABLE width ="62" BORDER="0" CELLPADDING="0"  CELLSPACING="0">
 <IMG border=0 height=" 1" src="./images/spacer_black.gif" width ="62" ></TD>
 <TABLE width ="62" BORDER="0" CELLPADDING="0"  CELLSPACING="0"><TR>
-<TD ALIGN="middle" width="61"><FONT SIZE="1">A&B</FONT></TD>
+<TD ALIGN="middle" width="60"><FONT SIZE="1">A&B</FONT></TD>
 </TR></TABLE>
 <TD COLSPAN="2"></TD>
 <TD ALIGN="middle" ><b>X</b></TD>
