@@ -3,6 +3,16 @@
 #   COM_BIN    folder of Amortix2.dll and the clients        COM_WORK   scratch folder, with Wine's prefix in it
 #   COM_BITS   64 or 32                                       COM_NATIVE folder of the build machine's programs
 set -euo pipefail
+
+# Wine's own services outlive the program that started them: they may hold a file open, not the caller's pipe.
+if [ -z "${COM_LOG:-}" ]; then
+  log=$(mktemp)
+  COM_LOG=$log "$0" "$@" >"$log" 2>&1 </dev/null && status=0 || status=$?
+  cat "$log"
+  rm -f "$log"
+  exit "$status"
+fi
+
 here=$(cd "$(dirname "$0")" && pwd)
 pages=$here/../../examples/pages
 export WINEPREFIX=$COM_WORK/prefix WINEARCH=win$COM_BITS WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml='
