@@ -134,7 +134,10 @@ CostTotals SumLines(const tLoanDesc& loan, const tCreditQualification& qualifica
     for (; AdvanceDate(loan.startDate, annualMode, years + 1) <= date; ++years) homeGrowth *= homeGrowthAYear;
   };
   for (const tSchedule& line : loan.schedule) {
-    if (line.lineDate > horizon) break;
+    if (line.lineDate > horizon) {
+      CostTotals::PassOver(line);
+      continue;
+    }
     const bool isOpening = &line == &loan.schedule.front();
     const std::int32_t days = line.lineDate.serial - loan.startDate.serial;
     discount = RealPower(discountGrowth, days * 12.0 / 365);

@@ -16,10 +16,11 @@ void LoadDetArray(const tLoanDesc& loan, std::int16_t atCol, std::int16_t lastRo
   for (std::int32_t row = 0; row <= lastRow; ++row) {
     if (static_cast<std::size_t>(row) >= loan.schedule.size()) Raise(ErrorNumber::SubscriptOutOfRange);
     const tSchedule& line = loan.schedule[static_cast<std::size_t>(row)];
+    const double principal = Finite(line.startingBalance - line.endingBalance);
     const std::span<Variant> cells = detArray.Run(row, atCol, hasRates ? 6 : 5);
     cells[0] = FormatMonthDayYear(calendar.At(line.lineDate));
     cells[1] = line.payment;
-    cells[2] = Finite(line.startingBalance - line.endingBalance);
+    cells[2] = principal;
     cells[3] = line.intCharged;
     cells[4] = line.endingBalance;
     if (hasRates) cells[5] = line.intRate;

@@ -63,7 +63,7 @@ class MonthlyCost {
         horizon_(Horizon(layout, qualification.monthsToKeep)) {}
 
   void Add(const tSchedule& line) {
-    if (month_ > horizon_) return;
+    if (month_ > horizon_) return CostTotals::PassOver(line);
     totals_.AddLine(line, discount_);
     if (month_ > 0) totals_.AddCharges(discount_, homeGrowth_);
     discount_ *= discountGrowth_;

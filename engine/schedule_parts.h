@@ -18,12 +18,11 @@ struct RunningLoan {
   double payment;  ///< falls to what is owed with the last payment, and to 0 after it
   double taxFraction;
 
-  /// Writes a line from the balance after interest. A payment that exceeds it is cut. Raises Overflow when
-  /// the tax is not finite, also past the horizon, where no total has it.
+  /// Writes a line from the balance after interest. A payment that exceeds it is cut.
   void Pay(tSchedule& line, double grownBalance, double interest) {
     line.startingBalance = balance;
     line.intCharged = interest;
-    line.taxCredited = Finite(taxFraction * interest);
+    line.taxCredited = taxFraction * interest;
     balance = grownBalance - payment;
     if (balance < 0) {
       payment += balance;
@@ -50,6 +49,10 @@ class CostTotals {
     payments_ += line.payment;
     costPV_ += Discounted(line.payment - line.taxCredited, discount);
   }
+
+  /// A line past the horizon, which no total has: the tax, its one amount that no rounding guards, raises
+  /// Overflow here when it is not finite.
+  static void PassOver(const tSchedule& line) { Finite(line.taxCredited); }
 
   /// The home's charges of `months` months, the property tax grown by `homeGrowth`.
   void AddCharges(double discount, double homeGrowth, double months = 1) {
