@@ -43,6 +43,10 @@ const std::vector<FormatCase> kFormats{
     // text
     {5, "\"a;0\"0", "a;05"}, {5, "\\#0", "#5"}, {5, "0 \"x", "5 x"}, {5, "0\\", "5"},
     {5, "about 0 \xE2\x82\xAC", "about 5 \xE2\x82\xAC"}, {-5, "-", "--"},
+    // more places, text and exponent digits than any number has
+    {-1234, std::string(600, '#') + ".0", "-1234.0"}, {7, std::string(300, '0'), std::string(299, '0') + "7"},
+    {5, "0" + std::string(600, 'x'), "5" + std::string(600, 'x')},
+    {50, "0E+" + std::string(300, '0'), "5E+" + std::string(299, '0') + "1"},
     // magnitudes
     {1e20, "#,##0", "100,000,000,000,000,000,000"}, {1.23456789012345678e17, "0", "123456789012346000"},
     {1e308, "0", "1" + std::string(308, '0')}, {1e-308, "0.00", "0.00"},
