@@ -55,9 +55,9 @@ void TakeSettings(const Target& target, Json::Fields& arguments, Json::Fields& s
   const auto isArgument = [&](const Json::Field& field) {
     return FindParameter(target.method, field.name) || !FindMember(target.type, field.name);
   };
-  const auto others = std::ranges::stable_partition(arguments, isArgument);
-  std::ranges::move(others, std::back_inserter(settings));
-  arguments.erase(others.begin(), others.end());
+  const auto others = std::stable_partition(arguments.begin(), arguments.end(), isArgument);
+  std::move(others, arguments.end(), std::back_inserter(settings));
+  arguments.erase(others, arguments.end());
 }
 
 Json RequestOf(const Options& options) {
