@@ -30,7 +30,7 @@ double Exponential(double x) {
   if (std::isnan(x)) return x;
   if (x > 709.79) return kInfinity;
   if (x < -745.2) return 0;
-  // e^x = 2^k e^r with |r| at most ln 2 / 2. Past the series' linear part 13 terms reach the last bit.
+  // e^x = 2^k e^r with |r| at most ln 2 / 2. Terms up to the 15th power reach the last bit.
   const double k = std::floor(x / (kLn2High + kLn2Low) + 0.5);
   const double high = x - k * kLn2High;
   const double low = k * kLn2Low;
