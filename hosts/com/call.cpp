@@ -19,9 +19,9 @@ bool IsLeftOut(const VARIANT* argument) noexcept {
   return argument == nullptr || (argument->vt == VT_ERROR && argument->scode == DISP_E_PARAMNOTFOUND);
 }
 
-std::shared_ptr<ScriptingContext> ReadContext(const VARIANT& argument) {
-  VARIANT value = argument;
-  while ((value.vt & VT_BYREF) != 0) value = Peek({static_cast<VARTYPE>(value.vt & ~VT_BYREF), value.byref});
+std::shared_ptr<ScriptingContext> ReadContext(VARIANT& argument) {
+  VARIANT value = Followed(argument);
+  if ((value.vt & VT_BYREF) != 0) value = Peek({static_cast<VARTYPE>(value.vt & ~VT_BYREF), value.byref});
   if (value.vt != VT_DISPATCH && value.vt != VT_UNKNOWN) Raise(ErrorNumber::TypeMismatch);
   auto context = ComPointer<IUnknown>::Shared(value.punkVal).As<IDispatch>(IID_IDispatch);
   if (!context) return nullptr;

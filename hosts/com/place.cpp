@@ -52,6 +52,16 @@ std::size_t SizeOf(VARTYPE type) {
   }
 }
 
+VARIANT& Followed(VARIANT& value) {
+  constexpr int kDeepest = 32;
+  VARIANT* followed = &value;
+  for (int depth = 0; followed->vt == (VT_BYREF | VT_VARIANT); ++depth) {
+    if (depth == kDeepest || followed->pvarVal == nullptr) Raise(ErrorNumber::TypeMismatch);
+    followed = followed->pvarVal;
+  }
+  return *followed;
+}
+
 VARIANT Peek(Place place) {
   if (place.data == nullptr) Raise(ErrorNumber::TypeMismatch);
   VARIANT value;

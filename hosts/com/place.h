@@ -17,6 +17,10 @@ struct Place {
 /// Bytes that a value of the type takes. Raises TypeMismatch for a type that no place has.
 std::size_t SizeOf(VARTYPE type);
 
+/// The variable behind references to variables. Raises TypeMismatch for a null reference or ones that never
+/// end.
+VARIANT& Followed(VARIANT& value);
+
 /// The value at a place, not copied: texts, arrays and objects still belong to the place. Raises TypeMismatch
 /// for a null place or a type that no place has.
 VARIANT Peek(Place place);

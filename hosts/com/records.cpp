@@ -40,24 +40,21 @@ void FillRecord(const TypeLibrary& library, const RecordInfo& info, void* place,
 }  // namespace
 
 RecordArgument FindRecords(const TypeLibrary& library, const TypeInfo& type, VARIANT& argument) {
-  constexpr int kDeepest = 32;
-  VARIANT* value = &argument;
+  VARIANT& value = Followed(argument);
   RecordArgument found;
-  for (int depth = 0; value->vt == (VT_BYREF | VT_VARIANT) && depth < kDeepest; ++depth) {
-    found.byReference = true;
-    value = value->pvarVal;
-  }
-  if (IsNothing(value->vt)) return found;
-  if ((value->vt & VT_BYREF) != 0) found.byReference = true;
+  if (IsNothing(value.vt)) return found;
+  const bool isReference = (value.vt & VT_BYREF) != 0;
+  found.byReference = isReference || &value != &argument;
   const bool wantsArray = type.kind == TypeKind::RecordArray;
-  if ((value->vt & ~VT_BYREF) != (wantsArray ? VT_ARRAY | VT_RECORD : VT_RECORD)) {
+  const int wanted = wantsArray ? VT_ARRAY | VT_RECORD : VT_RECORD;
+  if ((value.vt & ~VT_BYREF) != wanted || (isReference && value.byref == nullptr)) {
     Raise(ErrorNumber::TypeMismatch);
   }
   if (wantsArray) {
-    found.array = (value->vt & VT_BYREF) != 0 ? value->pparray : &value->parray;
+    found.array = isReference ? value.pparray : &value.parray;
   } else {
-    RequireLayout(library.Layout(*type.record), value->pRecInfo);
-    found.record = value->pvRecord;
+    RequireLayout(library.Layout(*type.record), value.pRecInfo);
+    found.record = value.pvRecord;
   }
   return found;
 }

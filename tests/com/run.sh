@@ -72,6 +72,12 @@ case $1 in
   client)
     client "${@:2}"
     ;;
+  arithmetic)
+    "$COM_NATIVE/com_arithmetic" >"$COM_WORK/arithmetic"
+    for bits in '' short; do
+      client arithmetic $bits | tr -d '\r' | diff "$COM_WORK/arithmetic" -
+    done
+    ;;
   differential)
     work=$COM_WORK/differential
     rm -rf "$work"
