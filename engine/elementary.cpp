@@ -1,5 +1,6 @@
 #include "engine/elementary.h"
 
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -10,6 +11,11 @@ namespace {
 // ln 2 in two parts: the first has so few bits that its product with any exponent of a double is exact.
 constexpr double kLn2High = 0x1.62e42feep-1;
 constexpr double kLn2Low = 0x1.a39ef35793c76p-33;
+constexpr std::array<double, 16> kInverseFactorials = [] {
+  std::array<double, 16> inverses{1};
+  for (std::size_t n = 1; n < inverses.size(); ++n) inverses[n] = inverses[n - 1] / static_cast<double>(n);
+  return inverses;
+}();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
@@ -36,11 +42,7 @@ double Exponential(double x) {
   const double low = k * kLn2Low;
   const double r = high - low;
   double tail = 0;  // (e^r - 1 - r) / r^2
-  for (int n = 15; n >= 2; --n) {
-    double inverseFactorial = 1;
-    for (int i = 2; i <= n; ++i) inverseFactorial /= i;
-    tail = tail * r + inverseFactorial;
-  }
+  for (std::size_t n = kInverseFactorials.size() - 1; n >= 2; --n) tail = tail * r + kInverseFactorials[n];
   const double error = (high - r) - low;
   return std::ldexp(1 + (r + (r * r * tail + error)), static_cast<int>(k));
 }
