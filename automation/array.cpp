@@ -1,4 +1,4 @@
-#include "automation/array.h"
+#include "amortix2/automation/array.h"
 
 #include <new>
 

@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-#include "automation/error.h"
-#include "automation/variant.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2 {
 

@@ -3,7 +3,7 @@
 // Steps through the calendar month by month without a division: schedules and their tables go through
 // hundreds of dates in order.
 
-#include "automation/date.h"
+#include "amortix2/automation/date.h"
 
 namespace amortix2 {
 

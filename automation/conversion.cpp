@@ -1,9 +1,9 @@
-#include "automation/conversion.h"
+#include "amortix2/automation/conversion.h"
 
 #include <cmath>
 #include <limits>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 namespace {

@@ -1,10 +1,10 @@
-#include "automation/date.h"
+#include "amortix2/automation/date.h"
 
 #include <bit>
 #include <chrono>
 #include <cstring>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 namespace {

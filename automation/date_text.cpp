@@ -4,8 +4,8 @@
 #include <chrono>
 #include <span>
 
-#include "automation/conversion.h"
-#include "automation/text_scanner.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/text_scanner.h"
 
 // Date text is a row of parts: numbers, one of which may be a month's name, and a time of day. The parts are
 // collected first; then the first order of month, day and year that makes a valid day wins. Weekdays are

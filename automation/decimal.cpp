@@ -1,10 +1,10 @@
-#include "automation/decimal.h"
+#include "amortix2/automation/decimal.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 

@@ -1,4 +1,4 @@
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 #include <algorithm>
 #include <array>

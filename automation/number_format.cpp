@@ -1,8 +1,8 @@
-#include "automation/number_format.h"
+#include "amortix2/automation/number_format.h"
 
-#include "automation/conversion.h"
-#include "automation/decimal.h"
-#include "automation/pattern_reader.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/decimal.h"
+#include "amortix2/automation/pattern_reader.h"
 
 namespace amortix2 {
 

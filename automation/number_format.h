@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-#include "automation/pattern_section.h"
+#include "amortix2/automation/pattern_section.h"
 
 namespace amortix2 {
 

@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string>
 
-#include "automation/conversion.h"
-#include "automation/decimal.h"
-#include "automation/text_scanner.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/decimal.h"
+#include "amortix2/automation/text_scanner.h"
 
 // Numeric text is read in three steps: what may stand in front of the digits, the number itself, and what may
 // stand behind it. Digits go without their separators to the standard library's correctly rounded conversion.

@@ -1,4 +1,4 @@
-#include "automation/pattern_reader.h"
+#include "amortix2/automation/pattern_reader.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "automation/pattern_section.h"
+#include "amortix2/automation/pattern_section.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "automation/decimal.h"
-#include "automation/pattern_reader.h"
+#include "amortix2/automation/decimal.h"
+#include "amortix2/automation/pattern_reader.h"
 
 namespace amortix2 {
 

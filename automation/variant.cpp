@@ -1,11 +1,11 @@
-#include "automation/variant.h"
+#include "amortix2/automation/variant.h"
 
 #include <algorithm>
 #include <memory>
 #include <string>
 
-#include "automation/array.h"
-#include "automation/error.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 namespace {

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <utility>
 
-#include "automation/date.h"
+#include "amortix2/automation/date.h"
 
 namespace amortix2 {
 

@@ -1,4 +1,4 @@
-#include "automation/whole_file.h"
+#include "amortix2/automation/whole_file.h"
 
 #include <filesystem>
 #include <fstream>
@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "automation/conversion.h"
-#include "automation/error.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 namespace {

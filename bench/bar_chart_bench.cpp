@@ -11,8 +11,8 @@
 #include <string_view>
 #include <vector>
 
-#include "automation/array.h"
-#include "component/bar_chart.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/component/bar_chart.h"
 
 namespace amortix2 {
 namespace {

@@ -17,9 +17,9 @@
 #include <random>
 #include <vector>
 
-#include "automation/array.h"
-#include "charts/gif_writer.h"
-#include "charts/line_chart.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/charts/gif_writer.h"
+#include "amortix2/charts/line_chart.h"
 
 namespace amortix2 {
 namespace {

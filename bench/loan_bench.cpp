@@ -8,9 +8,9 @@
 
 #include <benchmark/benchmark.h>
 
-#include "calculators/loans.h"
-#include "engine/loan_solver.h"
-#include "engine/rounding.h"
+#include "amortix2/calculators/loans.h"
+#include "amortix2/engine/loan_solver.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2 {
 namespace {

@@ -12,12 +12,12 @@
 #include <algorithm>
 #include <chrono>
 
-#include "automation/error.h"
-#include "calculators/savings.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/calculators/savings.h"
+#include "amortix2/engine/rounding.h"
+#include "amortix2/engine/savings_rate.h"
+#include "amortix2/engine/savings_schedule.h"
 #include "engine/random_savings.h"
-#include "engine/rounding.h"
-#include "engine/savings_rate.h"
-#include "engine/savings_schedule.h"
 
 namespace amortix2 {
 namespace {

@@ -1,8 +1,8 @@
-#include "calculators/comparisons.h"
+#include "amortix2/calculators/comparisons.h"
 
-#include "calculators/loans.h"
-#include "calculators/work.h"
-#include "engine/rounding.h"
+#include "amortix2/calculators/loans.h"
+#include "amortix2/calculators/work.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2::calculators {
 namespace {

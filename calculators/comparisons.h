@@ -14,8 +14,8 @@
 // stands for the whole term. Inputs that are no numbers count as 0. All raise as the calculators of loans.h,
 // and write nothing then but what is said below.
 
-#include "automation/date.h"
-#include "automation/variant.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2::calculators {
 

@@ -1,12 +1,12 @@
-#include "calculators/leases.h"
+#include "amortix2/calculators/leases.h"
 
 #include <algorithm>
 
-#include "calculators/savings.h"
-#include "calculators/work.h"
-#include "engine/elementary.h"
-#include "engine/frequency.h"
-#include "engine/rounding.h"
+#include "amortix2/calculators/savings.h"
+#include "amortix2/calculators/work.h"
+#include "amortix2/engine/elementary.h"
+#include "amortix2/engine/frequency.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2::calculators {
 namespace {

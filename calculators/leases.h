@@ -4,8 +4,8 @@
 // residual value. Inputs that are no numbers count as 0. Tables are as those of loans.h, with the prepaid
 // payments in row 1 and the residual in the last row.
 
-#include "automation/date.h"
-#include "automation/variant.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2::calculators {
 

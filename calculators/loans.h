@@ -8,8 +8,8 @@
 // All raise Overflow, DivisionByZero, SubscriptOutOfRange, InvalidProcedureCall and OutOfMemory as the engine
 // and the arrays do. Where nothing else is said, no result is written then.
 
-#include "automation/date.h"
-#include "automation/variant.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2::calculators {
 

@@ -11,8 +11,8 @@
 // DivisionByZero, InvalidProcedureCall and SubscriptOutOfRange as the engine does, and TypeMismatch for a
 // `vStartDate` that is no date. Where nothing else is said, no result is written then.
 
-#include "automation/date.h"
-#include "automation/variant.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2::calculators {
 

@@ -1,11 +1,11 @@
-#include "calculators/savings_plan.h"
+#include "amortix2/calculators/savings_plan.h"
 
 #include <cmath>
 #include <utility>
 
-#include "calculators/work.h"
-#include "engine/frequency.h"
-#include "engine/savings_detail.h"
+#include "amortix2/calculators/work.h"
+#include "amortix2/engine/frequency.h"
+#include "amortix2/engine/savings_detail.h"
 
 namespace amortix2::calculators {
 

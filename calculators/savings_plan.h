@@ -5,9 +5,9 @@
 
 #include <cstdint>
 
-#include "automation/array.h"
-#include "automation/variant.h"
-#include "engine/records.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/variant.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2::calculators {
 

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "automation/conversion.h"
-#include "calculators/savings.h"
-#include "calculators/savings_plan.h"
-#include "engine/frequency.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/calculators/savings.h"
+#include "amortix2/calculators/savings_plan.h"
+#include "amortix2/engine/frequency.h"
 
 namespace amortix2::calculators {
 namespace {

@@ -1,7 +1,7 @@
-#include "automation/conversion.h"
-#include "calculators/savings.h"
-#include "calculators/savings_plan.h"
-#include "engine/rounding.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/calculators/savings.h"
+#include "amortix2/calculators/savings_plan.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2::calculators {
 namespace {

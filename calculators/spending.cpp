@@ -1,7 +1,7 @@
-#include "calculators/savings.h"
-#include "calculators/savings_plan.h"
-#include "calculators/work.h"
-#include "engine/frequency.h"
+#include "amortix2/calculators/savings.h"
+#include "amortix2/calculators/savings_plan.h"
+#include "amortix2/calculators/work.h"
+#include "amortix2/engine/frequency.h"
 
 namespace amortix2::calculators {
 namespace {

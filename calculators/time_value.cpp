@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "calculators/savings.h"
-#include "calculators/savings_plan.h"
-#include "calculators/work.h"
+#include "amortix2/calculators/savings.h"
+#include "amortix2/calculators/savings_plan.h"
+#include "amortix2/calculators/work.h"
 
 namespace amortix2::calculators {
 namespace {

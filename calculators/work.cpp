@@ -1,6 +1,6 @@
-#include "calculators/work.h"
+#include "amortix2/calculators/work.h"
 
-#include "engine/detail_arrays.h"
+#include "amortix2/engine/detail_arrays.h"
 
 namespace amortix2::calculators {
 

@@ -4,11 +4,11 @@
 
 #include <cstdint>
 
-#include "automation/array.h"
-#include "automation/conversion.h"
-#include "automation/date.h"
-#include "engine/amortix.h"
-#include "engine/records.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/engine/amortix.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2::calculators {
 

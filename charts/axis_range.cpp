@@ -1,9 +1,9 @@
-#include "charts/axis_range.h"
+#include "amortix2/charts/axis_range.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 // The ten intervals are shared out between the two sides of zero. Each side's length is raised until its step
 // is a round number, so every split wastes some of the axis; the split kept is the one whose data fill the

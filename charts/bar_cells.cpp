@@ -1,4 +1,4 @@
-#include "charts/bar_cells.h"
+#include "amortix2/charts/bar_cells.h"
 
 namespace amortix2 {
 namespace {

@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
-#include "charts/bar_chart_input.h"
-#include "charts/bar_geometry.h"
-#include "charts/markup.h"
+#include "amortix2/charts/bar_chart_input.h"
+#include "amortix2/charts/bar_geometry.h"
+#include "amortix2/charts/markup.h"
 
 namespace amortix2 {
 

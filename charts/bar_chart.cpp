@@ -1,4 +1,4 @@
-#include "charts/bar_chart.h"
+#include "amortix2/charts/bar_chart.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -7,13 +7,13 @@
 #include <string>
 #include <utility>
 
-#include "automation/array.h"
-#include "automation/conversion.h"
-#include "charts/bar_layout.h"
-#include "charts/chart_table.h"
-#include "charts/horizontal_plot.h"
-#include "charts/page_text.h"
-#include "charts/upright_plot.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/charts/bar_layout.h"
+#include "amortix2/charts/chart_table.h"
+#include "amortix2/charts/horizontal_plot.h"
+#include "amortix2/charts/page_text.h"
+#include "amortix2/charts/upright_plot.h"
 
 namespace amortix2 {
 namespace {

@@ -7,8 +7,8 @@
 
 #include <string>
 
-#include "automation/variant.h"
-#include "charts/bar_settings.h"
+#include "amortix2/automation/variant.h"
+#include "amortix2/charts/bar_settings.h"
 
 namespace amortix2 {
 

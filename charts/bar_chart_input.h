@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "automation/number_format.h"
-#include "charts/axis_range.h"
-#include "charts/bar_settings.h"
-#include "charts/chart_table.h"
+#include "amortix2/automation/number_format.h"
+#include "amortix2/charts/axis_range.h"
+#include "amortix2/charts/bar_settings.h"
+#include "amortix2/charts/chart_table.h"
 
 namespace amortix2 {
 

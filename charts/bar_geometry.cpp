@@ -1,10 +1,10 @@
-#include "charts/bar_geometry.h"
+#include "amortix2/charts/bar_geometry.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "automation/conversion.h"
-#include "automation/error.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/error.h"
 
 // Every upright style is a pattern of slices in which bars stand behind one another. Side by side, each bar
 // has a slice of its own. Stacked bars all stand in one slice, drawn from running totals: the last series in

@@ -8,8 +8,8 @@
 #include <optional>
 #include <vector>
 
-#include "charts/axis_range.h"
-#include "charts/bar_settings.h"
+#include "amortix2/charts/axis_range.h"
+#include "amortix2/charts/bar_settings.h"
 
 namespace amortix2 {
 

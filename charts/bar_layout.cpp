@@ -1,6 +1,6 @@
-#include "charts/bar_layout.h"
+#include "amortix2/charts/bar_layout.h"
 
-#include "charts/bar_cells.h"
+#include "amortix2/charts/bar_cells.h"
 
 namespace amortix2 {
 namespace {

@@ -5,9 +5,9 @@
 // quirks or transitional mode; under a standards-mode doctype the style rule `td img{display:block}` keeps
 // rows of one pixel as low as they are meant to be.
 
-#include "charts/bar_chart_input.h"
-#include "charts/markup.h"
-#include "charts/plot.h"
+#include "amortix2/charts/bar_chart_input.h"
+#include "amortix2/charts/markup.h"
+#include "amortix2/charts/plot.h"
 
 namespace amortix2 {
 

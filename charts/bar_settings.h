@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "charts/graph_size.h"
+#include "amortix2/charts/graph_size.h"
 
 namespace amortix2 {
 

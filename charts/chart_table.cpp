@@ -1,12 +1,12 @@
-#include "charts/chart_table.h"
+#include "amortix2/charts/chart_table.h"
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
-#include "automation/conversion.h"
-#include "charts/markup.h"
-#include "charts/page_text.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/charts/markup.h"
+#include "amortix2/charts/page_text.h"
 
 namespace amortix2 {
 

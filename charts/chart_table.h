@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "automation/array.h"
-#include "charts/axis_range.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/charts/axis_range.h"
 
 namespace amortix2 {
 

@@ -1,9 +1,9 @@
-#include "charts/gif_lzw.h"
+#include "amortix2/charts/gif_lzw.h"
 
 #include <algorithm>
 
-#include "charts/code_packer.h"
-#include "charts/lzw_dictionary.h"
+#include "amortix2/charts/code_packer.h"
+#include "amortix2/charts/lzw_dictionary.h"
 
 // LZW replaces each string of pixels that it has met before by a code. The encoder matches the longest known
 // string, emits its code, gives that string with the next pixel the next free code, and starts again from

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <span>
 
-#include "charts/byte_buffer.h"
+#include "amortix2/charts/byte_buffer.h"
 
 namespace amortix2 {
 

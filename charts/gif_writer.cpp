@@ -1,9 +1,9 @@
-#include "charts/gif_writer.h"
+#include "amortix2/charts/gif_writer.h"
 
 #include <string_view>
 
-#include "charts/byte_buffer.h"
-#include "charts/gif_lzw.h"
+#include "amortix2/charts/byte_buffer.h"
+#include "amortix2/charts/gif_lzw.h"
 
 // One function for each block, in the order of the file:
 //

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "charts/raster.h"
+#include "amortix2/charts/raster.h"
 
 namespace amortix2 {
 

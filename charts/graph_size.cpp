@@ -1,6 +1,6 @@
-#include "charts/graph_size.h"
+#include "amortix2/charts/graph_size.h"
 
-#include "automation/conversion.h"
+#include "amortix2/automation/conversion.h"
 
 namespace amortix2 {
 

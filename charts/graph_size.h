@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "automation/variant.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2 {
 

@@ -1,10 +1,10 @@
-#include "charts/horizontal_plot.h"
+#include "amortix2/charts/horizontal_plot.h"
 
 #include <algorithm>
 #include <string>
 #include <string_view>
 
-#include "charts/bar_cells.h"
+#include "amortix2/charts/bar_cells.h"
 
 // All bars and gaps are rows of one pile, so that every bar starts at the axis whatever its length.
 

@@ -3,8 +3,8 @@
 // Bars that lie one below the other and grow to the right from the axis. Their groups are the rows of the
 // table, labelled on the left; the values stand below the plot.
 
-#include "charts/bar_chart_input.h"
-#include "charts/plot.h"
+#include "amortix2/charts/bar_chart_input.h"
+#include "amortix2/charts/plot.h"
 
 namespace amortix2 {
 

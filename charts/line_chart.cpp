@@ -1,16 +1,16 @@
-#include "charts/line_chart.h"
+#include "amortix2/charts/line_chart.h"
 
 #include <cmath>
 #include <cstdint>
 #include <utility>
 
-#include "automation/array.h"
-#include "automation/conversion.h"
-#include "automation/error.h"
-#include "charts/axis_range.h"
-#include "charts/chart_table.h"
-#include "charts/gif_writer.h"
-#include "charts/thick_line.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/charts/axis_range.h"
+#include "amortix2/charts/chart_table.h"
+#include "amortix2/charts/gif_writer.h"
+#include "amortix2/charts/thick_line.h"
 
 // Values map to pixels linearly and are rounded half up. The axis top lies on row 0 and the axis bottom on
 // the row below the last, so that without negative values the zero line falls outside the picture.

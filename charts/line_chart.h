@@ -3,10 +3,10 @@
 // Line charts: a table of numbers drawn as lines over a grid into a raster, sent to a page as a GIF image.
 // Draws no text and no legend, and touches no file.
 
-#include "automation/page.h"
-#include "automation/variant.h"
-#include "charts/graph_size.h"
-#include "charts/raster.h"
+#include "amortix2/automation/page.h"
+#include "amortix2/automation/variant.h"
+#include "amortix2/charts/graph_size.h"
+#include "amortix2/charts/raster.h"
 
 namespace amortix2 {
 

@@ -11,8 +11,8 @@
 #include <string_view>
 #include <type_traits>
 
-#include "automation/array.h"
-#include "charts/tag_balance.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/charts/tag_balance.h"
 
 namespace amortix2 {
 

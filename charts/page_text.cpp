@@ -1,7 +1,7 @@
-#include "charts/page_text.h"
+#include "amortix2/charts/page_text.h"
 
-#include "automation/array.h"
-#include "automation/conversion.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/conversion.h"
 
 namespace amortix2 {
 

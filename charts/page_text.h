@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "automation/variant.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2 {
 

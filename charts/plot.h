@@ -3,8 +3,8 @@
 // The part of a bar chart that depends on the direction of its bars. The layout (charts/bar_layout.h) writes
 // everything else around it.
 
-#include "charts/bar_geometry.h"
-#include "charts/markup.h"
+#include "amortix2/charts/bar_geometry.h"
+#include "amortix2/charts/markup.h"
 
 namespace amortix2 {
 

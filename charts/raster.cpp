@@ -1,11 +1,11 @@
-#include "charts/raster.h"
+#include "amortix2/charts/raster.h"
 
 #include <algorithm>
 #include <new>
 
-#include "automation/array.h"
-#include "automation/conversion.h"
-#include "automation/error.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 namespace {

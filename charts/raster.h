@@ -8,7 +8,7 @@
 #include <span>
 #include <vector>
 
-#include "automation/variant.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2 {
 

@@ -1,4 +1,4 @@
-#include "charts/tag_balance.h"
+#include "amortix2/charts/tag_balance.h"
 
 namespace amortix2 {
 namespace {

@@ -1,4 +1,4 @@
-#include "charts/thick_line.h"
+#include "amortix2/charts/thick_line.h"
 
 #include <cstdlib>
 #include <utility>

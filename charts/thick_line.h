@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "charts/raster.h"
+#include "amortix2/charts/raster.h"
 
 namespace amortix2 {
 

@@ -1,10 +1,10 @@
-#include "charts/upright_plot.h"
+#include "amortix2/charts/upright_plot.h"
 
 #include <algorithm>
 #include <string>
 #include <utility>
 
-#include "charts/bar_cells.h"
+#include "amortix2/charts/bar_cells.h"
 
 // A row of the plot is a row of cells: for every group its slices, then one free pixel. Where bars hang below
 // zero the whole is written twice, once for each side of the zero line, and a slice without a bar on that

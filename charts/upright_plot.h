@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "charts/bar_chart_input.h"
-#include "charts/plot.h"
+#include "amortix2/charts/bar_chart_input.h"
+#include "amortix2/charts/plot.h"
 
 namespace amortix2 {
 

@@ -1,16 +1,18 @@
-# A layer is one folder and one library. Its headers are reachable as "folder/header.h" through a folder of links
-# that holds this layer alone, so that an include of a layer that is not linked does not build.
+# A layer is one folder and one library, amortix2_<folder>. Its headers are reachable as "amortix2/folder/header.h"
+# through a folder of links that holds this layer alone, so that an include of a layer that is not linked does not
+# build.
 #
 #   amortix2_layer(engine DEPENDS automation HEADERS a.h ... SOURCES a.cpp ...)
 function(amortix2_layer name)
   cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "DEPENDS;HEADERS;SOURCES")
   set(base ${CMAKE_BINARY_DIR}/layers/${name})
-  file(MAKE_DIRECTORY ${base})
-  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${base}/${name} SYMBOLIC)
+  file(MAKE_DIRECTORY ${base}/amortix2)
+  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${base}/amortix2/${name} SYMBOLIC)
 
-  add_library(${name} STATIC ${layer_SOURCES})
-  list(TRANSFORM layer_HEADERS PREPEND ${base}/${name}/)
-  target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${base} FILES ${layer_HEADERS})
-  target_link_libraries(${name} PUBLIC ${layer_DEPENDS})
-  set_target_properties(${name} PROPERTIES OUTPUT_NAME amortix2_${name})
+  set(target amortix2_${name})
+  add_library(${target} STATIC ${layer_SOURCES})
+  list(TRANSFORM layer_HEADERS PREPEND ${base}/amortix2/${name}/)
+  target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${base} FILES ${layer_HEADERS})
+  list(TRANSFORM layer_DEPENDS PREPEND amortix2_)
+  target_link_libraries(${target} PUBLIC ${layer_DEPENDS})
 endfunction()

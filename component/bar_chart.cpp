@@ -1,7 +1,7 @@
-#include "component/bar_chart.h"
+#include "amortix2/component/bar_chart.h"
 
-#include "automation/conversion.h"
-#include "charts/bar_chart.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/charts/bar_chart.h"
 
 namespace amortix2 {
 namespace {

@@ -4,8 +4,8 @@
 // differs from the defaults and asks for charts; every method delegates to charts/. A request that raises an
 // error leaves the settings and `vRes` as they were. One object serves one thread at a time.
 
-#include "automation/variant.h"
-#include "charts/bar_settings.h"
+#include "amortix2/automation/variant.h"
+#include "amortix2/charts/bar_settings.h"
 
 namespace amortix2 {
 

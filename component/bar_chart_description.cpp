@@ -1,6 +1,6 @@
-#include "component/bar_chart.h"
-#include "component/classes.h"
-#include "component/describe.h"
+#include "amortix2/component/bar_chart.h"
+#include "amortix2/component/classes.h"
+#include "amortix2/component/describe.h"
 
 namespace amortix2 {
 namespace {

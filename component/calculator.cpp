@@ -1,8 +1,8 @@
-#include "component/calculator.h"
+#include "amortix2/component/calculator.h"
 
-#include "engine/amortix.h"
-#include "engine/detail_arrays.h"
-#include "engine/savings_detail.h"
+#include "amortix2/engine/amortix.h"
+#include "amortix2/engine/detail_arrays.h"
+#include "amortix2/engine/savings_detail.h"
 
 namespace amortix2 {
 

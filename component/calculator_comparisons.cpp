@@ -1,5 +1,5 @@
-#include "calculators/comparisons.h"
-#include "component/calculator.h"
+#include "amortix2/calculators/comparisons.h"
+#include "amortix2/component/calculator.h"
 
 namespace amortix2 {
 

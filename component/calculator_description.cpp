@@ -1,7 +1,7 @@
-#include "component/classes.h"
-#include "component/comparison_descriptions.h"
-#include "component/loan_descriptions.h"
-#include "component/savings_descriptions.h"
+#include "amortix2/component/classes.h"
+#include "amortix2/component/comparison_descriptions.h"
+#include "amortix2/component/loan_descriptions.h"
+#include "amortix2/component/savings_descriptions.h"
 
 namespace amortix2 {
 namespace {

@@ -1,6 +1,6 @@
-#include "calculators/leases.h"
-#include "calculators/loans.h"
-#include "component/calculator.h"
+#include "amortix2/calculators/leases.h"
+#include "amortix2/calculators/loans.h"
+#include "amortix2/component/calculator.h"
 
 namespace amortix2 {
 

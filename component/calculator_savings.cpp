@@ -1,5 +1,5 @@
-#include "calculators/savings.h"
-#include "component/calculator.h"
+#include "amortix2/calculators/savings.h"
+#include "amortix2/component/calculator.h"
 
 namespace amortix2 {
 

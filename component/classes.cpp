@@ -1,4 +1,4 @@
-#include "component/classes.h"
+#include "amortix2/component/classes.h"
 
 #include <array>
 

@@ -2,7 +2,7 @@
 
 // The classes' descriptions, one .cpp file each; description.cpp lists them.
 
-#include "component/description.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2 {
 

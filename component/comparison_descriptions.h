@@ -2,8 +2,8 @@
 
 // The members of Calculator that set two loans side by side, described.
 
-#include "component/calculator.h"
-#include "component/describe.h"
+#include "amortix2/component/calculator.h"
+#include "amortix2/component/describe.h"
 
 namespace amortix2::describing {
 

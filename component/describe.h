@@ -19,10 +19,10 @@
 #include <type_traits>
 #include <utility>
 
-#include "component/described_calls.h"
-#include "component/described_types.h"
-#include "component/description.h"
-#include "component/names.h"
+#include "amortix2/component/described_calls.h"
+#include "amortix2/component/described_types.h"
+#include "amortix2/component/description.h"
+#include "amortix2/component/names.h"
 
 namespace amortix2 {
 

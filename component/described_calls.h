@@ -8,8 +8,8 @@
 #include <type_traits>
 #include <utility>
 
-#include "automation/error.h"
-#include "component/described_types.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/component/described_types.h"
 
 namespace amortix2::describing {
 

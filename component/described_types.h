@@ -9,10 +9,10 @@
 #include <type_traits>
 #include <vector>
 
-#include "automation/conversion.h"
-#include "automation/page.h"
-#include "component/description.h"
-#include "engine/records.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/page.h"
+#include "amortix2/component/description.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

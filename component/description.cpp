@@ -1,11 +1,11 @@
-#include "component/description.h"
+#include "amortix2/component/description.h"
 
 #include <array>
 
-#include "component/classes.h"
-#include "component/describe.h"
-#include "component/gif_record_descriptions.h"
-#include "component/record_descriptions.h"
+#include "amortix2/component/classes.h"
+#include "amortix2/component/describe.h"
+#include "amortix2/component/gif_record_descriptions.h"
+#include "amortix2/component/record_descriptions.h"
 
 namespace amortix2 {
 namespace {

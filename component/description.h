@@ -10,9 +10,9 @@
 #include <span>
 #include <string_view>
 
-#include "automation/array.h"
-#include "automation/date.h"
-#include "automation/variant.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2 {
 

@@ -1,11 +1,11 @@
-#include "component/gif_chart.h"
+#include "amortix2/component/gif_chart.h"
 
 #include <utility>
 
-#include "automation/conversion.h"
-#include "automation/whole_file.h"
-#include "charts/gif_writer.h"
-#include "charts/line_chart.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/whole_file.h"
+#include "amortix2/charts/gif_writer.h"
+#include "amortix2/charts/line_chart.h"
 
 namespace amortix2 {
 

@@ -7,9 +7,9 @@
 #include <memory>
 #include <string>
 
-#include "automation/page.h"
-#include "automation/variant.h"
-#include "charts/graph_size.h"
+#include "amortix2/automation/page.h"
+#include "amortix2/automation/variant.h"
+#include "amortix2/charts/graph_size.h"
 
 namespace amortix2 {
 

@@ -1,7 +1,7 @@
-#include "component/classes.h"
-#include "component/describe.h"
-#include "component/gif_chart.h"
-#include "component/gif_record_descriptions.h"
+#include "amortix2/component/classes.h"
+#include "amortix2/component/describe.h"
+#include "amortix2/component/gif_chart.h"
+#include "amortix2/component/gif_record_descriptions.h"
 
 namespace amortix2 {
 namespace {

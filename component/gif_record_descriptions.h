@@ -2,8 +2,8 @@
 
 // The records of the GIF format, described.
 
-#include "charts/gif_writer.h"
-#include "component/describe.h"
+#include "amortix2/charts/gif_writer.h"
+#include "amortix2/component/describe.h"
 
 namespace amortix2 {
 

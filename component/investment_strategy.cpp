@@ -1,6 +1,6 @@
-#include "component/investment_strategy.h"
+#include "amortix2/component/investment_strategy.h"
 
-#include "strategy/asset_allocation.h"
+#include "amortix2/strategy/asset_allocation.h"
 
 namespace amortix2 {
 

@@ -3,7 +3,7 @@
 // The automation class InvestmentStrategy: from the answers to a risk questionnaire to an investment profile
 // and the split of an amount over asset classes. Keeps nothing between calls.
 
-#include "automation/variant.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2 {
 

@@ -1,6 +1,6 @@
-#include "component/classes.h"
-#include "component/describe.h"
-#include "component/investment_strategy.h"
+#include "amortix2/component/classes.h"
+#include "amortix2/component/describe.h"
+#include "amortix2/component/investment_strategy.h"
 
 namespace amortix2 {
 namespace {

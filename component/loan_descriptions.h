@@ -2,8 +2,8 @@
 
 // The members of Calculator that work on records and on one loan or lease, described.
 
-#include "component/calculator.h"
-#include "component/record_descriptions.h"
+#include "amortix2/component/calculator.h"
+#include "amortix2/component/record_descriptions.h"
 
 namespace amortix2::describing {
 

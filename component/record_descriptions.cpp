@@ -1,4 +1,4 @@
-#include "component/record_descriptions.h"
+#include "amortix2/component/record_descriptions.h"
 
 #include <array>
 

@@ -2,8 +2,8 @@
 
 // The records and enumerations of the public interface, described.
 
-#include "component/describe.h"
-#include "engine/records.h"
+#include "amortix2/component/describe.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

@@ -3,7 +3,7 @@
 // An adjustable loan's annual rate: a first change at one payment, later changes at a fixed interval after
 // it, all kept between a floor and a cap.
 
-#include "engine/records.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

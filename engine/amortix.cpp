@@ -1,8 +1,8 @@
-#include "engine/amortix.h"
+#include "amortix2/engine/amortix.h"
 
-#include "engine/loan_solver.h"
-#include "engine/qualification.h"
-#include "engine/savings_solver.h"
+#include "amortix2/engine/loan_solver.h"
+#include "amortix2/engine/qualification.h"
+#include "amortix2/engine/savings_solver.h"
 
 namespace amortix2 {
 namespace {

@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-#include "automation/array.h"
-#include "engine/records.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

@@ -1,13 +1,13 @@
-#include "engine/biweekly_schedule.h"
+#include "amortix2/engine/biweekly_schedule.h"
 
 #include <limits>
 
-#include "automation/conversion.h"
-#include "automation/error.h"
-#include "engine/elementary.h"
-#include "engine/frequency.h"
-#include "engine/payment_factors.h"
-#include "engine/schedule_parts.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/engine/elementary.h"
+#include "amortix2/engine/frequency.h"
+#include "amortix2/engine/payment_factors.h"
+#include "amortix2/engine/schedule_parts.h"
 
 namespace amortix2 {
 namespace {

@@ -3,7 +3,7 @@
 // The schedule of a loan that is paid every two weeks: monthly payments until the switch date, then half a
 // payment on that date and every 14 days after it.
 
-#include "engine/records.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

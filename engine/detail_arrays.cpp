@@ -1,10 +1,10 @@
-#include "engine/detail_arrays.h"
+#include "amortix2/engine/detail_arrays.h"
 
 #include <span>
 
-#include "automation/calendar_walk.h"
-#include "automation/error.h"
-#include "engine/rounding.h"
+#include "amortix2/automation/calendar_walk.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2 {
 

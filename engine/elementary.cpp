@@ -1,4 +1,4 @@
-#include "engine/elementary.h"
+#include "amortix2/engine/elementary.h"
 
 #include <array>
 #include <cmath>

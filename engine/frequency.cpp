@@ -1,10 +1,10 @@
-#include "engine/frequency.h"
+#include "amortix2/engine/frequency.h"
 
 #include <limits>
 
-#include "automation/error.h"
-#include "engine/elementary.h"
-#include "engine/rounding.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/engine/elementary.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2 {
 namespace {

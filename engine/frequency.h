@@ -6,8 +6,8 @@
 #include <array>
 #include <cstdint>
 
-#include "automation/date.h"
-#include "engine/records.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

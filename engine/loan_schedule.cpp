@@ -2,19 +2,19 @@
 // leaves B = T - P, and the next line starts from there. Nothing looks back at the closed form, so the cents
 // that rounding leaves end up in the last line's balance.
 
-#include "engine/loan_schedule.h"
+#include "amortix2/engine/loan_schedule.h"
 
 #include <algorithm>
 #include <limits>
 
-#include "automation/calendar_walk.h"
-#include "automation/conversion.h"
-#include "automation/error.h"
-#include "engine/adjustable_rate.h"
-#include "engine/biweekly_schedule.h"
-#include "engine/frequency.h"
-#include "engine/payment_factors.h"
-#include "engine/schedule_parts.h"
+#include "amortix2/automation/calendar_walk.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/engine/adjustable_rate.h"
+#include "amortix2/engine/biweekly_schedule.h"
+#include "amortix2/engine/frequency.h"
+#include "amortix2/engine/payment_factors.h"
+#include "amortix2/engine/schedule_parts.h"
 
 namespace amortix2 {
 namespace {

@@ -9,13 +9,13 @@
 // hundred trials without coming closer, where a search that works needs a dozen in all, end it with the
 // closest.
 
-#include "engine/loan_solver.h"
+#include "amortix2/engine/loan_solver.h"
 
 #include <cmath>
 
-#include "automation/error.h"
-#include "engine/loan_schedule.h"
-#include "engine/rounding.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/engine/loan_schedule.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2 {
 namespace {

@@ -3,8 +3,8 @@
 // Finds the quantity of a loan that holds UNKNOWNLOANVALUE, then schedules the loan. Amounts, payments and
 // residuals have a closed form; the rate is searched for; the term is found while the schedule is built.
 
-#include "engine/payment_factors.h"
-#include "engine/records.h"
+#include "amortix2/engine/payment_factors.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

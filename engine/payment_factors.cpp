@@ -1,8 +1,8 @@
-#include "engine/payment_factors.h"
+#include "amortix2/engine/payment_factors.h"
 
-#include "automation/conversion.h"
-#include "engine/elementary.h"
-#include "engine/rounding.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/engine/elementary.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2 {
 

@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "engine/records.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

@@ -1,10 +1,10 @@
-#include "engine/qualification.h"
+#include "amortix2/engine/qualification.h"
 
 #include <algorithm>
 
-#include "engine/loan_solver.h"
-#include "engine/payment_factors.h"
-#include "engine/rounding.h"
+#include "amortix2/engine/loan_solver.h"
+#include "amortix2/engine/payment_factors.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2 {
 

@@ -2,7 +2,7 @@
 
 // How large a loan a household can carry.
 
-#include "engine/records.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "automation/array.h"
-#include "automation/date.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/date.h"
 
 namespace amortix2 {
 

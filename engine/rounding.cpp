@@ -1,4 +1,4 @@
-#include "engine/rounding.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2::rounding {
 

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 

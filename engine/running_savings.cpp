@@ -1,6 +1,6 @@
-#include "engine/running_savings.h"
+#include "amortix2/engine/running_savings.h"
 
-#include "engine/frequency.h"
+#include "amortix2/engine/frequency.h"
 
 namespace amortix2 {
 

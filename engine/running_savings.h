@@ -7,9 +7,9 @@
 #include <array>
 #include <cstdint>
 
-#include "engine/elementary.h"
-#include "engine/records.h"
-#include "engine/rounding.h"
+#include "amortix2/engine/elementary.h"
+#include "amortix2/engine/records.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2 {
 

@@ -1,10 +1,10 @@
-#include "engine/savings_detail.h"
+#include "amortix2/engine/savings_detail.h"
 
 #include <span>
 
-#include "automation/calendar_walk.h"
-#include "automation/error.h"
-#include "engine/rounding.h"
+#include "amortix2/automation/calendar_walk.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2 {
 

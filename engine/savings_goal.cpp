@@ -1,10 +1,10 @@
-#include "engine/savings_goal.h"
+#include "amortix2/engine/savings_goal.h"
 
 #include <cmath>
 #include <limits>
 
-#include "engine/rounding.h"
-#include "engine/running_savings.h"
+#include "amortix2/engine/rounding.h"
+#include "amortix2/engine/running_savings.h"
 
 namespace amortix2 {
 namespace {

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "engine/records.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

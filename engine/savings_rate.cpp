@@ -14,17 +14,17 @@
 // size, gives way to the midpoint. Rounding makes B a staircase on which secants can creep, so that from some
 // round on only midpoints are taken.
 
-#include "engine/savings_rate.h"
+#include "amortix2/engine/savings_rate.h"
 
 #include <cmath>
 #include <limits>
 #include <vector>
 
-#include "engine/elementary.h"
-#include "engine/frequency.h"
-#include "engine/rounding.h"
-#include "engine/running_savings.h"
-#include "engine/savings_schedule.h"
+#include "amortix2/engine/elementary.h"
+#include "amortix2/engine/frequency.h"
+#include "amortix2/engine/rounding.h"
+#include "amortix2/engine/running_savings.h"
+#include "amortix2/engine/savings_schedule.h"
 
 namespace amortix2 {
 namespace {

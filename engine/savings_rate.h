@@ -3,7 +3,7 @@
 // The rate at which a savings plan reaches its goal. The goal, `endingBalance`, is met when the balance
 // agrees with it to the cent.
 
-#include "engine/records.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

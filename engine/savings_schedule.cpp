@@ -1,15 +1,15 @@
 // A plan is laid out first: how many lines, how many days are left over, which goal ends it. Then one running
 // balance writes the lines in turn. Everything is computed aside and put into the record at the end.
 
-#include "engine/savings_schedule.h"
+#include "amortix2/engine/savings_schedule.h"
 
 #include <optional>
 #include <utility>
 
-#include "automation/conversion.h"
-#include "engine/rounding.h"
-#include "engine/running_savings.h"
-#include "engine/savings_goal.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/engine/rounding.h"
+#include "amortix2/engine/running_savings.h"
+#include "amortix2/engine/savings_goal.h"
 
 namespace amortix2 {
 namespace {

@@ -14,8 +14,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "engine/frequency.h"
-#include "engine/records.h"
+#include "amortix2/engine/frequency.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

@@ -1,11 +1,11 @@
-#include "engine/savings_solver.h"
+#include "amortix2/engine/savings_solver.h"
 
-#include "engine/elementary.h"
-#include "engine/frequency.h"
-#include "engine/rounding.h"
-#include "engine/running_savings.h"
-#include "engine/savings_rate.h"
-#include "engine/savings_schedule.h"
+#include "amortix2/engine/elementary.h"
+#include "amortix2/engine/frequency.h"
+#include "amortix2/engine/rounding.h"
+#include "amortix2/engine/running_savings.h"
+#include "amortix2/engine/savings_rate.h"
+#include "amortix2/engine/savings_schedule.h"
 
 namespace amortix2 {
 namespace {

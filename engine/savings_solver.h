@@ -4,8 +4,8 @@
 // deposits have a closed form, the rate is searched for (savings_rate.h), an unknown end is found while the
 // schedule is built (savings_schedule.h).
 
-#include "automation/array.h"
-#include "engine/records.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

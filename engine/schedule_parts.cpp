@@ -1,4 +1,4 @@
-#include "engine/schedule_parts.h"
+#include "amortix2/engine/schedule_parts.h"
 
 namespace amortix2 {
 

@@ -3,8 +3,8 @@
 // What monthly and bi-weekly schedules have in common: the opening line, the cut of a last payment, and the
 // totals with their present values.
 
-#include "engine/records.h"
-#include "engine/rounding.h"
+#include "amortix2/engine/records.h"
+#include "amortix2/engine/rounding.h"
 
 namespace amortix2 {
 

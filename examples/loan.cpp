@@ -2,9 +2,9 @@
 
 #include <cstdio>
 
-#include "automation/array.h"
-#include "common/system_clock.h"
-#include "component/calculator.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/common/system_clock.h"
+#include "amortix2/component/calculator.h"
 
 using namespace amortix2;
 

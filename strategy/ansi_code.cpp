@@ -1,4 +1,4 @@
-#include "strategy/ansi_code.h"
+#include "amortix2/strategy/ansi_code.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "strategy/asset_allocation.h"
+#include "amortix2/strategy/asset_allocation.h"
 
 #include <algorithm>
 #include <array>
@@ -9,10 +9,10 @@
 #include <string_view>
 #include <utility>
 
-#include "automation/array.h"
-#include "automation/conversion.h"
-#include "automation/error.h"
-#include "strategy/ansi_code.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/strategy/ansi_code.h"
 
 namespace amortix2 {
 namespace {

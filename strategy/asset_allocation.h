@@ -4,7 +4,7 @@
 // the most cautious, to 5, the most aggressive, and the profile splits an amount over three asset classes.
 // Keeps nothing between calls.
 
-#include "automation/variant.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2 {
 

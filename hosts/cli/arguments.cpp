@@ -1,8 +1,8 @@
-#include "cli/arguments.h"
+#include "amortix2/cli/arguments.h"
 
-#include "cli/iso_date.h"
-#include "cli/json_text.h"
-#include "cli/request_error.h"
+#include "amortix2/cli/iso_date.h"
+#include "amortix2/cli/json_text.h"
+#include "amortix2/cli/request_error.h"
 
 namespace amortix2::cli {
 

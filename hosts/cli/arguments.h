@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/json.h"
+#include "amortix2/cli/json.h"
 
 namespace amortix2::cli {
 

@@ -1,4 +1,4 @@
-#include "cli/base64.h"
+#include "amortix2/cli/base64.h"
 
 namespace amortix2::cli {
 

@@ -1,8 +1,8 @@
-#include "cli/batch.h"
+#include "amortix2/cli/batch.h"
 
-#include "cli/line_reader.h"
-#include "cli/output.h"
-#include "cli/reply.h"
+#include "amortix2/cli/line_reader.h"
+#include "amortix2/cli/output.h"
+#include "amortix2/cli/reply.h"
 
 namespace amortix2::cli {
 

@@ -2,8 +2,8 @@
 
 // Requests line by line, each answered by one line, in the same order.
 
-#include "automation/date.h"
-#include "cli/variant_to_json.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/cli/variant_to_json.h"
 
 namespace amortix2::cli {
 

@@ -1,11 +1,11 @@
-#include "cli/call.h"
+#include "amortix2/cli/call.h"
 
 #include <algorithm>
 #include <string>
 #include <utility>
 
-#include "cli/request_error.h"
-#include "cli/typed_json.h"
+#include "amortix2/cli/request_error.h"
+#include "amortix2/cli/typed_json.h"
 
 namespace amortix2::cli {
 namespace {

@@ -8,12 +8,12 @@
 #include <optional>
 #include <vector>
 
-#include "automation/date.h"
-#include "cli/failure.h"
-#include "cli/names.h"
-#include "cli/page.h"
-#include "cli/request.h"
-#include "component/description.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/cli/failure.h"
+#include "amortix2/cli/names.h"
+#include "amortix2/cli/page.h"
+#include "amortix2/cli/request.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2::cli {
 

@@ -1,8 +1,8 @@
-#include "cli/currency_text.h"
+#include "amortix2/cli/currency_text.h"
 
 #include <charconv>
 
-#include "automation/text_scanner.h"
+#include "amortix2/automation/text_scanner.h"
 
 namespace amortix2::cli {
 namespace {

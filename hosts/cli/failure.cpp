@@ -1,10 +1,10 @@
-#include "cli/failure.h"
+#include "amortix2/cli/failure.h"
 
 #include <new>
 #include <stdexcept>
 #include <utility>
 
-#include "cli/request_error.h"
+#include "amortix2/cli/request_error.h"
 
 namespace amortix2::cli {
 namespace {

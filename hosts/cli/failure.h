@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2::cli {
 

@@ -1,6 +1,6 @@
-#include "cli/iso_date.h"
+#include "amortix2/cli/iso_date.h"
 
-#include "automation/text_scanner.h"
+#include "amortix2/automation/text_scanner.h"
 
 namespace amortix2::cli {
 namespace {

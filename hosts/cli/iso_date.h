@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "automation/date.h"
+#include "amortix2/automation/date.h"
 
 namespace amortix2::cli {
 

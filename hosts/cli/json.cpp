@@ -1,9 +1,9 @@
-#include "cli/json.h"
+#include "amortix2/cli/json.h"
 
 #include <limits>
 #include <nlohmann/json.hpp>
 
-#include "cli/request_error.h"
+#include "amortix2/cli/request_error.h"
 
 namespace amortix2::cli {
 namespace {

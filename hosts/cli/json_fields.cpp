@@ -1,8 +1,8 @@
-#include "cli/json_fields.h"
+#include "amortix2/cli/json_fields.h"
 
 #include <algorithm>
 
-#include "cli/request_error.h"
+#include "amortix2/cli/request_error.h"
 
 namespace amortix2::cli {
 

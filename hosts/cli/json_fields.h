@@ -7,7 +7,7 @@
 #include <span>
 #include <string_view>
 
-#include "cli/json.h"
+#include "amortix2/cli/json.h"
 
 namespace amortix2::cli {
 

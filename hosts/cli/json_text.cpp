@@ -1,4 +1,4 @@
-#include "cli/json_text.h"
+#include "amortix2/cli/json_text.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2::cli {
 namespace {

@@ -1,15 +1,15 @@
-#include "cli/json_to_variant.h"
+#include "amortix2/cli/json_to_variant.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
-#include "cli/currency_text.h"
-#include "cli/iso_date.h"
-#include "cli/json_fields.h"
-#include "cli/json_text.h"
-#include "cli/request_error.h"
-#include "cli/variant_to_json.h"
+#include "amortix2/cli/currency_text.h"
+#include "amortix2/cli/iso_date.h"
+#include "amortix2/cli/json_fields.h"
+#include "amortix2/cli/json_text.h"
+#include "amortix2/cli/request_error.h"
+#include "amortix2/cli/variant_to_json.h"
 
 namespace amortix2::cli {
 namespace {

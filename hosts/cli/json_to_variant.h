@@ -6,9 +6,9 @@
 // arrays two-dimensional;
 // {"lower": [1], "values": [...]} is an array with other lower bounds, as many as it has dimensions.
 
-#include "automation/array.h"
-#include "automation/variant.h"
-#include "cli/json.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/variant.h"
+#include "amortix2/cli/json.h"
 
 namespace amortix2::cli {
 

@@ -1,10 +1,10 @@
-#include "cli/listing.h"
+#include "amortix2/cli/listing.h"
 
 #include <algorithm>
 #include <vector>
 
-#include "cli/names.h"
-#include "cli/text_table.h"
+#include "amortix2/cli/names.h"
+#include "amortix2/cli/text_table.h"
 
 namespace amortix2::cli {
 namespace {

@@ -9,20 +9,20 @@
 #include <memory>
 #include <system_error>
 
-#include "automation/error.h"
-#include "automation/whole_file.h"
-#include "cli/arguments.h"
-#include "cli/batch.h"
-#include "cli/call.h"
-#include "cli/listing.h"
-#include "cli/names.h"
-#include "cli/options.h"
-#include "cli/output.h"
-#include "cli/readable.h"
-#include "cli/reply.h"
-#include "cli/request.h"
-#include "cli/request_error.h"
-#include "common/system_clock.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/automation/whole_file.h"
+#include "amortix2/cli/arguments.h"
+#include "amortix2/cli/batch.h"
+#include "amortix2/cli/call.h"
+#include "amortix2/cli/listing.h"
+#include "amortix2/cli/names.h"
+#include "amortix2/cli/options.h"
+#include "amortix2/cli/output.h"
+#include "amortix2/cli/readable.h"
+#include "amortix2/cli/reply.h"
+#include "amortix2/cli/request.h"
+#include "amortix2/cli/request_error.h"
+#include "amortix2/common/system_clock.h"
 
 namespace amortix2::cli {
 namespace {

@@ -1,11 +1,11 @@
-#include "cli/names.h"
+#include "amortix2/cli/names.h"
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
-#include "automation/text_scanner.h"
-#include "cli/request_error.h"
+#include "amortix2/automation/text_scanner.h"
+#include "amortix2/cli/request_error.h"
 
 namespace amortix2::cli {
 namespace {

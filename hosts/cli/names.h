@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "component/description.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2::cli {
 

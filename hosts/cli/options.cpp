@@ -1,8 +1,8 @@
-#include "cli/options.h"
+#include "amortix2/cli/options.h"
 
 #include <CLI/CLI.hpp>
 
-#include "cli/iso_date.h"
+#include "amortix2/cli/iso_date.h"
 
 namespace amortix2::cli {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "automation/date.h"
+#include "amortix2/automation/date.h"
 
 namespace amortix2::cli {
 

@@ -1,4 +1,4 @@
-#include "cli/output.h"
+#include "amortix2/cli/output.h"
 
 #include <unistd.h>
 

@@ -1,4 +1,4 @@
-#include "cli/page.h"
+#include "amortix2/cli/page.h"
 
 namespace amortix2::cli {
 namespace {

@@ -8,8 +8,8 @@
 #include <span>
 #include <vector>
 
-#include "automation/page.h"
-#include "component/description.h"
+#include "amortix2/automation/page.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2::cli {
 

@@ -1,12 +1,12 @@
-#include "cli/readable.h"
+#include "amortix2/cli/readable.h"
 
 #include <algorithm>
 
-#include "automation/array.h"
-#include "automation/conversion.h"
-#include "cli/text_table.h"
-#include "cli/typed_json.h"
-#include "cli/value_lines.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/cli/text_table.h"
+#include "amortix2/cli/typed_json.h"
+#include "amortix2/cli/value_lines.h"
 
 namespace amortix2::cli {
 namespace {

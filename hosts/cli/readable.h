@@ -5,8 +5,8 @@
 
 #include <string>
 
-#include "cli/call.h"
-#include "cli/request.h"
+#include "amortix2/cli/call.h"
+#include "amortix2/cli/request.h"
 
 namespace amortix2::cli {
 

@@ -1,10 +1,10 @@
-#include "cli/reply.h"
+#include "amortix2/cli/reply.h"
 
-#include "cli/base64.h"
-#include "cli/json_text.h"
-#include "cli/request.h"
-#include "cli/request_error.h"
-#include "cli/typed_json.h"
+#include "amortix2/cli/base64.h"
+#include "amortix2/cli/json_text.h"
+#include "amortix2/cli/request.h"
+#include "amortix2/cli/request_error.h"
+#include "amortix2/cli/typed_json.h"
 
 namespace amortix2::cli {
 namespace {

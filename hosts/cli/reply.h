@@ -7,10 +7,10 @@
 #include <string>
 #include <string_view>
 
-#include "automation/date.h"
-#include "cli/call.h"
-#include "cli/json.h"
-#include "cli/variant_to_json.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/cli/call.h"
+#include "amortix2/cli/json.h"
+#include "amortix2/cli/variant_to_json.h"
 
 namespace amortix2::cli {
 

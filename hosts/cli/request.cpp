@@ -1,10 +1,10 @@
-#include "cli/request.h"
+#include "amortix2/cli/request.h"
 
 #include <algorithm>
 #include <string>
 
-#include "cli/json_fields.h"
-#include "cli/request_error.h"
+#include "amortix2/cli/json_fields.h"
+#include "amortix2/cli/request_error.h"
 
 namespace amortix2::cli {
 namespace {

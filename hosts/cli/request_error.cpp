@@ -1,4 +1,4 @@
-#include "cli/request_error.h"
+#include "amortix2/cli/request_error.h"
 
 namespace amortix2::cli {
 

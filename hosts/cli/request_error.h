@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2::cli {
 

@@ -1,10 +1,10 @@
-#include "cli/text_table.h"
+#include "amortix2/cli/text_table.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "cli/json_text.h"
-#include "cli/variant_to_json.h"
+#include "amortix2/cli/json_text.h"
+#include "amortix2/cli/variant_to_json.h"
 
 namespace amortix2::cli {
 namespace {

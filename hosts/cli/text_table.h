@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "automation/array.h"
-#include "automation/variant.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2::cli {
 

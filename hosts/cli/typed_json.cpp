@@ -1,14 +1,14 @@
-#include "cli/typed_json.h"
+#include "amortix2/cli/typed_json.h"
 
 #include <vector>
 
-#include "automation/array.h"
-#include "cli/iso_date.h"
-#include "cli/json_fields.h"
-#include "cli/json_text.h"
-#include "cli/json_to_variant.h"
-#include "cli/names.h"
-#include "cli/request_error.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/cli/iso_date.h"
+#include "amortix2/cli/json_fields.h"
+#include "amortix2/cli/json_text.h"
+#include "amortix2/cli/json_to_variant.h"
+#include "amortix2/cli/names.h"
+#include "amortix2/cli/request_error.h"
 
 namespace amortix2::cli {
 namespace {

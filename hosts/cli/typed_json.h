@@ -7,9 +7,9 @@
 
 #include <string>
 
-#include "cli/json.h"
-#include "cli/variant_to_json.h"
-#include "component/description.h"
+#include "amortix2/cli/json.h"
+#include "amortix2/cli/variant_to_json.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2::cli {
 

@@ -1,8 +1,8 @@
-#include "cli/value_lines.h"
+#include "amortix2/cli/value_lines.h"
 
 #include <algorithm>
 
-#include "cli/text_table.h"
+#include "amortix2/cli/text_table.h"
 
 namespace amortix2::cli {
 namespace {

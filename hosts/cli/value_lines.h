@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "automation/variant.h"
-#include "component/description.h"
+#include "amortix2/automation/variant.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2::cli {
 

@@ -1,13 +1,13 @@
-#include "cli/variant_to_json.h"
+#include "amortix2/cli/variant_to_json.h"
 
 #include <array>
 #include <cstdlib>
 
-#include "automation/array.h"
-#include "automation/date.h"
-#include "cli/currency_text.h"
-#include "cli/json_text.h"
-#include "component/description.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/cli/currency_text.h"
+#include "amortix2/cli/json_text.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2::cli {
 namespace {

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "automation/variant.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2::cli {
 

@@ -1,10 +1,10 @@
-#include "com/automation_object.h"
+#include "amortix2/com/automation_object.h"
 
 #include <algorithm>
 
-#include "com/guid.h"
-#include "com/identity.h"
-#include "com/text.h"
+#include "amortix2/com/guid.h"
+#include "amortix2/com/identity.h"
+#include "amortix2/com/text.h"
 
 namespace amortix2 {
 namespace {

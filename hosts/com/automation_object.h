@@ -8,13 +8,13 @@
 
 #include <atomic>
 
-#include "com/call.h"
-#include "com/com_pointer.h"
-#include "com/failure.h"
-#include "com/module.h"
-#include "com/platform.h"
-#include "common/system_clock.h"
-#include "component/description.h"
+#include "amortix2/com/call.h"
+#include "amortix2/com/com_pointer.h"
+#include "amortix2/com/failure.h"
+#include "amortix2/com/module.h"
+#include "amortix2/com/platform.h"
+#include "amortix2/common/system_clock.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2 {
 

@@ -1,7 +1,7 @@
-#include "com/call.h"
+#include "amortix2/com/call.h"
 
-#include "com/page_context.h"
-#include "com/values.h"
+#include "amortix2/com/page_context.h"
+#include "amortix2/com/values.h"
 
 namespace amortix2 {
 namespace {

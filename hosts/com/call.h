@@ -7,11 +7,11 @@
 #include <optional>
 #include <vector>
 
-#include "com/changes.h"
-#include "com/platform.h"
-#include "com/records.h"
-#include "com/type_library.h"
-#include "component/description.h"
+#include "amortix2/com/changes.h"
+#include "amortix2/com/platform.h"
+#include "amortix2/com/records.h"
+#include "amortix2/com/type_library.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2 {
 

@@ -1,9 +1,9 @@
-#include "com/changes.h"
+#include "amortix2/com/changes.h"
 
-#include "automation/array.h"
-#include "com/column_order.h"
-#include "com/records.h"
-#include "com/values.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/com/column_order.h"
+#include "amortix2/com/records.h"
+#include "amortix2/com/values.h"
 
 namespace amortix2 {
 namespace {

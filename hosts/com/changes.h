@@ -6,10 +6,10 @@
 
 #include <vector>
 
-#include "automation/variant.h"
-#include "com/owned_variant.h"
-#include "com/place.h"
-#include "com/type_library.h"
+#include "amortix2/automation/variant.h"
+#include "amortix2/com/owned_variant.h"
+#include "amortix2/com/place.h"
+#include "amortix2/com/type_library.h"
 
 namespace amortix2 {
 

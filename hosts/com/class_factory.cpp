@@ -1,9 +1,9 @@
-#include "com/class_factory.h"
+#include "amortix2/com/class_factory.h"
 
-#include "com/automation_object.h"
-#include "com/failure.h"
-#include "com/guid.h"
-#include "com/identity.h"
+#include "amortix2/com/automation_object.h"
+#include "amortix2/com/failure.h"
+#include "amortix2/com/guid.h"
+#include "amortix2/com/identity.h"
 
 namespace amortix2 {
 

@@ -4,9 +4,9 @@
 
 #include <atomic>
 
-#include "com/module.h"
-#include "com/platform.h"
-#include "component/description.h"
+#include "amortix2/com/module.h"
+#include "amortix2/com/platform.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2 {
 

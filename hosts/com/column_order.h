@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-#include "automation/array.h"
+#include "amortix2/automation/array.h"
 
 namespace amortix2 {
 

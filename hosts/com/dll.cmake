@@ -43,7 +43,7 @@ add_library(com_binding STATIC
   type_library.cpp
 )
 target_compile_definitions(com_binding PUBLIC UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
-target_link_libraries(com_binding PUBLIC com common ole32 oleaut32 advapi32 uuid)
+target_link_libraries(com_binding PUBLIC amortix2_com amortix2_common ole32 oleaut32 advapi32 uuid)
 
 add_library(amortix2_dll SHARED exports.cpp Amortix2.def ${CMAKE_CURRENT_BINARY_DIR}/resources.rc)
 set_target_properties(amortix2_dll PROPERTIES OUTPUT_NAME Amortix2 PREFIX "")

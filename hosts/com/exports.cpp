@@ -3,11 +3,11 @@
 #include <cwchar>
 #include <new>
 
-#include "com/class_factory.h"
-#include "com/failure.h"
-#include "com/module.h"
-#include "com/platform.h"
-#include "com/registration.h"
+#include "amortix2/com/class_factory.h"
+#include "amortix2/com/failure.h"
+#include "amortix2/com/module.h"
+#include "amortix2/com/platform.h"
+#include "amortix2/com/registration.h"
 
 using amortix2::Guarded;
 using amortix2::RegistrationScope;

@@ -1,9 +1,9 @@
-#include "com/failure.h"
+#include "amortix2/com/failure.h"
 
 #include <new>
 
-#include "com/com_pointer.h"
-#include "com/text.h"
+#include "amortix2/com/com_pointer.h"
+#include "amortix2/com/text.h"
 
 namespace amortix2 {
 namespace {

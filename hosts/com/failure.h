@@ -8,8 +8,8 @@
 #include <exception>
 #include <string>
 
-#include "automation/error.h"
-#include "com/platform.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/com/platform.h"
 
 namespace amortix2 {
 

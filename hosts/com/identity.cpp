@@ -1,4 +1,4 @@
-#include "com/identity.h"
+#include "amortix2/com/identity.h"
 
 #include <algorithm>
 #include <array>

@@ -1,10 +1,10 @@
-#include "com/interface_definition.h"
+#include "amortix2/com/interface_definition.h"
 
 #include <sstream>
 #include <stdexcept>
 
-#include "com/identity.h"
-#include "component/description.h"
+#include "amortix2/com/identity.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2 {
 namespace {

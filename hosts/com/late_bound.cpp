@@ -1,4 +1,4 @@
-#include "com/late_bound.h"
+#include "amortix2/com/late_bound.h"
 
 #include <dispex.h>
 
@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "com/com_pointer.h"
-#include "com/failure.h"
-#include "com/text.h"
+#include "amortix2/com/com_pointer.h"
+#include "amortix2/com/failure.h"
+#include "amortix2/com/text.h"
 
 namespace amortix2 {
 namespace {

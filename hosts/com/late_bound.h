@@ -4,8 +4,8 @@
 
 #include <span>
 
-#include "com/owned_variant.h"
-#include "com/platform.h"
+#include "amortix2/com/owned_variant.h"
+#include "amortix2/com/platform.h"
 
 namespace amortix2 {
 

@@ -7,7 +7,7 @@
 #include <iostream>
 #include <string_view>
 
-#include "com/interface_definition.h"
+#include "amortix2/com/interface_definition.h"
 
 int main(int count, char** arguments) try {
   const std::string_view wanted = count == 2 ? arguments[1] : "";

@@ -1,10 +1,10 @@
 #include <array>
 #include <new>
 
-#include "automation/array.h"
-#include "com/column_order.h"
-#include "com/text.h"
-#include "com/values.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/com/column_order.h"
+#include "amortix2/com/text.h"
+#include "amortix2/com/values.h"
 
 namespace amortix2 {
 namespace {

@@ -1,9 +1,9 @@
-#include "com/module.h"
+#include "amortix2/com/module.h"
 
 #include <atomic>
 
-#include "com/failure.h"
-#include "com/type_library.h"
+#include "amortix2/com/failure.h"
+#include "amortix2/com/type_library.h"
 
 namespace amortix2 {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "com/platform.h"
+#include "amortix2/com/platform.h"
 
 namespace amortix2 {
 

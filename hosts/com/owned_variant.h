@@ -5,8 +5,8 @@
 #include <memory>
 #include <utility>
 
-#include "automation/error.h"
-#include "com/platform.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/com/platform.h"
 
 namespace amortix2 {
 

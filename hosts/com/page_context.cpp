@@ -1,9 +1,9 @@
-#include "com/page_context.h"
+#include "amortix2/com/page_context.h"
 
 #include <algorithm>
 #include <new>
 
-#include "com/late_bound.h"
+#include "amortix2/com/late_bound.h"
 
 namespace amortix2 {
 

@@ -3,9 +3,9 @@
 // The page server's scripting context, as the component sees it: an object from which the response is asked
 // for by name, and to which an image is written as a byte array, late-bound.
 
-#include "automation/page.h"
-#include "com/com_pointer.h"
-#include "com/platform.h"
+#include "amortix2/automation/page.h"
+#include "amortix2/com/com_pointer.h"
+#include "amortix2/com/platform.h"
 
 namespace amortix2 {
 

@@ -1,10 +1,10 @@
-#include "com/place.h"
+#include "amortix2/com/place.h"
 
 #include <algorithm>
 #include <cstring>
 #include <utility>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-#include "com/platform.h"
+#include "amortix2/com/platform.h"
 
 namespace amortix2 {
 

@@ -1,11 +1,11 @@
 #include <cmath>
 
-#include "automation/array.h"
-#include "com/column_order.h"
-#include "com/com_pointer.h"
-#include "com/late_bound.h"
-#include "com/text.h"
-#include "com/values.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/com/column_order.h"
+#include "amortix2/com/com_pointer.h"
+#include "amortix2/com/late_bound.h"
+#include "amortix2/com/text.h"
+#include "amortix2/com/values.h"
 
 namespace amortix2 {
 namespace {

@@ -1,8 +1,8 @@
-#include "com/records.h"
+#include "amortix2/com/records.h"
 
 #include <new>
 
-#include "com/values.h"
+#include "amortix2/com/values.h"
 
 namespace amortix2 {
 namespace {

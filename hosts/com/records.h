@@ -2,9 +2,9 @@
 
 // Records on their way between the platform's memory and the component's records.
 
-#include "com/owned_variant.h"
-#include "com/platform.h"
-#include "com/type_library.h"
+#include "amortix2/com/owned_variant.h"
+#include "amortix2/com/platform.h"
+#include "amortix2/com/type_library.h"
 
 namespace amortix2 {
 

@@ -1,11 +1,11 @@
-#include "com/registration.h"
+#include "amortix2/com/registration.h"
 
 #include <utility>
 
-#include "com/failure.h"
-#include "com/module.h"
-#include "com/platform.h"
-#include "com/registry_entries.h"
+#include "amortix2/com/failure.h"
+#include "amortix2/com/module.h"
+#include "amortix2/com/platform.h"
+#include "amortix2/com/registry_entries.h"
 
 namespace amortix2 {
 namespace {

@@ -1,8 +1,8 @@
-#include "com/registry_entries.h"
+#include "amortix2/com/registry_entries.h"
 
-#include "com/identity.h"
-#include "com/text.h"
-#include "component/description.h"
+#include "amortix2/com/identity.h"
+#include "amortix2/com/text.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2 {
 namespace {

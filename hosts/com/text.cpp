@@ -1,4 +1,4 @@
-#include "com/text.h"
+#include "amortix2/com/text.h"
 
 #include <algorithm>
 #include <new>

@@ -1,12 +1,12 @@
-#include "com/type_library.h"
+#include "amortix2/com/type_library.h"
 
 #include <mutex>
 
-#include "com/failure.h"
-#include "com/guid.h"
-#include "com/identity.h"
-#include "com/module.h"
-#include "com/text.h"
+#include "amortix2/com/failure.h"
+#include "amortix2/com/guid.h"
+#include "amortix2/com/identity.h"
+#include "amortix2/com/module.h"
+#include "amortix2/com/text.h"
 
 namespace amortix2 {
 namespace {

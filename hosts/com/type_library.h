@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
-#include "com/com_pointer.h"
-#include "com/place.h"
-#include "com/platform.h"
-#include "component/description.h"
+#include "amortix2/com/com_pointer.h"
+#include "amortix2/com/place.h"
+#include "amortix2/com/platform.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2 {
 

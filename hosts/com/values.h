@@ -7,10 +7,10 @@
 // References are followed. An object stands for its default property, and for Null when it has none. A
 // left-out argument is Missing, another error value Null. A date's time of day is dropped.
 
-#include "automation/variant.h"
-#include "com/owned_variant.h"
-#include "com/place.h"
-#include "com/platform.h"
+#include "amortix2/automation/variant.h"
+#include "amortix2/com/owned_variant.h"
+#include "amortix2/com/place.h"
+#include "amortix2/com/platform.h"
 
 namespace amortix2 {
 

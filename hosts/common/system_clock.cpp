@@ -1,8 +1,8 @@
-#include "common/system_clock.h"
+#include "amortix2/common/system_clock.h"
 
 #include <ctime>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 namespace {

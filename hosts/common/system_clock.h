@@ -3,7 +3,7 @@
 // Today as the machine's clock and its time zone have it. Hosts hand this clock to the component; nothing
 // below them asks the machine for a date.
 
-#include "automation/date.h"
+#include "amortix2/automation/date.h"
 
 namespace amortix2 {
 

@@ -2,9 +2,9 @@
 #include <functional>
 #include <vector>
 
-#include "automation/array.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/variant.h"
 #include "automation/raises.h"
-#include "automation/variant.h"
 
 namespace amortix2 {
 namespace {

@@ -1,10 +1,10 @@
-#include "automation/conversion.h"
+#include "amortix2/automation/conversion.h"
 
 #include <cmath>
 #include <limits>
 #include <vector>
 
-#include "automation/array.h"
+#include "amortix2/automation/array.h"
 #include "automation/raises.h"
 
 namespace amortix2 {

@@ -1,8 +1,8 @@
-#include "automation/date.h"
+#include "amortix2/automation/date.h"
 
 #include <array>
 
-#include "automation/conversion.h"
+#include "amortix2/automation/conversion.h"
 #include "automation/raises.h"
 
 namespace amortix2 {

@@ -1,6 +1,6 @@
 #include <vector>
 
-#include "automation/conversion.h"
+#include "amortix2/automation/conversion.h"
 #include "automation/raises.h"
 
 namespace amortix2 {

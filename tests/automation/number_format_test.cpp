@@ -1,4 +1,4 @@
-#include "automation/number_format.h"
+#include "amortix2/automation/number_format.h"
 
 #include <vector>
 

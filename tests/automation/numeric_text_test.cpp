@@ -1,7 +1,7 @@
 #include <random>
 #include <vector>
 
-#include "automation/conversion.h"
+#include "amortix2/automation/conversion.h"
 #include "automation/raises.h"
 
 namespace amortix2 {

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 

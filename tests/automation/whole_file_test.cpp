@@ -1,4 +1,4 @@
-#include "automation/whole_file.h"
+#include "amortix2/automation/whole_file.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>

@@ -10,9 +10,9 @@
 #include <string_view>
 #include <vector>
 
-#include "automation/array.h"
-#include "automation/error.h"
-#include "component/description.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2 {
 

@@ -1,7 +1,7 @@
 #include <cmath>
 
+#include "amortix2/engine/payment_factors.h"
 #include "calculators/ask.h"
-#include "engine/payment_factors.h"
 
 namespace amortix2 {
 namespace {

@@ -1,8 +1,8 @@
 #include <cmath>
 
+#include "amortix2/engine/payment_factors.h"
+#include "amortix2/engine/rounding.h"
 #include "calculators/ask.h"
-#include "engine/payment_factors.h"
-#include "engine/rounding.h"
 
 namespace amortix2 {
 namespace {

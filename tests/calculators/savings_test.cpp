@@ -1,12 +1,12 @@
-#include "calculators/savings.h"
+#include "amortix2/calculators/savings.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <optional>
 
-#include "automation/array.h"
-#include "automation/conversion.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/conversion.h"
 #include "automation/raises.h"
 
 namespace amortix2::calculators {

@@ -1,11 +1,11 @@
-#include "charts/axis_range.h"
+#include "amortix2/charts/axis_range.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 namespace {

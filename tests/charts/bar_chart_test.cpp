@@ -1,4 +1,4 @@
-#include "charts/bar_chart.h"
+#include "amortix2/charts/bar_chart.h"
 
 #include <gtest/gtest.h>
 
@@ -6,9 +6,9 @@
 #include <random>
 #include <string>
 
+#include "amortix2/charts/tag_balance.h"
 #include "automation/raises.h"
 #include "charts/bar_page.h"
-#include "charts/tag_balance.h"
 
 namespace amortix2 {
 namespace {

@@ -1,10 +1,10 @@
-#include "charts/bar_geometry.h"
+#include "amortix2/charts/bar_geometry.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 namespace {

@@ -4,8 +4,8 @@
 #include <fstream>
 #include <string>
 
-#include "automation/whole_file.h"
-#include "charts/gif_writer.h"
+#include "amortix2/automation/whole_file.h"
+#include "amortix2/charts/gif_writer.h"
 #include "charts/sample_rasters.h"
 
 int main(int count, char** arguments) {

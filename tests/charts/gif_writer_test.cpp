@@ -1,13 +1,13 @@
-#include "charts/gif_writer.h"
+#include "amortix2/charts/gif_writer.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <span>
 
-#include "automation/array.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/charts/gif_lzw.h"
 #include "automation/raises.h"
-#include "charts/gif_lzw.h"
 #include "charts/sample_rasters.h"
 
 namespace amortix2 {

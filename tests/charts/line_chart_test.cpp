@@ -1,4 +1,4 @@
-#include "charts/line_chart.h"
+#include "amortix2/charts/line_chart.h"
 
 #include <gtest/gtest.h>
 
@@ -10,10 +10,10 @@
 #include <span>
 #include <vector>
 
-#include "automation/array.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/charts/gif_writer.h"
+#include "amortix2/charts/thick_line.h"
 #include "automation/raises.h"
-#include "charts/gif_writer.h"
-#include "charts/thick_line.h"
 
 namespace amortix2 {
 namespace {

@@ -1,4 +1,4 @@
-#include "charts/markup.h"
+#include "amortix2/charts/markup.h"
 
 #include <gtest/gtest.h>
 

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "automation/array.h"
-#include "charts/line_chart.h"
-#include "charts/raster.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/charts/line_chart.h"
+#include "amortix2/charts/raster.h"
 
 namespace amortix2 {
 

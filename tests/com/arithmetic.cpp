@@ -11,10 +11,10 @@
 #include <limits>
 #include <string>
 
-#include "automation/conversion.h"
-#include "automation/number_format.h"
-#include "engine/elementary.h"
-#include "engine/rounding.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/number_format.h"
+#include "amortix2/engine/elementary.h"
+#include "amortix2/engine/rounding.h"
 
 using namespace amortix2;
 

@@ -10,8 +10,8 @@
 #include <random>
 #include <sstream>
 
-#include "automation/conversion.h"
-#include "component/description.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/component/description.h"
 
 using namespace amortix2;
 using nlohmann::json;

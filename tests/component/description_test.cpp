@@ -1,6 +1,6 @@
 // The description as a table: what every host takes for granted.
 
-#include "component/description.h"
+#include "amortix2/component/description.h"
 
 #include <gtest/gtest.h>
 
@@ -10,9 +10,9 @@
 #include <set>
 #include <string>
 
-#include "automation/conversion.h"
-#include "automation/error.h"
-#include "automation/text_scanner.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/automation/text_scanner.h"
 
 namespace amortix2 {
 namespace {

@@ -1,11 +1,11 @@
-#include "engine/frequency.h"
+#include "amortix2/engine/frequency.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <random>
 
-#include "automation/error.h"
+#include "amortix2/automation/error.h"
 
 namespace amortix2 {
 namespace {

@@ -3,15 +3,15 @@
 #include <cmath>
 #include <random>
 
+#include "amortix2/engine/amortix.h"
+#include "amortix2/engine/detail_arrays.h"
+#include "amortix2/engine/elementary.h"
+#include "amortix2/engine/frequency.h"
+#include "amortix2/engine/loan_schedule.h"
+#include "amortix2/engine/loan_solver.h"
+#include "amortix2/engine/qualification.h"
+#include "amortix2/engine/rounding.h"
 #include "automation/raises.h"
-#include "engine/amortix.h"
-#include "engine/detail_arrays.h"
-#include "engine/elementary.h"
-#include "engine/frequency.h"
-#include "engine/loan_schedule.h"
-#include "engine/loan_solver.h"
-#include "engine/qualification.h"
-#include "engine/rounding.h"
 #include "engine/wide_integer.h"
 
 namespace amortix2 {

@@ -4,8 +4,8 @@
 
 #include <random>
 
-#include "engine/frequency.h"
-#include "engine/records.h"
+#include "amortix2/engine/frequency.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 

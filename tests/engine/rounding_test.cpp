@@ -1,4 +1,4 @@
-#include "engine/rounding.h"
+#include "amortix2/engine/rounding.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <limits>
 #include <random>
 
-#include "engine/elementary.h"
+#include "amortix2/engine/elementary.h"
 #include "engine/wide_integer.h"
 
 namespace amortix2 {

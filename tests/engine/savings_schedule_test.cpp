@@ -1,13 +1,13 @@
-#include "engine/savings_schedule.h"
+#include "amortix2/engine/savings_schedule.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <iterator>
 
+#include "amortix2/engine/savings_detail.h"
 #include "automation/raises.h"
 #include "engine/random_savings.h"
-#include "engine/savings_detail.h"
 
 namespace amortix2 {
 namespace {

@@ -1,14 +1,14 @@
-#include "engine/savings_solver.h"
+#include "amortix2/engine/savings_solver.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
+#include "amortix2/engine/amortix.h"
+#include "amortix2/engine/savings_rate.h"
+#include "amortix2/engine/savings_schedule.h"
 #include "automation/raises.h"
-#include "engine/amortix.h"
 #include "engine/random_savings.h"
-#include "engine/savings_rate.h"
-#include "engine/savings_schedule.h"
 
 namespace amortix2 {
 namespace {

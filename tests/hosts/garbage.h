@@ -10,8 +10,8 @@
 #include <string>
 #include <string_view>
 
-#include "automation/array.h"
-#include "automation/variant.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/variant.h"
 
 namespace amortix2::testing {
 

@@ -4,14 +4,14 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "automation/array.h"
-#include "cli/arguments.h"
-#include "cli/currency_text.h"
-#include "cli/iso_date.h"
-#include "cli/json_text.h"
-#include "cli/json_to_variant.h"
-#include "cli/request_error.h"
-#include "cli/variant_to_json.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/cli/arguments.h"
+#include "amortix2/cli/currency_text.h"
+#include "amortix2/cli/iso_date.h"
+#include "amortix2/cli/json_text.h"
+#include "amortix2/cli/json_to_variant.h"
+#include "amortix2/cli/request_error.h"
+#include "amortix2/cli/variant_to_json.h"
 #include "hosts/garbage.h"
 
 namespace amortix2::cli {

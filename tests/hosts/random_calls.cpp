@@ -13,10 +13,10 @@
 #include <optional>
 #include <vector>
 
-#include "automation/error.h"
-#include "automation/page.h"
-#include "cli/typed_json.h"
-#include "component/description.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/automation/page.h"
+#include "amortix2/cli/typed_json.h"
+#include "amortix2/component/description.h"
 #include "hosts/garbage.h"
 
 namespace amortix2::testing {

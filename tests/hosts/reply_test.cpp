@@ -1,11 +1,11 @@
-#include "cli/reply.h"
+#include "amortix2/cli/reply.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "cli/json.h"
-#include "cli/json_text.h"
+#include "amortix2/cli/json.h"
+#include "amortix2/cli/json_text.h"
 
 namespace amortix2::cli {
 namespace {

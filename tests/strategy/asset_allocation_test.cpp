@@ -1,4 +1,4 @@
-#include "strategy/asset_allocation.h"
+#include "amortix2/strategy/asset_allocation.h"
 
 #include <gtest/gtest.h>
 
@@ -8,9 +8,9 @@
 #include <utility>
 #include <vector>
 
-#include "automation/array.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/strategy/ansi_code.h"
 #include "automation/raises.h"
-#include "strategy/ansi_code.h"
 
 namespace amortix2 {
 namespace {

@@ -5,10 +5,10 @@
 #include <chrono>
 #include <cstdio>
 
-#include "automation/array.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/common/system_clock.h"
+#include "amortix2/component/calculator.h"
 #include "client.h"
-#include "common/system_clock.h"
-#include "component/calculator.h"
 
 using namespace amortix2;
 using namespace amortix2::client;

@@ -8,12 +8,12 @@
 #include <string>
 #include <vector>
 
-#include "com/com_pointer.h"
-#include "com/failure.h"
-#include "com/late_bound.h"
-#include "com/owned_variant.h"
-#include "com/text.h"
-#include "com/values.h"
+#include "amortix2/com/com_pointer.h"
+#include "amortix2/com/failure.h"
+#include "amortix2/com/late_bound.h"
+#include "amortix2/com/owned_variant.h"
+#include "amortix2/com/text.h"
+#include "amortix2/com/values.h"
 
 namespace amortix2::client {
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <regex>
 
-#include "automation/conversion.h"
+#include "amortix2/automation/conversion.h"
 #include "client.h"
 
 using namespace amortix2;

@@ -12,12 +12,12 @@
 #include <fstream>
 #include <thread>
 
-#include "automation/array.h"
-#include "automation/conversion.h"
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/com/guid.h"
+#include "amortix2/com/identity.h"
+#include "amortix2/com/type_library.h"
 #include "client.h"
-#include "com/guid.h"
-#include "com/identity.h"
-#include "com/type_library.h"
 
 using namespace amortix2;
 using namespace amortix2::client;

@@ -7,11 +7,11 @@
 #include <array>
 #include <cstring>
 
+#include "amortix2/com/guid.h"
+#include "amortix2/com/identity.h"
+#include "amortix2/common/system_clock.h"
+#include "amortix2/component/calculator.h"
 #include "client.h"
-#include "com/guid.h"
-#include "com/identity.h"
-#include "common/system_clock.h"
-#include "component/calculator.h"
 
 using namespace amortix2;
 using namespace amortix2::client;

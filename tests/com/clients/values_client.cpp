@@ -4,7 +4,7 @@
 #include <cstring>
 #include <limits>
 
-#include "automation/array.h"
+#include "amortix2/automation/array.h"
 #include "client.h"
 
 using namespace amortix2;
