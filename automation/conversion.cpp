@@ -52,7 +52,7 @@ std::string ShortDateText(Date date) {
 }
 
 template <class Whole>
-Whole Narrow(double value) {
+Whole NearestWhole(double value) {
   const double nearest = std::nearbyint(value);  // halves to even
   if (nearest >= std::numeric_limits<Whole>::min() && nearest <= std::numeric_limits<Whole>::max()) {
     return static_cast<Whole>(nearest);
@@ -91,9 +91,9 @@ Date ToDate(const Variant& value) {
   return Date{static_cast<std::int32_t>(days)};
 }
 
-std::uint8_t ToByte(double value) { return Narrow<std::uint8_t>(value); }
-std::int16_t ToInteger(double value) { return Narrow<std::int16_t>(value); }
-std::int32_t ToLong(double value) { return Narrow<std::int32_t>(value); }
+std::uint8_t ToByte(double value) { return NearestWhole<std::uint8_t>(value); }
+std::int16_t ToInteger(double value) { return NearestWhole<std::int16_t>(value); }
+std::int32_t ToLong(double value) { return NearestWhole<std::int32_t>(value); }
 
 std::string ToText(const Variant& value) {
   switch (value.Type()) {

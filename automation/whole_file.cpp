@@ -5,9 +5,7 @@
 #include <ios>
 #include <random>
 #include <string_view>
-#include <vector>
 
-#include "amortix2/automation/conversion.h"
 #include "amortix2/automation/error.h"
 
 namespace amortix2 {
@@ -83,17 +81,6 @@ void WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes
   if (!Write(temporary.Name(), bytes)) Raise(ErrorNumber::PathFileAccess);
   if (fs::exists(old)) fs::permissions(temporary.Name(), old.permissions(), failure);
   if (!temporary.RenameTo(target)) Raise(ErrorNumber::PathFileAccess);
-}
-
-void ReadThrough(const std::string& path) {
-  std::error_code failure;
-  const fs::path name = ToPath(path);
-  if (!fs::is_regular_file(name, failure)) return;
-  const auto size = fs::file_size(name, failure);
-  if (failure || size == 0) return;
-  std::vector<char> content(static_cast<std::size_t>(ToInteger(static_cast<double>(size))));
-  std::ifstream file(name, std::ios::binary);
-  if (!file.read(content.data(), std::ssize(content))) Raise(ErrorNumber::PathFileAccess);
 }
 
 }  // namespace amortix2

@@ -1,7 +1,6 @@
 #pragma once
 
-// The files that the component touches: a result is written whole or not at all, and a file can be
-// read through once. Paths are UTF-8.
+// How a result becomes a file: whole or not at all. Paths are UTF-8.
 
 #include <cstdint>
 #include <span>
@@ -14,9 +13,5 @@ namespace amortix2 {
 /// Raises PathNotFound when the folder does not exist, PathFileAccess when `path` is empty or names a folder
 /// or a device, when it may not be written and when writing fails.
 void WriteWholeFile(const std::string& path, std::span<const std::uint8_t> bytes);
-
-/// Reads the file once from start to end and drops what it read; does nothing when there is no such file or
-/// it is empty. Raises Overflow for a file of 32768 bytes or more, PathFileAccess when it cannot be read.
-void ReadThrough(const std::string& path);
 
 }  // namespace amortix2

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "amortix2/automation/error.h"
+#include "amortix2/automation/checked.h"
 
 // The ten intervals are shared out between the two sides of zero. Each side's length is raised until its step
 // is a round number, so every split wastes some of the axis; the split kept is the one whose data fill the
@@ -61,8 +61,7 @@ AxisRange FindAxisRange(double largest, double smallest) {
   const Ends ends = smallest == 0  ? Split(largest, 0, 0)
                     : largest == 0 ? Split(0, smallest, kGridIntervals)
                                    : BestSplit(largest, smallest);
-  const double span = ends.top - ends.bottom;
-  if (!std::isfinite(span)) Raise(ErrorNumber::Overflow);
+  const double span = Finite(ends.top - ends.bottom);
   return {ends.top, ends.bottom, span / kGridIntervals};
 }
 

@@ -6,6 +6,7 @@
 #include "amortix2/automation/whole_file.h"
 #include "amortix2/charts/gif_writer.h"
 #include "amortix2/charts/line_chart.h"
+#include "amortix2/charts/read_through.h"
 
 namespace amortix2 {
 

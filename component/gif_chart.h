@@ -22,7 +22,7 @@ class GifChart {
   /// errors, automation/whole_file.h how the file is written. After an error no file has changed.
   void writeGifFile(const std::string& nm, const Variant& vImg, const Variant& vPal) const;
 
-  /// Reads the file named by `x` through once (automation/whole_file.h). Raises TypeMismatch when `x` has no
+  /// Reads the file named by `x` through once (charts/read_through.h). Raises TypeMismatch when `x` has no
   /// text.
   void DumpAFile(const Variant& x) const;
 

@@ -1,20 +1,10 @@
 #include "amortix2/engine/frequency.h"
 
-#include <limits>
-
-#include "amortix2/automation/error.h"
+#include "amortix2/automation/checked.h"
 #include "amortix2/engine/elementary.h"
-#include "amortix2/engine/rounding.h"
 
 namespace amortix2 {
 namespace {
-
-std::int16_t Narrow(std::int64_t value) {
-  if (value < std::numeric_limits<std::int16_t>::min() || value > std::numeric_limits<std::int16_t>::max()) {
-    Raise(ErrorNumber::Overflow);
-  }
-  return static_cast<std::int16_t>(value);
-}
 
 // Sundays that have begun since before the calendar: two dates of one week give the same number.
 std::int32_t WeekNumber(Date date) {
@@ -96,9 +86,11 @@ PeriodStep StepOf(enumFrequencyType frequency) {
 }
 
 Date StepDate(const CivilDate& start, const PeriodStep& step, std::int32_t count) {
-  return MakeClampedDate(Narrow(start.year), Narrow(start.month), Narrow(start.day),
-                         Narrow(std::int64_t{step.years} * count), Narrow(std::int64_t{step.months} * count),
-                         Narrow(std::int64_t{step.days} * count));
+  return MakeClampedDate(Narrow<std::int16_t>(start.year), Narrow<std::int16_t>(start.month),
+                         Narrow<std::int16_t>(start.day),
+                         Narrow<std::int16_t>(std::int64_t{step.years} * count),
+                         Narrow<std::int16_t>(std::int64_t{step.months} * count),
+                         Narrow<std::int16_t>(std::int64_t{step.days} * count));
 }
 
 Date AdvanceDate(Date date, enumFrequencyType frequency, std::int32_t count) {
@@ -132,9 +124,9 @@ WholePeriods CountWholePeriods(Date start, enumFrequencyType frequency, Date end
 
 Date MakeClampedDate(std::int16_t year, std::int16_t month, std::int16_t day, std::int16_t addYears,
                      std::int16_t addMonths, std::int16_t addDays) {
-  const std::int16_t targetYear = Narrow(year + addYears);
-  const std::int16_t targetMonth = Narrow(month + addMonths);
-  const std::int16_t targetDay = Narrow(day + addDays);
+  const std::int16_t targetYear = Narrow<std::int16_t>(year + addYears);
+  const std::int16_t targetMonth = Narrow<std::int16_t>(month + addMonths);
+  const std::int16_t targetDay = Narrow<std::int16_t>(day + addDays);
   if (addMonths > 0) return ClampToMonth(targetYear, targetMonth, targetDay);
   return MakeDate(targetYear, targetMonth, targetDay);
 }

@@ -1,13 +1,12 @@
 #pragma once
 
-// How amounts and rates are rounded, and the guards that keep infinities and NaN out of every result. A half
-// rounds up, also below zero (-0.125 gives -0.12), and it is the exact value of the double that counts: 2.675
-// lies just below its half and gives 2.67.
+// How amounts and rates are rounded. A half rounds up, also below zero (-0.125 gives -0.12), and it is the
+// exact value of the double that counts: 2.675 lies just below its half and gives 2.67.
 
 #include <cmath>
 #include <cstdint>
 
-#include "amortix2/automation/error.h"
+#include "amortix2/automation/checked.h"
 
 namespace amortix2 {
 
@@ -40,18 +39,5 @@ inline double RoundToCents(double x) { return rounding::RoundTo(x, 100); }
 
 /// To three decimals, halves up; for rates. Raises Overflow for an infinity or NaN.
 inline double RoundToMills(double x) { return rounding::RoundTo(x, 1000); }
-
-/// `x` itself. Raises Overflow when it is infinite or not a number.
-inline double Finite(double x) {
-  if (!std::isfinite(x)) Raise(ErrorNumber::Overflow);
-  return x;
-}
-
-/// a / b. Raises DivisionByZero for a non-zero number over 0, Overflow for 0 / 0 and for a quotient that is
-/// too large.
-inline double Divide(double a, double b) {
-  if (b == 0 && a != 0 && !std::isnan(a)) Raise(ErrorNumber::DivisionByZero);
-  return Finite(a / b);
-}
 
 }  // namespace amortix2

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "amortix2/automation/array.h"
+#include "amortix2/automation/checked.h"
 #include "amortix2/automation/conversion.h"
 #include "amortix2/automation/error.h"
 #include "amortix2/strategy/ansi_code.h"
@@ -60,11 +61,6 @@ constexpr std::array<Profile, 5> kProfiles{{
 }};
 
 constexpr double kFirstBoldAnswer = 4;  // answers below it are cautious and weigh double
-
-double Finite(double value) {
-  if (!std::isfinite(value)) Raise(ErrorNumber::Overflow);
-  return value;
-}
 
 double ReadAnswer(const Variant& answer) {
   const double number = NumericOrZero(answer);

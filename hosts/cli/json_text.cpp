@@ -6,7 +6,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
-#include "amortix2/automation/error.h"
+#include "amortix2/automation/checked.h"
 
 namespace amortix2::cli {
 namespace {
@@ -43,8 +43,7 @@ bool IsUtf8(std::string_view text) {
 }
 
 void AppendNumber(std::string& out, double value) {
-  if (!std::isfinite(value)) Raise(ErrorNumber::Overflow);
-  const double size = std::abs(value);
+  const double size = std::abs(Finite(value));
   if (size == 0) {
     out += std::signbit(value) ? "-0.0" : "0";
   } else if (size >= 1e-4 && size < 1e16) {

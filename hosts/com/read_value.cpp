@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "amortix2/automation/array.h"
+#include "amortix2/automation/checked.h"
 #include "amortix2/com/column_order.h"
 #include "amortix2/com/com_pointer.h"
 #include "amortix2/com/late_bound.h"
@@ -9,11 +10,6 @@
 
 namespace amortix2 {
 namespace {
-
-Variant FromDouble(double value) {
-  if (!std::isfinite(value)) Raise(ErrorNumber::Overflow);
-  return value;
-}
 
 /// A whole number, as a Long when it is one.
 template <class T>
@@ -102,9 +98,9 @@ class Reader {
       case VT_UI8:
         return FromWhole(value.ullVal);
       case VT_R4:
-        return FromDouble(double{value.fltVal});
+        return Finite(double{value.fltVal});
       case VT_R8:
-        return FromDouble(value.dblVal);
+        return Finite(value.dblVal);
       case VT_CY:
         return Currency{value.cyVal.int64};
       case VT_DECIMAL:

@@ -79,18 +79,5 @@ TEST_F(WholeFile, FullDiskLeavesTheOldFile) {
   EXPECT_EQ(CountFiles(), 1);
 }
 
-TEST_F(WholeFile, ReadingThrough) {
-  const auto read = [&](std::size_t size) {
-    std::ofstream(folder / "sized") << std::string(size, 's');
-    return ErrorOf([&] { ReadThrough(Path("sized")); });
-  };
-  EXPECT_EQ(read(0), std::nullopt);
-  EXPECT_EQ(read(32767), std::nullopt);
-  EXPECT_EQ(read(32768), ErrorNumber::Overflow);
-  for (const std::string& none : {Path("none"), std::string(), folder.string(), std::string("/dev/zero")}) {
-    EXPECT_EQ(ErrorOf([&] { ReadThrough(none); }), std::nullopt) << none;
-  }
-}
-
 }  // namespace
 }  // namespace amortix2
