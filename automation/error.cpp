@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
+#include <stdexcept>
 
 namespace amortix2 {
 namespace {
@@ -22,6 +24,7 @@ constexpr std::array kErrorTexts{
               "An array has no element at this index."},
     ErrorText{ErrorNumber::DivisionByZero, "DivisionByZero", "A number was divided by zero."},
     ErrorText{ErrorNumber::TypeMismatch, "TypeMismatch", "A value is not of a type that can be used here."},
+    ErrorText{ErrorNumber::InternalError, "InternalError", "The component failed for an unknown reason."},
     ErrorText{ErrorNumber::FileNotFound, "FileNotFound", "The file does not exist."},
     ErrorText{ErrorNumber::PathFileAccess, "PathFileAccess", "The file cannot be read or written."},
     ErrorText{ErrorNumber::PathNotFound, "PathNotFound", "The folder of the file does not exist."},
@@ -49,5 +52,19 @@ std::string_view ErrorDescription(ErrorNumber number) noexcept {
 }
 
 void Raise(ErrorNumber number) { throw AutomationError(number); }
+
+ErrorNumber CurrentErrorNumber() noexcept {
+  try {
+    throw;
+  } catch (const AutomationError& error) {
+    return error.Number();
+  } catch (const std::bad_alloc&) {
+    return ErrorNumber::OutOfMemory;
+  } catch (const std::length_error&) {
+    return ErrorNumber::OutOfMemory;
+  } catch (...) {
+    return ErrorNumber::InternalError;
+  }
+}
 
 }  // namespace amortix2

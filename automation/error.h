@@ -17,6 +17,7 @@ enum class ErrorNumber : std::int32_t {
   SubscriptOutOfRange = 9,
   DivisionByZero = 11,
   TypeMismatch = 13,
+  InternalError = 51,
   FileNotFound = 53,
   PathFileAccess = 75,
   PathNotFound = 76,
@@ -42,5 +43,10 @@ class AutomationError : public std::exception {
 };
 
 [[noreturn]] void Raise(ErrorNumber number);
+
+/// Only while an exception is handled: the number that stands for it, the same in every host. An
+/// AutomationError's own; OutOfMemory for memory or a length that there is not; InternalError for anything
+/// else.
+ErrorNumber CurrentErrorNumber() noexcept;
 
 }  // namespace amortix2

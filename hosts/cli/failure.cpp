@@ -1,7 +1,5 @@
 #include "amortix2/cli/failure.h"
 
-#include <new>
-#include <stdexcept>
 #include <utility>
 
 #include "amortix2/cli/request_error.h"
@@ -23,14 +21,8 @@ Failure CurrentFailure() noexcept {
     throw;
   } catch (RequestError& error) {
     return Of(error);
-  } catch (const AutomationError& error) {
-    return Of(error.Number());
-  } catch (const std::bad_alloc&) {
-    return Of(ErrorNumber::OutOfMemory);
-  } catch (const std::length_error&) {
-    return Of(ErrorNumber::OutOfMemory);
   } catch (...) {
-    return Of(ErrorNumber::InvalidProcedureCall);
+    return Of(CurrentErrorNumber());
   }
 }
 

@@ -18,7 +18,7 @@ struct Failure {
   bool ofRequest = false;   ///< the request is at fault; else the component raised it
 };
 
-/// The exception that is being handled. An unknown one is an InvalidProcedureCall. Allocates nothing.
+/// The exception that is being handled. Allocates nothing.
 Failure CurrentFailure() noexcept;
 
 /// Does `work`; nothing when it came to its end.
