@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "amortix2/automation/array.h"
-#include "amortix2/component/bar_chart.h"
+#include "amortix2/charts/bar_chart.h"
 
 namespace amortix2 {
 namespace {

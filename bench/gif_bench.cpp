@@ -14,10 +14,12 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <memory>
 #include <random>
 #include <vector>
 
 #include "amortix2/automation/array.h"
+#include "amortix2/charts/gif_chart.h"
 #include "amortix2/charts/gif_writer.h"
 #include "amortix2/charts/line_chart.h"
 
@@ -144,8 +146,9 @@ class Page : public ScriptingContext, public PageResponse {
 void WholeChart(benchmark::State& state) {
   const Variant data = ChartData();
   const Variant palette = ColourData();
-  Page page;
-  for (auto _ : state) SendLineChart({}, data, palette, &page);
+  GifChart chart;
+  chart.OnStartPage(std::make_shared<Page>());
+  for (auto _ : state) chart.LineChart(data, palette, "");
 }
 
 BENCHMARK(DrawChart);

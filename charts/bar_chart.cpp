@@ -9,6 +9,7 @@
 
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
+#include "amortix2/charts/bar_chart_input.h"
 #include "amortix2/charts/bar_layout.h"
 #include "amortix2/charts/chart_table.h"
 #include "amortix2/charts/horizontal_plot.h"
@@ -69,7 +70,7 @@ std::vector<std::string> ReadList(const Variant& list, std::int32_t last) {
   return texts;
 }
 
-std::unique_ptr<Plot> MakePlot(BarMode mode, const BarChartInput& input) {
+std::unique_ptr<BarPlot> MakePlot(BarMode mode, const BarChartInput& input) {
   const std::int32_t rows = input.values.Rows();
   const std::int32_t series = input.values.Series();
   switch (mode) {
@@ -86,33 +87,36 @@ std::unique_ptr<Plot> MakePlot(BarMode mode, const BarChartInput& input) {
   return std::make_unique<UprightPlot>(input, PlainGroup(input.settings, rows, series));
 }
 
-}  // namespace
-
-ValueLabels ReadValueLabels(const Variant& mode) {
-  const double written = NumericOrZero(mode);
-  return written == 11 ? ValueLabels::All : written == 3 ? ValueLabels::EndsAndMiddle : ValueLabels::Ends;
-}
-
 void SetImage(std::string& url, const Variant& value) {
   if (value.Type() == VariantType::String) url = value.GetString();
 }
 
-Variant DrawBarChart(const BarChartSettings& settings, Variant& vColDat, const Variant& blnk, Variant& Colgif,
-                     Variant& Colleg, const Variant& Ttl, const Variant& Xaxis, const Variant& Yaxis,
-                     const Variant& typ) {
+std::int16_t WholeNumber(const Variant& value) { return ToInteger(NumericOrZero(value)); }
+
+bool Flag(const Variant& value) { return NumericOrZero(value) != 0; }
+
+}  // namespace
+
+void BarChart::StackChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Variant& Colleg, Variant& Ttl,
+                          Variant& Xaxis, Variant& Yaxis, Variant& vRes) {
+  MakeChart(vColDat, blnk, Colgif, Colleg, Ttl, Xaxis, Yaxis, vRes, "ST");
+}
+
+void BarChart::MakeChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Variant& Colleg, Variant& Ttl,
+                         Variant& Xaxis, Variant& Yaxis, Variant& vRes, const Variant& typ) {
   const ChartStyle style = FindStyle(typ);
   const bool stacked = style.mode == BarMode::Stacked;
   Array& data = PageArray(vColDat);
   if (stacked && style.reversed) ReverseSeries(data, PageArray(Colgif), PageArray(Colleg));
 
-  ChartTable values = PrepareTable(data, KeepsNegatives(style, settings));
+  ChartTable values = PrepareTable(data, KeepsNegatives(style, settings_));
   if (values.Rows() < 1 || values.Series() < 1) Raise(ErrorNumber::DivisionByZero);
   if (style.mode == BarMode::Horizontal && style.reversed) ReverseRows(values);
   const std::optional<ChartTable> totals = stacked ? std::optional(RunningTotals(values)) : std::nullopt;
   const ChartTable& drawn = totals ? *totals : values;
 
-  const bool hasLegend = settings.showLegend && values.Series() > 1;
-  const bool needsLegends = hasLegend || settings.altLabelWithLegend;
+  const bool hasLegend = settings_.showLegend && values.Series() > 1;
+  const bool needsLegends = hasLegend || settings_.altLabelWithLegend;
   const BarChartTexts texts{
       .blank = PageText(blnk),
       .background = style.line ? std::string() : PageText(Colgif, 0),
@@ -124,20 +128,48 @@ Variant DrawBarChart(const BarChartSettings& settings, Variant& vColDat, const V
       .yCaption = PageText(Yaxis),
   };
   const BarChartInput input{
-      .settings = settings,
+      .settings = settings_,
       .texts = texts,
       .values = values,
       .drawn = drawn,
       .axis = TableAxis(drawn),
-      .tooltipFormat = NumberPattern(settings.altFormat),
-      .valueLabelFormat = NumberPattern(settings.valueLabelFormat),
+      .tooltipFormat = NumberPattern(settings_.altFormat),
+      .valueLabelFormat = NumberPattern(settings_.valueLabelFormat),
       .hasBackground = !style.line,
       .hasLegend = hasLegend,
       .reversedLegend = stacked && style.reversed,
   };
   MarkupWriter out;
   WriteBarChart(out, input, *MakePlot(style.mode, input));
-  return out.Finish();
+  vRes = out.Finish();
 }
+
+void BarChart::SetGraphDimensions(const Variant& height, const Variant& width) {
+  settings_.graph.Set(height, width);
+}
+void BarChart::SetAxisGif(const Variant& v) { SetImage(settings_.axisImage, v); }
+void BarChart::SetSpaceGif(const Variant& v) { SetImage(settings_.spaceImage, v); }
+
+void BarChart::MinimumColumnWidth(const Variant& value) { settings_.minimumColumnWidth = WholeNumber(value); }
+void BarChart::MaximumColumnWidth(const Variant& value) { settings_.maximumColumnWidth = WholeNumber(value); }
+void BarChart::MinimumOverlapSpace(const Variant& value) {
+  settings_.minimumOverlapSpace = WholeNumber(value);
+}
+void BarChart::MinimumOverlapCount(const Variant& value) {
+  settings_.minimumOverlapCount = NumericOrZero(value);
+}
+void BarChart::TotalGraphFrameWidth(const Variant& value) { settings_.totalFrameWidth = WholeNumber(value); }
+void BarChart::UseStyleSheets(const Variant& value) { settings_.useStyleSheets = Flag(value); }
+void BarChart::YLabelMode(const Variant& value) {
+  const double written = NumericOrZero(value);
+  settings_.valueLabels = written == 11  ? ValueLabels::All
+                          : written == 3 ? ValueLabels::EndsAndMiddle
+                                         : ValueLabels::Ends;
+}
+void BarChart::NegativeBars(const Variant& value) { settings_.negativeBars = Flag(value); }
+void BarChart::SupressLegend(const Variant& value) { settings_.showLegend = !Flag(value); }
+void BarChart::AltFormatStr(const Variant& value) { settings_.altFormat = ToText(value); }
+void BarChart::YLableFormatStr(const Variant& value) { settings_.valueLabelFormat = ToText(value); }
+void BarChart::AltLabelWithLegend(const Variant& value) { settings_.altLabelWithLegend = Flag(value); }
 
 }  // namespace amortix2

@@ -1,41 +1,66 @@
 #pragma once
 
-// HTML bar charts: from a page's table of numbers to an array of HTML lines. Chooses the style, prepares the
-// numbers and has the layout written; keeps nothing between charts but the settings, which it never changes.
-// Texts of the page (titles, labels, legends, URLs) go out as they are, markup included: a page that shows
-// texts of strangers escapes them first.
-
-#include <string>
+// The automation class BarChart: from a page's table of numbers to an HTML bar chart, an array of lines. A
+// page creates one, sets what differs from the defaults and asks for charts; nothing else is kept between
+// them. Texts of the page (titles, labels, legends, URLs) go out as they are, markup included: a page that
+// shows texts of strangers escapes them first. One object serves one thread at a time.
 
 #include "amortix2/automation/variant.h"
 #include "amortix2/charts/bar_settings.h"
 
 namespace amortix2 {
 
-/// The settings' code of a written YLabelMode: 11 labels all values, 3 the middle too, anything else the
-/// ends.
-ValueLabels ReadValueLabels(const Variant& mode);
+class BarChart {
+ public:
+  /// MakeChart in the style "ST".
+  void StackChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Variant& Colleg, Variant& Ttl,
+                  Variant& Xaxis, Variant& Yaxis, Variant& vRes);
 
-/// Replaces an image URL when the variant holds text, and leaves it alone otherwise.
-void SetImage(std::string& url, const Variant& value);
+  /// Draws a chart in the style that `typ` names ("OL", "OV", "OR" overlapped, "ST" stacked, "SR" stacked in
+  /// reverse order, "LINE" plain without a background, "HZ" horizontal, "HR" horizontal in reverse order; in
+  /// capitals; anything else plain columns) and replaces `vRes` by its lines: an array of variants from 0,
+  /// the first and the last Empty.
+  ///
+  /// `vColDat` is a two-dimensional array from (0, 0): row 0 is not drawn, column 0 holds the labels when
+  /// cell (0, 0) is not numeric, columns 1 and up are the series. `Colgif` holds image URLs, 0 the
+  /// background, 1 and up the series; `Colleg` the series' names from 1, read only where one is written;
+  /// `Ttl` the frame's title in 1 (empty: no frame) and the chart's in 2; `blnk` the URL of a transparent
+  /// image.
+  ///
+  /// Raises SubscriptOutOfRange for a table that is not two-dimensional and for a list that is too short or
+  /// no list, DivisionByZero for a table without rows or series and for settings that leave the bars no
+  /// width, Overflow for numbers too large to draw, TypeMismatch for a text that is none, OutOfMemory for a
+  /// chart of too many lines; `vRes` is then as it was. Only "SR" changes its arguments: it turns round the
+  /// order of the series in `vColDat`, `Colgif` and `Colleg`, in all of them or (when one is too short) in
+  /// none.
+  void MakeChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Variant& Colleg, Variant& Ttl,
+                 Variant& Xaxis, Variant& Yaxis, Variant& vRes, const Variant& typ = kMissing);
 
-/// Draws a chart in the style that `typ` names ("OL", "OV", "OR" overlapped, "ST" stacked, "SR" stacked in
-/// reverse order, "LINE" plain without a background, "HZ" horizontal, "HR" horizontal in reverse order; in
-/// capitals; anything else plain columns) and returns its lines: an array of variants from 0, the first and
-/// the last Empty.
-///
-/// `vColDat` is a two-dimensional array from (0, 0): row 0 is not drawn, column 0 holds the labels when cell
-/// (0, 0) is not numeric, columns 1 and up are the series. `Colgif` holds image URLs, 0 the background, 1 and
-/// up the series; `Colleg` the series' names from 1, read only where one is written; `Ttl` the frame's title
-/// in 1 (empty: no frame) and the chart's in 2; `blnk` the URL of a transparent image.
-///
-/// Raises SubscriptOutOfRange for a table that is not two-dimensional and for a list that is too short or no
-/// list, DivisionByZero for a table without rows or series and for settings that leave the bars no width,
-/// Overflow for numbers too large to draw, TypeMismatch for a text that is none, OutOfMemory for a chart of
-/// too many lines. Only "SR" changes its arguments: it turns round the order of the series in `vColDat`,
-/// `Colgif` and `Colleg`, in all of them or (when one is too short) in none.
-Variant DrawBarChart(const BarChartSettings& settings, Variant& vColDat, const Variant& blnk, Variant& Colgif,
-                     Variant& Colleg, const Variant& Ttl, const Variant& Xaxis, const Variant& Yaxis,
-                     const Variant& typ);
+  /// Height and width of the plot in pixels; 0 keeps the old value.
+  void SetGraphDimensions(const Variant& height, const Variant& width);
+
+  // URLs of one-pixel images; anything but text is ignored.
+  void SetAxisGif(const Variant& v);
+  void SetSpaceGif(const Variant& v);
+
+  // Write-only properties. Numbers in the place of a flag: not 0 is true. Whole numbers are rounded half to
+  // even. Each raises Overflow for a number outside 16 bits where it keeps a whole number, and TypeMismatch
+  // for a value without text where it keeps a text; the setting is then as it was.
+  void MinimumColumnWidth(const Variant& value);
+  void MaximumColumnWidth(const Variant& value);
+  void MinimumOverlapSpace(const Variant& value);
+  void MinimumOverlapCount(const Variant& value);
+  void TotalGraphFrameWidth(const Variant& value);
+  void UseStyleSheets(const Variant& value);
+  void YLabelMode(const Variant& value);
+  void NegativeBars(const Variant& value);
+  void SupressLegend(const Variant& value);
+  void AltFormatStr(const Variant& value);
+  void YLableFormatStr(const Variant& value);
+  void AltLabelWithLegend(const Variant& value);
+
+ private:
+  BarChartSettings settings_;
+};
 
 }  // namespace amortix2

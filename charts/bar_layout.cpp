@@ -49,7 +49,7 @@ void WriteChartTitle(MarkupWriter& out, const BarChartInput& input) {
   out.Line("</TR>"_m);
 }
 
-void WritePlot(MarkupWriter& out, const BarChartInput& input, const Plot& plot) {
+void WritePlot(MarkupWriter& out, const BarChartInput& input, const BarPlot& plot) {
   out.Line("<TD>"_m);
   if (input.hasBackground) {
     out.Line("<TABLE BORDER=%0% background=%"_m, input.texts.background,
@@ -65,7 +65,7 @@ void WritePlot(MarkupWriter& out, const BarChartInput& input, const Plot& plot) 
 }
 
 // The axis line below the plot and its labels, in the plot's own cell.
-void WriteBottomAxis(MarkupWriter& out, const BarChartInput& input, const Plot& plot) {
+void WriteBottomAxis(MarkupWriter& out, const BarChartInput& input, const BarPlot& plot) {
   const auto open = [&](Markup rest) { out.Line("<TABLE "_m, "width =%"_m, plot.Width(), "%"_m, rest); };
   open(" BORDER=%0% CELLPADDING=%0%  CELLSPACING=%0%>"_m);
   out.Line("<TR><TD>"_m);
@@ -113,7 +113,7 @@ void WriteLegend(MarkupWriter& out, const BarChartInput& input) {
 
 }  // namespace
 
-void WriteBarChart(MarkupWriter& out, const BarChartInput& input, const Plot& plot) {
+void WriteBarChart(MarkupWriter& out, const BarChartInput& input, const BarPlot& plot) {
   const bool framed = !input.texts.frameTitle.empty();
   const TextStyle captionStyle = YCaptionStyle(input.settings);
   out.Line("<!-- Generated Chart -->"_m);

@@ -6,12 +6,12 @@
 // rows of one pixel as low as they are meant to be.
 
 #include "amortix2/charts/bar_chart_input.h"
+#include "amortix2/charts/bar_plot.h"
 #include "amortix2/charts/markup.h"
-#include "amortix2/charts/plot.h"
 
 namespace amortix2 {
 
 /// Writes the chart of `input` around `plot`. Every table, row and cell that it opens is closed again.
-void WriteBarChart(MarkupWriter& out, const BarChartInput& input, const Plot& plot);
+void WriteBarChart(MarkupWriter& out, const BarChartInput& input, const BarPlot& plot);
 
 }  // namespace amortix2

@@ -4,11 +4,11 @@
 // table, labelled on the left; the values stand below the plot.
 
 #include "amortix2/charts/bar_chart_input.h"
-#include "amortix2/charts/plot.h"
+#include "amortix2/charts/bar_plot.h"
 
 namespace amortix2 {
 
-class HorizontalPlot : public Plot {
+class HorizontalPlot : public BarPlot {
  public:
   /// `input`, whose values are all at least 0, must outlive the plot.
   explicit HorizontalPlot(const BarChartInput& input);

@@ -9,7 +9,6 @@
 #include "amortix2/automation/error.h"
 #include "amortix2/charts/axis_range.h"
 #include "amortix2/charts/chart_table.h"
-#include "amortix2/charts/gif_writer.h"
 #include "amortix2/charts/thick_line.h"
 
 // Values map to pixels linearly and are rounded half up. The axis top lies on row 0 and the axis bottom on
@@ -46,9 +45,10 @@ int MapToPixel(double value, double lowValue, double highValue, int lowPixel, in
       std::floor((value - lowValue) * (highPixel - lowPixel) / (highValue - lowValue) + lowPixel + 0.5));
 }
 
-class Plot {
+class LinePicture {
  public:
-  Plot(GraphSize size, const AxisRange& axis) : axis_(axis), raster_(size.width, size.height, kBackground) {}
+  LinePicture(GraphSize size, const AxisRange& axis)
+      : axis_(axis), raster_(size.width, size.height, kBackground) {}
 
   void DrawGrid() {
     for (int level = 0; level <= kGridIntervals; ++level) {
@@ -83,28 +83,21 @@ class Plot {
   Raster raster_;
 };
 
+}  // namespace
+
+Raster DrawLineChart(GraphSize size, const Variant& columns) {
+  const ChartTable table = ReadNumbers(columns);
+  LinePicture picture(size, TableAxis(table));
+  picture.DrawGrid();
+  for (std::int32_t series = 1; series <= table.Series(); ++series) picture.DrawSeries(table, series);
+  return picture.Release();
+}
+
 void SetChartColours(Palette& palette) {
   palette.Set(kBackground, {255, 255, 255});
   palette.Set(kZeroLine, {0, 0, 0});
   palette.Set(kGridLine, {182, 182, 170});
   palette.Set(kWhite, {255, 255, 255});
-}
-
-}  // namespace
-
-Raster DrawLineChart(GraphSize size, const Variant& columns) {
-  const ChartTable table = ReadNumbers(columns);
-  Plot plot(size, TableAxis(table));
-  plot.DrawGrid();
-  for (std::int32_t series = 1; series <= table.Series(); ++series) plot.DrawSeries(table, series);
-  return plot.Release();
-}
-
-void SendLineChart(GraphSize size, const Variant& columns, const Variant& palette, ScriptingContext* page) {
-  if (page == nullptr) Raise(ErrorNumber::ObjectNotSet);
-  Palette colours = ReadPalette(palette);
-  SetChartColours(colours);
-  page->Response().BinaryWrite(EncodeGif(DrawLineChart(size, columns), colours));
 }
 
 }  // namespace amortix2

@@ -10,11 +10,11 @@
 #include <vector>
 
 #include "amortix2/charts/bar_chart_input.h"
-#include "amortix2/charts/plot.h"
+#include "amortix2/charts/bar_plot.h"
 
 namespace amortix2 {
 
-class UprightPlot : public Plot {
+class UprightPlot : public BarPlot {
  public:
   /// `input` must outlive the plot.
   UprightPlot(const BarChartInput& input, GroupPattern pattern);

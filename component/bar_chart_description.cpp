@@ -1,4 +1,4 @@
-#include "amortix2/component/bar_chart.h"
+#include "amortix2/charts/bar_chart.h"
 #include "amortix2/component/classes.h"
 #include "amortix2/component/describe.h"
 

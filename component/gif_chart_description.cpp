@@ -1,6 +1,6 @@
 #include "amortix2/component/classes.h"
 #include "amortix2/component/describe.h"
-#include "amortix2/component/gif_chart.h"
+#include "amortix2/charts/gif_chart.h"
 #include "amortix2/component/gif_record_descriptions.h"
 
 namespace amortix2 {

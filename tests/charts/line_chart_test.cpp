@@ -7,10 +7,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <memory>
 #include <span>
 #include <vector>
 
 #include "amortix2/automation/array.h"
+#include "amortix2/charts/gif_chart.h"
 #include "amortix2/charts/gif_writer.h"
 #include "amortix2/charts/thick_line.h"
 #include "automation/raises.h"
@@ -129,8 +131,7 @@ TEST(LineChart, HalfPixelsGoUp) {
   EXPECT_EQ(At(chart, 3, 0), 1);
 }
 
-class Page : public ScriptingContext, public PageResponse {
- public:
+struct Page : ScriptingContext, PageResponse {
   PageResponse& Response() override { return *this; }
   void BinaryWrite(std::span<const std::uint8_t> bytes) override { sent.assign(bytes.begin(), bytes.end()); }
 
@@ -143,42 +144,46 @@ Variant Sevens(std::int32_t colours, std::int32_t components) {
   return palette;
 }
 
-TEST(LineChart, SendsTheChartInItsOwnColoursOrNothing) {
-  const GraphSize size;
+TEST(GifChart, SendsTheChartInItsOwnColoursOrNothing) {
   const Variant table = Table({{1, 2}, {3, 4}});
   const Variant palette = Sevens(256, 3);
   const struct {
-    GraphSize size;
     Variant table;
     Variant palette;
     ErrorNumber error;
+    int height = 0, width = 0;
   } rows[] = {
-      {size, 5, palette, ErrorNumber::SubscriptOutOfRange},
-      {size, Array(Bounds{0, 4}), palette, ErrorNumber::SubscriptOutOfRange},
-      {size, Array({1, 4}, {0, 2}), palette, ErrorNumber::SubscriptOutOfRange},
-      {size, Table({{1e307}, {-1e308}}), palette, ErrorNumber::Overflow},
-      {size, Array({0, 2}, {0, 256}), palette, ErrorNumber::Overflow},
-      {size, table, Sevens(255, 3), ErrorNumber::SubscriptOutOfRange},
-      {size, table, Sevens(256, 2), ErrorNumber::SubscriptOutOfRange},
-      {size, table, Variant(), ErrorNumber::TypeMismatch},
-      {{.height = -1, .width = 9}, table, palette, ErrorNumber::SubscriptOutOfRange},
-      {{.height = 32767, .width = 32767}, table, palette, ErrorNumber::OutOfMemory},
+      {5, palette, ErrorNumber::SubscriptOutOfRange},
+      {Array(Bounds{0, 4}), palette, ErrorNumber::SubscriptOutOfRange},
+      {Array({1, 4}, {0, 2}), palette, ErrorNumber::SubscriptOutOfRange},
+      {Table({{1e307}, {-1e308}}), palette, ErrorNumber::Overflow},
+      {Array({0, 2}, {0, 256}), palette, ErrorNumber::Overflow},
+      {table, Sevens(255, 3), ErrorNumber::SubscriptOutOfRange},
+      {table, Sevens(256, 2), ErrorNumber::SubscriptOutOfRange},
+      {table, Variant(), ErrorNumber::TypeMismatch},
+      {table, palette, ErrorNumber::SubscriptOutOfRange, -1, 9},
+      {table, palette, ErrorNumber::OutOfMemory, 32767, 32767},
   };
-  Page page;
+  const auto page = std::make_shared<Page>();
   for (const auto& row : rows) {
-    EXPECT_EQ(ErrorOf([&] { SendLineChart(row.size, row.table, row.palette, &page); }), row.error)
+    GifChart chart;
+    chart.OnStartPage(page);
+    chart.SetGraphDimensions(row.height, row.width);
+    EXPECT_EQ(ErrorOf([&] { chart.LineChart(row.table, row.palette, ""); }), row.error)
         << "row " << &row - rows;
   }
-  EXPECT_EQ(ErrorOf([&] { SendLineChart(size, table, palette, nullptr); }), ErrorNumber::ObjectNotSet);
-  EXPECT_TRUE(page.sent.empty());
+  GifChart chart;
+  EXPECT_EQ(ErrorOf([&] { chart.LineChart(table, palette, ""); }), ErrorNumber::ObjectNotSet);
+  EXPECT_TRUE(page->sent.empty());
 
-  SendLineChart(size, table, palette, &page);
+  chart.OnStartPage(page);
+  chart.LineChart(table, palette, "");
   Palette colours = ReadPalette(palette);
   colours.Set(192, {255, 255, 255});
   colours.Set(193, {0, 0, 0});
   colours.Set(211, {182, 182, 170});
   colours.Set(255, {255, 255, 255});
-  EXPECT_EQ(page.sent, EncodeGif(DrawLineChart(size, table), colours));
+  EXPECT_EQ(page->sent, EncodeGif(DrawLineChart({}, table), colours));
 }
 
 }  // namespace

@@ -8,9 +8,9 @@
 
 namespace amortix2 {
 
-class Plot {
+class BarPlot {
  public:
-  virtual ~Plot() = default;
+  virtual ~BarPlot() = default;
 
   /// The length of the axis at the left edge of the plot.
   virtual Pixels AxisHeight() const = 0;

@@ -1,8 +1,9 @@
-#include "amortix2/component/gif_chart.h"
+#include "amortix2/charts/gif_chart.h"
 
 #include <utility>
 
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/error.h"
 #include "amortix2/automation/whole_file.h"
 #include "amortix2/charts/gif_writer.h"
 #include "amortix2/charts/line_chart.h"
@@ -21,7 +22,10 @@ void GifChart::writeGifFile(const std::string& nm, const Variant& vImg, const Va
 void GifChart::DumpAFile(const Variant& x) const { ReadThrough(ToText(x)); }
 
 void GifChart::LineChart(const Variant& vColDat, const Variant& vPal, const Variant& /*typ*/) {
-  SendLineChart(size_, vColDat, vPal, context_.get());
+  if (context_ == nullptr) Raise(ErrorNumber::ObjectNotSet);
+  Palette colours = ReadPalette(vPal);
+  SetChartColours(colours);
+  context_->Response().BinaryWrite(EncodeGif(DrawLineChart(size_, vColDat), colours));
 }
 
 void GifChart::SetGraphDimensions(const Variant& height, const Variant& width) { size_.Set(height, width); }

@@ -1,8 +1,8 @@
 #pragma once
 
 // The automation class GifChart: line charts as GIF images. As a page object it is handed the page's context
-// when the page starts, and sends charts to that page's response; rasters can also be written to files. Every
-// method delegates to charts/. One object serves one thread at a time.
+// when the page starts, and sends charts to that page's response; rasters can also be written to files. One
+// object serves one thread at a time.
 
 #include <memory>
 #include <string>
@@ -26,7 +26,10 @@ class GifChart {
   /// text.
   void DumpAFile(const Variant& x) const;
 
-  /// Draws a table and sends it to the page: charts/line_chart.h. `typ` is not used.
+  /// Draws the table `vColDat` (charts/line_chart.h) in the colours of `vPal`, of which 192, 193, 211 and 255
+  /// become the chart's own, and sends it to the page. `typ` is not used. Raises ObjectNotSet without a page,
+  /// what DrawLineChart and ReadPalette raise, and SubscriptOutOfRange for a palette of fewer than 256
+  /// colours of three components; nothing is sent then.
   void LineChart(const Variant& vColDat, const Variant& vPal, const Variant& typ);
 
   /// Height and width of the chart in pixels; 0 keeps the old value (charts/graph_size.h).
