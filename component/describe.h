@@ -19,6 +19,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/component/described_calls.h"
 #include "amortix2/component/described_types.h"
 #include "amortix2/component/description.h"
@@ -94,6 +95,7 @@ struct ClassDescription {
   constexpr ClassInfo Info(std::span<const MemberInfo> table) const {
     return {TypeName<C>(), help, table,
             [](const Clock& clock) -> void* {
+              const StandardArithmetic standard;
               if constexpr (std::constructible_from<C, const Clock&>) {
                 return new C(clock);
               } else {

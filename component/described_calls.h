@@ -1,6 +1,7 @@
 #pragma once
 
-// How a member is called through a list of untyped values, taken from its member pointer.
+// How a member is called through a list of untyped values, taken from its member pointer, whatever the
+// floating-point state of the host.
 
 #include <cstddef>
 #include <span>
@@ -9,6 +10,7 @@
 #include <utility>
 
 #include "amortix2/automation/error.h"
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/component/described_types.h"
 
 namespace amortix2::describing {
@@ -53,6 +55,7 @@ void CallWith(void* object, std::span<void* const> arguments, void* result, std:
 template <auto F>
 void Call(void* object, std::span<void* const> arguments, void* result) {
   if (arguments.size() != Signature<decltype(F)>::arity) Raise(ErrorNumber::ArgumentNotOptional);
+  const StandardArithmetic standard;
   CallWith<F>(object, arguments, result, std::make_index_sequence<Signature<decltype(F)>::arity>{});
 }
 
