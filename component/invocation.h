@@ -4,7 +4,6 @@
 // leaves it out would have, then the call, then the values as they stand. And ways to walk through records,
 // and to read values without copying them. Nothing here knows where values come from or go to.
 
-#include <concepts>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -42,8 +41,7 @@ class Invocation {
 
 /// void or const void: a place that may be written, or only read.
 template <class Place>
-concept VoidPlace = std::same_as < std::remove_const_t<Place>,
-void > ;
+concept VoidPlace = std::is_void_v<Place>;
 
 /// A field's place in a record.
 template <VoidPlace Place>
