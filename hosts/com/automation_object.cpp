@@ -6,7 +6,7 @@
 #include "amortix2/com/identity.h"
 #include "amortix2/com/text.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 /// A class all of whose members leave the object as it is keeps no state.
@@ -76,7 +76,7 @@ HRESULT AutomationObject::GetTypeInfo(UINT index, LCID, ITypeInfo** type) {
   *type = nullptr;
   if (index != 0) return DISP_E_BADINDEX;
   return Guarded([&] {
-    *type = TypeLibrary::Loaded()->Type(InterfaceName(object_.Class().name)).Release();
+    *type = TypeLibrary::Loaded().Type(InterfaceName(object_.Class().name)).Release();
     return S_OK;
   });
 }
@@ -148,4 +148,4 @@ HRESULT AutomationObject::InterfaceSupportsErrorInfo(REFIID identifier) {
   return identifier == IID_IDispatch || identifier == origin_.interfaceId ? S_OK : S_FALSE;
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

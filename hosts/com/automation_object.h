@@ -8,15 +8,15 @@
 
 #include <atomic>
 
-#include "amortix2/com/call.h"
+#include "amortix2/com/bound_call.h"
 #include "amortix2/com/com_pointer.h"
-#include "amortix2/com/failure.h"
 #include "amortix2/com/module.h"
 #include "amortix2/com/platform.h"
+#include "amortix2/com/result_code.h"
 #include "amortix2/common/system_clock.h"
 #include "amortix2/component/description.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 class AutomationObject final : public IDispatch, public ISupportErrorInfo {
  public:
@@ -55,4 +55,4 @@ class AutomationObject final : public IDispatch, public ISupportErrorInfo {
   std::atomic<ULONG> references_ = 1;
 };
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -2,10 +2,10 @@
 
 #include "amortix2/automation/array.h"
 #include "amortix2/com/column_order.h"
-#include "amortix2/com/records.h"
+#include "amortix2/com/platform_records.h"
 #include "amortix2/com/values.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 bool SameShape(const Array& a, const Array& b) {
@@ -90,4 +90,4 @@ void Changes::Commit() noexcept {
   changes_.clear();
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

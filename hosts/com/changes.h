@@ -11,7 +11,7 @@
 #include "amortix2/com/place.h"
 #include "amortix2/com/type_library.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 class Changes {
  public:
@@ -41,4 +41,4 @@ class Changes {
   std::vector<Change> changes_;
 };
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -1,11 +1,11 @@
 #include "amortix2/com/class_factory.h"
 
 #include "amortix2/com/automation_object.h"
-#include "amortix2/com/failure.h"
 #include "amortix2/com/guid.h"
 #include "amortix2/com/identity.h"
+#include "amortix2/com/result_code.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 const ClassInfo* FindPublishedClass(REFCLSID identifier) noexcept {
   for (const ClassInfo* type : Classes()) {
@@ -53,4 +53,4 @@ HRESULT ClassFactory::LockServer(BOOL lock) {
   return S_OK;
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -8,7 +8,7 @@
 #include "amortix2/com/platform.h"
 #include "amortix2/component/description.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// The described class of a published identifier, or null.
 const ClassInfo* FindPublishedClass(REFCLSID identifier) noexcept;
@@ -30,4 +30,4 @@ class ClassFactory final : public IClassFactory {
   std::atomic<ULONG> references_ = 1;
 };
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -6,7 +6,7 @@
 
 #include "amortix2/automation/array.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// Visits every cell with its index in Array::Cells and where the platform has it.
 template <class Visit>
@@ -19,4 +19,4 @@ void ForEachCell(const Array& array, Visit visit) {
   }
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -6,7 +6,7 @@
 
 #include "amortix2/com/platform.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 template <class T>
 class ComPointer {
@@ -52,4 +52,4 @@ class ComPointer {
   T* object_ = nullptr;
 };
 
-}  // namespace amortix2
+}  // namespace amortix2::com

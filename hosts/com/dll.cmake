@@ -26,17 +26,17 @@ set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/resources.rc PROPERTIES
 # Everything but the exported functions is a library of its own, so that the tests' clients can call as it does.
 add_library(com_binding STATIC
   automation_object.cpp
-  call.cpp
+  bound_call.cpp
   changes.cpp
   class_factory.cpp
-  failure.cpp
+  result_code.cpp
   late_bound.cpp
   make_value.cpp
   module.cpp
   page_context.cpp
   place.cpp
   read_value.cpp
-  records.cpp
+  platform_records.cpp
   registration.cpp
   registry_entries.cpp
   text.cpp

@@ -4,35 +4,35 @@
 #include <new>
 
 #include "amortix2/com/class_factory.h"
-#include "amortix2/com/failure.h"
 #include "amortix2/com/module.h"
 #include "amortix2/com/platform.h"
 #include "amortix2/com/registration.h"
+#include "amortix2/com/result_code.h"
 
-using amortix2::Guarded;
-using amortix2::RegistrationScope;
+using amortix2::com::Guarded;
+using amortix2::com::RegistrationScope;
 
 extern "C" {
 
 BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
-  if (reason == DLL_PROCESS_ATTACH) amortix2::Module::Attach(instance);
+  if (reason == DLL_PROCESS_ATTACH) amortix2::com::Module::Attach(instance);
   return TRUE;
 }
 
 HRESULT WINAPI DllGetClassObject(REFCLSID classIdentifier, REFIID identifier, void** object) {
   if (object == nullptr) return E_POINTER;
   *object = nullptr;
-  const amortix2::ClassInfo* type = amortix2::FindPublishedClass(classIdentifier);
+  const amortix2::ClassInfo* type = amortix2::com::FindPublishedClass(classIdentifier);
   if (type == nullptr) return CLASS_E_CLASSNOTAVAILABLE;
   return Guarded([&] {
-    auto* factory = new amortix2::ClassFactory(*type);
+    auto* factory = new amortix2::com::ClassFactory(*type);
     const HRESULT result = factory->QueryInterface(identifier, object);
     factory->Release();
     return result;
   });
 }
 
-HRESULT WINAPI DllCanUnloadNow() { return amortix2::Module::IsUnused() ? S_OK : S_FALSE; }
+HRESULT WINAPI DllCanUnloadNow() { return amortix2::com::Module::IsUnused() ? S_OK : S_FALSE; }
 
 /// "user" installs for the current user alone, anything else for the machine.
 HRESULT WINAPI DllInstall(BOOL install, LPCWSTR arguments) {
@@ -40,9 +40,9 @@ HRESULT WINAPI DllInstall(BOOL install, LPCWSTR arguments) {
   const RegistrationScope scope = user ? RegistrationScope::User : RegistrationScope::Machine;
   return Guarded([&] {
     if (install != FALSE) {
-      amortix2::Register(scope);
+      amortix2::com::Register(scope);
     } else {
-      amortix2::Unregister(scope);
+      amortix2::com::Unregister(scope);
     }
     return S_OK;
   });

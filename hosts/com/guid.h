@@ -7,7 +7,7 @@
 
 #include "amortix2/com/platform.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// An identifier of 36 characters without braces (com/identity.h).
 constexpr GUID ToGuid(std::string_view text) noexcept {
@@ -27,4 +27,4 @@ constexpr GUID ToGuid(std::string_view text) noexcept {
   return guid;
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 struct Identity {
@@ -61,4 +61,4 @@ std::string_view IdentifierOf(std::string_view name) noexcept {
   return found == kIdentities.end() ? std::string_view() : found->identifier;
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

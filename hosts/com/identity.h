@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace amortix2 {
+namespace amortix2::com {
 
 inline constexpr std::string_view kLibraryName = "Amortix2";
 
@@ -31,4 +31,4 @@ std::string_view IdentifierOf(std::string_view name) noexcept;
 /// Names the custom data in which the type library keeps the help of a parameter.
 inline constexpr std::string_view kParameterHelp = "parameter help";
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -6,7 +6,7 @@
 #include "amortix2/com/identity.h"
 #include "amortix2/component/description.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 std::string_view Identifier(std::string_view name) {
@@ -137,4 +137,4 @@ std::string AssemblyManifest(std::string_view productVersion) {
   return out.str();
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// The whole text of the type library: enumerations, records, and per class a dispatch interface with every
 /// member, its dispatch number, its parameters and their help. Raises std::logic_error when a class, record
@@ -17,4 +17,4 @@ std::string InterfaceDefinition();
 /// The side-by-side manifest by which the DLL can be used without registration.
 std::string AssemblyManifest(std::string_view productVersion);
 
-}  // namespace amortix2
+}  // namespace amortix2::com

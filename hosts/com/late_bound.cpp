@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "amortix2/com/com_pointer.h"
-#include "amortix2/com/failure.h"
+#include "amortix2/com/result_code.h"
 #include "amortix2/com/text.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 /// What an object tells about its failure.
@@ -79,4 +79,4 @@ bool GetDefaultProperty(IDispatch& object, VARIANT& value) {
   return true;
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

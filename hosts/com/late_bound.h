@@ -7,7 +7,7 @@
 #include "amortix2/com/owned_variant.h"
 #include "amortix2/com/platform.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// Calls a method or reads a property of `object`; arguments stand in the order of the call. Failures are
 /// raised as ForeignError with the number, source and text that the object gave (std::bad_alloc for
@@ -17,4 +17,4 @@ OwnedVariant CallByName(IDispatch& object, const wchar_t* name, std::span<const 
 /// Reads an object's default property; says whether it has one. Failures are raised as for CallByName.
 bool GetDefaultProperty(IDispatch& object, VARIANT& value);
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -12,9 +12,9 @@
 int main(int count, char** arguments) try {
   const std::string_view wanted = count == 2 ? arguments[1] : "";
   if (wanted == "idl") {
-    std::cout << amortix2::InterfaceDefinition();
+    std::cout << amortix2::com::InterfaceDefinition();
   } else if (wanted == "manifest") {
-    std::cout << amortix2::AssemblyManifest(AMORTIX2_VERSION);
+    std::cout << amortix2::com::AssemblyManifest(AMORTIX2_VERSION);
   } else {
     std::cerr << "usage: amortix2_com_files idl | manifest\n";
     return 2;

@@ -6,7 +6,7 @@
 #include "amortix2/com/text.h"
 #include "amortix2/com/values.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 SAFEARRAYBOUND ToBound(Bounds bounds) noexcept {
@@ -96,4 +96,4 @@ OwnedVariant MakeValue(const Variant& value, VARTYPE type) {
   return made;
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -2,10 +2,10 @@
 
 #include <atomic>
 
-#include "amortix2/com/failure.h"
+#include "amortix2/com/result_code.h"
 #include "amortix2/com/type_library.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 std::atomic<long> uses = 0;
@@ -33,4 +33,4 @@ void Module::ReleaseUse() noexcept {
 
 bool Module::IsUnused() noexcept { return uses == 0; }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -6,7 +6,7 @@
 
 #include "amortix2/com/platform.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 class Module {
  public:
@@ -35,4 +35,4 @@ class ModuleUse {
   ~ModuleUse() { Module::ReleaseUse(); }
 };
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -8,7 +8,7 @@
 #include "amortix2/automation/error.h"
 #include "amortix2/com/platform.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 class OwnedVariant {
  public:
@@ -61,4 +61,4 @@ class SafeArrayData {
   unsigned char* data_;
 };
 
-}  // namespace amortix2
+}  // namespace amortix2::com

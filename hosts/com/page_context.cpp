@@ -5,7 +5,7 @@
 
 #include "amortix2/com/late_bound.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 PageResponse& PageContext::Response() {
   const OwnedVariant value = CallByName(*context_.Get(), L"Response");
@@ -25,4 +25,4 @@ void PageContext::BinaryWrite(std::span<const std::uint8_t> bytes) {
   CallByName(*response_.Get(), L"BinaryWrite", {&argument, 1});
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

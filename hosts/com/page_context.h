@@ -7,7 +7,7 @@
 #include "amortix2/com/com_pointer.h"
 #include "amortix2/com/platform.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 class PageContext final : public ScriptingContext, private PageResponse {
  public:
@@ -25,4 +25,4 @@ class PageContext final : public ScriptingContext, private PageResponse {
   ComPointer<IDispatch> response_;
 };
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -6,7 +6,7 @@
 
 #include "amortix2/automation/error.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 /// Where a VARIANT keeps a value of its type: a decimal fills all of it, with the type inside.
@@ -84,4 +84,4 @@ void Exchange(Place place, VARIANT& value) noexcept {
   value.vt = type;
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -7,7 +7,7 @@
 
 #include "amortix2/com/platform.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 struct Place {
   VARTYPE type;  ///< VT_VARIANT, a plain type, or VT_ARRAY with its element type
@@ -29,4 +29,4 @@ VARIANT Peek(Place place);
 /// With an Empty value of the same type in the place this is an assignment.
 void Exchange(Place place, VARIANT& value) noexcept;
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -8,7 +8,7 @@
 #include "amortix2/com/text.h"
 #include "amortix2/com/values.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 /// A whole number, as a Long when it is one.
@@ -151,4 +151,4 @@ Variant ReadValue(const VARIANT& value) { return Reader().Read(value); }
 
 Variant ReadPlace(Place place) { return ReadValue(Peek(place)); }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

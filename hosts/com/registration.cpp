@@ -2,12 +2,12 @@
 
 #include <utility>
 
-#include "amortix2/com/failure.h"
 #include "amortix2/com/module.h"
 #include "amortix2/com/platform.h"
 #include "amortix2/com/registry_entries.h"
+#include "amortix2/com/result_code.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 constexpr REGSAM kOtherBitness = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
@@ -83,4 +83,4 @@ void Unregister(RegistrationScope scope) {
   for (const std::wstring& key : entries.sharedKeys) RemoveTree(classes.Get(), key);
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -4,7 +4,7 @@
 // for the current user alone, and takes out again. A 32-bit and a 64-bit DLL can be registered side by side;
 // what both share stays until neither is.
 
-namespace amortix2 {
+namespace amortix2::com {
 
 enum class RegistrationScope { Machine, User };
 
@@ -14,4 +14,4 @@ void Register(RegistrationScope scope);
 /// Removes what Register wrote, and nothing else; what is missing already is no error. Raises ForeignError.
 void Unregister(RegistrationScope scope);
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -1,10 +1,12 @@
 #include "amortix2/com/registry_entries.h"
 
+#include <utility>
+
 #include "amortix2/com/identity.h"
 #include "amortix2/com/text.h"
 #include "amortix2/component/description.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 /// The platform's own marshaler of dispatch interfaces.
@@ -16,7 +18,7 @@ std::wstring Braced(std::string_view name) { return L"{" + ToWide(IdentifierOf(n
 
 class EntryList {
  public:
-  explicit EntryList(const std::wstring& dllPath) : dllPath_(dllPath) {
+  explicit EntryList(std::wstring dllPath) : dllPath_(std::move(dllPath)) {
     AddLibrary();
     for (const ClassInfo* type : Classes()) AddClass(*type);
     entries_.sign = L"CLSID\\" + Braced(Classes().front()->name);
@@ -83,4 +85,4 @@ class EntryList {
 
 RegistryEntries EntriesFor(const std::wstring& dllPath) { return EntryList(dllPath).Take(); }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// One value of a key below the scope's "Software\Classes".
 struct RegistryEntry {
@@ -27,4 +27,4 @@ struct RegistryEntries {
 
 RegistryEntries EntriesFor(const std::wstring& dllPath);
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <new>
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 template <class Character>
@@ -60,4 +60,4 @@ std::wstring ToWide(std::string_view utf8) {
   return wide;
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

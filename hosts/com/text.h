@@ -7,7 +7,7 @@
 
 #include "amortix2/com/platform.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// A new automation string that the caller owns. Raises std::bad_alloc.
 BSTR MakeBstr(std::string_view utf8);
@@ -23,4 +23,4 @@ inline std::wstring_view View(BSTR text) noexcept {
   return text == nullptr ? std::wstring_view() : std::wstring_view(text, SysStringLen(text));
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -1,25 +1,21 @@
 #include "amortix2/com/type_library.h"
 
 #include <mutex>
+#include <utility>
 
-#include "amortix2/com/failure.h"
 #include "amortix2/com/guid.h"
 #include "amortix2/com/identity.h"
 #include "amortix2/com/module.h"
+#include "amortix2/com/result_code.h"
 #include "amortix2/com/text.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
-/// Never destroyed: when the process ends with objects alive, the platform's own libraries are gone already.
-union Kept {
-  constexpr Kept() : library() {}
-  ~Kept() {}
-  std::shared_ptr<const TypeLibrary> library;
-};
-
 std::mutex loading;
-constinit Kept kept;
+
+/// Not destroyed when the process ends with objects alive: the platform's own libraries are gone by then.
+constinit const TypeLibrary* kept = nullptr;
 
 ComPointer<ITypeInfo> FindType(ITypeLib& library, std::string_view name) {
   ComPointer<ITypeInfo> type;
@@ -91,20 +87,19 @@ const RecordLayout& TypeLibrary::Layout(const RecordInfo& record) const {
   Raise(ErrorNumber::TypeMismatch);
 }
 
-std::shared_ptr<const TypeLibrary> TypeLibrary::Loaded() {
+const TypeLibrary& TypeLibrary::Loaded() {
   const std::scoped_lock lock(loading);
-  if (!kept.library) {
+  if (kept == nullptr) {
     ComPointer<ITypeLib> library;
     Check(LoadTypeLibEx(Module::Path().c_str(), REGKIND_NONE, library.Receive()));
-    kept.library = std::make_shared<const TypeLibrary>(std::move(library));
+    kept = new TypeLibrary(std::move(library));
   }
-  return kept.library;
+  return *kept;
 }
 
 void TypeLibrary::Forget() noexcept {
-  std::shared_ptr<const TypeLibrary> dropped;
   const std::scoped_lock lock(loading);
-  if (Module::IsUnused()) std::swap(dropped, kept.library);
+  if (Module::IsUnused()) delete std::exchange(kept, nullptr);
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

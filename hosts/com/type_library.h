@@ -3,7 +3,6 @@
 // The type library that the DLL carries, and what is read from it: the types for clients that ask, and how
 // records lie in memory. It is loaded when first needed and kept while objects live.
 
-#include <memory>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -13,7 +12,7 @@
 #include "amortix2/com/platform.h"
 #include "amortix2/component/description.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// How the records of one kind lie in memory.
 class RecordLayout {
@@ -43,9 +42,10 @@ class RecordLayout {
 
 class TypeLibrary {
  public:
-  /// The library inside the DLL, loaded unless it is. Raises ForeignError when it cannot be.
-  static std::shared_ptr<const TypeLibrary> Loaded();
-  /// Lets go of it; it is loaded again when needed.
+  /// The library inside the DLL, loaded unless it is; the caller is an object, or something else that keeps
+  /// the module in use. Raises ForeignError when it cannot be loaded.
+  static const TypeLibrary& Loaded();
+  /// Lets go of it unless the module is in use; it is loaded again when needed.
   static void Forget() noexcept;
 
   explicit TypeLibrary(ComPointer<ITypeLib> library);
@@ -60,4 +60,4 @@ class TypeLibrary {
   std::vector<RecordLayout> layouts_;
 };
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -12,7 +12,7 @@
 #include "amortix2/com/place.h"
 #include "amortix2/com/platform.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// The value of a place. Raises TypeMismatch for a record, an interface of no use, or references that never
 /// end; SubscriptOutOfRange for an array of more than two dimensions; OutOfMemory for more than kLargestArray
@@ -31,4 +31,4 @@ OwnedVariant MakeValue(const Variant& value, VARTYPE type);
 /// Numbers, dates and texts are converted under these conventions whatever the machine's locale.
 inline constexpr LCID kUsEnglish = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
 
-}  // namespace amortix2
+}  // namespace amortix2::com

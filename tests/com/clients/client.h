@@ -9,13 +9,13 @@
 #include <vector>
 
 #include "amortix2/com/com_pointer.h"
-#include "amortix2/com/failure.h"
 #include "amortix2/com/late_bound.h"
 #include "amortix2/com/owned_variant.h"
+#include "amortix2/com/result_code.h"
 #include "amortix2/com/text.h"
 #include "amortix2/com/values.h"
 
-namespace amortix2::client {
+namespace amortix2::com::client {
 
 inline int failures = 0;
 
@@ -26,8 +26,8 @@ inline bool Check(bool holds, const char* text, int line, const std::string& abo
   }
   return holds;
 }
-#define CHECK(...) amortix2::client::Check((__VA_ARGS__), #__VA_ARGS__, __LINE__)
-#define CHECK_FOR(about, ...) amortix2::client::Check((__VA_ARGS__), #__VA_ARGS__, __LINE__, about)
+#define CHECK(...) amortix2::com::client::Check((__VA_ARGS__), #__VA_ARGS__, __LINE__)
+#define CHECK_FOR(about, ...) amortix2::com::client::Check((__VA_ARGS__), #__VA_ARGS__, __LINE__, about)
 
 /// Runs a client's body in an apartment; the exit status says whether all checks held.
 inline int Run(DWORD apartment, const std::function<void()>& body) {
@@ -35,9 +35,9 @@ inline int Run(DWORD apartment, const std::function<void()>& body) {
   try {
     body();
   } catch (const ForeignError& error) {
-    CHECK_FOR(std::to_string(error.Code()) + ToUtf8(error.Description()), !"unexpected failure");
+    CHECK_FOR(std::to_string(error.Code()) + ToUtf8(error.Description()), false);
   } catch (const std::exception& error) {
-    CHECK_FOR(error.what(), !"unexpected exception");
+    CHECK_FOR(error.what(), false);
   }
   CoUninitialize();
   std::puts(failures == 0 ? "done" : "failed");
@@ -46,10 +46,10 @@ inline int Run(DWORD apartment, const std::function<void()>& body) {
 
 inline ComPointer<IDispatch> Create(const wchar_t* programId) {
   CLSID identifier{};
-  amortix2::Check(CLSIDFromProgID(programId, &identifier));
+  amortix2::com::Check(CLSIDFromProgID(programId, &identifier));
   ComPointer<IDispatch> object;
-  amortix2::Check(CoCreateInstance(identifier, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
-                                   reinterpret_cast<void**>(object.Receive())));
+  amortix2::com::Check(CoCreateInstance(identifier, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
+                                        reinterpret_cast<void**>(object.Receive())));
   return object;
 }
 
@@ -139,4 +139,4 @@ class Scripted final : public IDispatch {
   std::map<std::wstring, Member> members_;
 };
 
-}  // namespace amortix2::client
+}  // namespace amortix2::com::client

@@ -10,7 +10,8 @@
 #include "client.h"
 
 using namespace amortix2;
-using namespace amortix2::client;
+using namespace amortix2::com;
+using namespace amortix2::com::client;
 
 namespace {
 

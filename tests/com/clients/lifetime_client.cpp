@@ -20,7 +20,8 @@
 #include "client.h"
 
 using namespace amortix2;
-using namespace amortix2::client;
+using namespace amortix2::com;
+using namespace amortix2::com::client;
 
 namespace {
 
@@ -110,6 +111,7 @@ void ThreadsDoNotDisturbEachOther() {
     CoUninitialize();
   };
   std::vector<std::thread> threads;
+  threads.reserve(8);
   for (int i = 0; i < 8; ++i) threads.emplace_back(work, i);
   for (std::thread& thread : threads) thread.join();
   CHECK(wrong == 0);
@@ -212,8 +214,8 @@ void CheckMember(ITypeInfo& type, UINT index, const MemberInfo& member) {
     OwnedVariant parameterHelp;
     custom->GetParamCustData(index, i - 1, ToGuid(IdentifierOf(kParameterHelp)), &parameterHelp.Get());
     CHECK(SameName(parameter, info.name) && ReadValue(parameterHelp.Get()) == Variant(info.help));
-    CHECK((flags & PARAMFLAG_FOPT ? true : false) == info.optional);
-    CHECK((flags & PARAMFLAG_FOUT ? true : false) == info.byReference);
+    CHECK(((flags & PARAMFLAG_FOPT) != 0) == info.optional);
+    CHECK(((flags & PARAMFLAG_FOUT) != 0) == info.byReference);
   }
   type.ReleaseFuncDesc(function);
 }

@@ -4,9 +4,6 @@
 
 #include <amortix2.h>
 
-#include <array>
-#include <cstring>
-
 #include "amortix2/com/guid.h"
 #include "amortix2/com/identity.h"
 #include "amortix2/common/system_clock.h"
@@ -14,14 +11,16 @@
 #include "client.h"
 
 using namespace amortix2;
-using namespace amortix2::client;
+using namespace amortix2::com;
+using namespace amortix2::com::client;
 
 namespace {
 
 ComPointer<IRecordInfo> RecordType(std::string_view name) {
   ComPointer<IRecordInfo> info;
-  amortix2::Check(GetRecordInfoFromGuids(ToGuid(IdentifierOf(kLibraryName)), kInterfaceMajor, kInterfaceMinor,
-                                         kUsEnglish, ToGuid(IdentifierOf(name)), info.Receive()));
+  amortix2::com::Check(GetRecordInfoFromGuids(ToGuid(IdentifierOf(kLibraryName)), kInterfaceMajor,
+                                              kInterfaceMinor, kUsEnglish, ToGuid(IdentifierOf(name)),
+                                              info.Receive()));
   return info;
 }
 
@@ -38,17 +37,10 @@ OwnedVariant RecordReference(IRecordInfo* info, void* record) {
 }
 
 bool SameLine(const ::tSchedule& a, const amortix2::tSchedule& b) {
-  const std::array<double, 9> ours{double(b.lineDate.serial),
-                                   b.startingBalance,
-                                   b.intRate,
-                                   b.payment,
-                                   b.intCharged,
-                                   b.intCredited,
-                                   b.taxCharged,
-                                   b.taxCredited,
-                                   b.endingBalance};
-  static_assert(sizeof a == sizeof ours);
-  return std::memcmp(&a, &ours, sizeof a) == 0;
+  return a.lineDate == b.lineDate.serial && a.startingBalance == b.startingBalance &&
+         a.intRate == b.intRate && a.payment == b.payment && a.intCharged == b.intCharged &&
+         a.intCredited == b.intCredited && a.taxCharged == b.taxCharged && a.taxCredited == b.taxCredited &&
+         a.endingBalance == b.endingBalance;
 }
 
 bool SameSchedule(SAFEARRAY* declaredLines, const std::vector<amortix2::tSchedule>& lines) {

@@ -1,6 +1,7 @@
 // Every automation type as an argument, by value and by reference; results written back in place; objects
 // that stand for their value; errors with source and description.
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 
@@ -8,14 +9,15 @@
 #include "client.h"
 
 using namespace amortix2;
-using namespace amortix2::client;
+using namespace amortix2::com;
+using namespace amortix2::com::client;
 
 namespace {
 
 template <class T>
 OwnedVariant Raw(VARTYPE type, T value) {
   OwnedVariant raw;
-  std::memcpy(type == VT_DECIMAL ? static_cast<void*>(&raw.Get()) : &raw.Get().llVal, &value, sizeof value);
+  std::memcpy(type == VT_DECIMAL ? static_cast<void*>(&raw.Get()) : &raw.Get().llVal, &value, sizeof(T));
   raw.Get().vt = type;
   return raw;
 }
@@ -149,7 +151,8 @@ void ArraysInPlace() {
   void* const before = SafeArrayData(table).At(0);
   CHECK(NumberOfFailure(*chart.Get(), L"MakeChart", arguments) == 0);
   const double swapped[] = {1, 2, 100, 200, 10, 20};
-  CHECK(SafeArrayData(table).At(0) == before && std::memcmp(before, swapped, sizeof swapped) == 0);
+  CHECK(SafeArrayData(table).At(0) == before &&
+        std::ranges::equal(swapped, std::span(static_cast<double*>(before), 6)));
   CHECK(View(*static_cast<BSTR*>(SafeArrayData(images).At(1))) == L"2");
   const auto* cells = static_cast<VARIANT*>(SafeArrayData(legendVariable.Get().parray).At(0));
   CHECK(legendVariable.Get().parray == legends && cells[0].vt == VT_I8 && cells[1].lVal == 2);
@@ -184,7 +187,7 @@ void Errors(IDispatch& calculator) {
   auto arguments = loan.Arguments(MakeValue(1e308));
   try {
     CallByName(calculator, L"SimpleLoanCalculator", arguments);
-    CHECK(!"raises");
+    CHECK_FOR("raises", false);
   } catch (const ForeignError& error) {
     CHECK(error.Code() == static_cast<HRESULT>(0x800A0006) && error.Source() == L"Amortix2.Calculator" &&
           error.Description().size() > 10);

@@ -11,7 +11,7 @@
 #include "amortix2/automation/error.h"
 #include "amortix2/com/platform.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// A failure that another object reported, passed on as it came.
 class ForeignError : public std::exception {
@@ -58,4 +58,4 @@ HRESULT Guarded(Body body) noexcept {
   }
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -3,17 +3,16 @@
 // One late-bound call: the caller's arguments, by place and by name, become one value per parameter of the
 // component's member; afterwards its results go back into the caller's variables.
 
-#include <memory>
 #include <optional>
 #include <vector>
 
 #include "amortix2/com/changes.h"
 #include "amortix2/com/platform.h"
-#include "amortix2/com/records.h"
+#include "amortix2/com/platform_records.h"
 #include "amortix2/com/type_library.h"
 #include "amortix2/component/description.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// Which argument belongs to which parameter; null where there is none.
 struct Binding {
@@ -42,8 +41,8 @@ class Argument {
   const ParameterInfo* parameter_;
   VARIANT* source_;
   amortix2::Value value_;
-  std::optional<amortix2::Value> before_;       // only of by-reference parameters
-  std::shared_ptr<const TypeLibrary> library_;  // only for records
+  std::optional<amortix2::Value> before_;  // only of by-reference parameters
+  const TypeLibrary* library_ = nullptr;   // only for records
   RecordArgument records_;
 };
 
@@ -64,4 +63,4 @@ class Call {
   std::optional<Value> result_;
 };
 
-}  // namespace amortix2
+}  // namespace amortix2::com

@@ -1,9 +1,9 @@
-#include "amortix2/com/call.h"
+#include "amortix2/com/bound_call.h"
 
 #include "amortix2/com/page_context.h"
 #include "amortix2/com/values.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 HRESULT BindNamed(Binding& binding, const DISPPARAMS& parameters, UINT index) {
@@ -69,7 +69,7 @@ void Argument::Read(VARIANT& source) {
   }
   if (parameter_->byReference) before_.emplace(type);
   if (type.record != nullptr) {
-    library_ = TypeLibrary::Loaded();
+    library_ = &TypeLibrary::Loaded();
     records_ = FindRecords(*library_, type, source);
     ReadRecordsInto(value_.Get());
     if (before_) ReadRecordsInto(before_->Get());
@@ -123,4 +123,4 @@ void Call::StoreResults(VARIANT* result) {
   if (result != nullptr) *result = own.Take();
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

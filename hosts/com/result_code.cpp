@@ -1,11 +1,11 @@
-#include "amortix2/com/failure.h"
+#include "amortix2/com/result_code.h"
 
 #include <new>
 
 #include "amortix2/com/com_pointer.h"
 #include "amortix2/com/text.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 /// The runtime's "Internal error", for what nothing else explains.
@@ -97,4 +97,4 @@ HRESULT ReportCurrentFailure(const ErrorOrigin& origin, EXCEPINFO* details) noex
   return report.MoveTo(details);
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com

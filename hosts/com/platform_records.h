@@ -6,7 +6,7 @@
 #include "amortix2/com/platform.h"
 #include "amortix2/com/type_library.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 
 /// Where an argument keeps its record or array of records. Both are null when a caller that has no records
 /// passed nothing.
@@ -30,4 +30,4 @@ void ReadRecords(const TypeLibrary& library, const TypeInfo& type, SAFEARRAY* ar
 /// A new array with the records that `type` describes. Raises std::bad_alloc.
 OwnedSafeArray MakeRecordArray(const TypeLibrary& library, const TypeInfo& type, void* records);
 
-}  // namespace amortix2
+}  // namespace amortix2::com

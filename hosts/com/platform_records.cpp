@@ -1,10 +1,10 @@
-#include "amortix2/com/records.h"
+#include "amortix2/com/platform_records.h"
 
 #include <new>
 
 #include "amortix2/com/values.h"
 
-namespace amortix2 {
+namespace amortix2::com {
 namespace {
 
 void RequireLayout(const RecordLayout& layout, IRecordInfo* info) {
@@ -102,4 +102,4 @@ OwnedSafeArray MakeRecordArray(const TypeLibrary& library, const TypeInfo& type,
   return array;
 }
 
-}  // namespace amortix2
+}  // namespace amortix2::com
