@@ -1,5 +1,7 @@
 #include "amortix2/charts/bar_cells.h"
 
+#include "amortix2/charts/label_text.h"
+
 namespace amortix2 {
 namespace {
 
@@ -29,7 +31,8 @@ void WriteLabelCell(MarkupWriter& out, const BarChartSettings& settings, const L
                     std::string_view text) {
   const TextStyle style = AxisLabelStyle(settings);
   const auto label = [&](Markup opening) {
-    out.Line(opening, cell.width, "%"_m, style.opening, text, style.closing, "</TD>"_m);
+    out.Line(opening, cell.width, "%"_m, style.opening, FittedLabel(text, cell.width), style.closing,
+             "</TD>"_m);
   };
   switch (cell.kind) {
     case LabelCell::Kind::Left:

@@ -35,7 +35,7 @@ void ImageCell(MarkupWriter& out, Height height, std::string_view image, Pixels 
   out.Line("src=%"_m, image, "% width =%"_m, width, "% ></TD>"_m);
 }
 
-/// A cell of the label row below the plot; a gap's text is not written.
+/// A cell of the label row below the plot, its text made to fit; a gap's text is not written.
 void WriteLabelCell(MarkupWriter& out, const BarChartSettings& settings, const LabelCell& cell,
                     std::string_view text);
 

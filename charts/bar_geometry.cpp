@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "amortix2/automation/conversion.h"
 #include "amortix2/automation/error.h"
@@ -61,6 +62,57 @@ std::vector<Slice> OverlappedSlices(std::int32_t series, std::int32_t count, Pix
     if (gap > 0 && slice <= series) slices.push_back({gap, slice, slice});
   }
   return slices;
+}
+
+// The cells of a label row, put one behind the other.
+class LabelRow {
+ public:
+  // A cell from `start` to `end`; what is free in front of it becomes an empty cell, or where that is too
+  // narrow goes to its neighbour.
+  void Add(LabelCell::Kind kind, Pixels start, Pixels end, std::int32_t index) {
+    constexpr Pixels kNarrowestGap = 5;  // an empty cell is as wide as its blank
+    if (const Pixels gap = start - covered_; gap >= kNarrowestGap) {
+      cells_.push_back({LabelCell::Kind::Gap, gap});
+    } else if (gap > 0 && kind != LabelCell::Kind::Right) {
+      cells_.back().width += gap;
+    } else {
+      start = covered_;
+    }
+    cells_.push_back({kind, end - start, index});
+    covered_ = end;
+  }
+
+  Pixels Covered() const { return covered_; }
+  std::vector<LabelCell> Release() { return std::move(cells_); }
+
+ private:
+  std::vector<LabelCell> cells_;
+  Pixels covered_ = 0;
+};
+
+// The widest of the labels that stand between the ends of the axis at every `stride`-th line.
+Pixels WidestInside(const GridLabelWidths& labelWidths, int stride) {
+  Pixels widest = 0;
+  for (int line = stride; line < kGridIntervals; line += stride) {
+    widest = std::max(widest, labelWidths[static_cast<std::size_t>(line)]);
+  }
+  return widest;
+}
+
+// How many lines on from one label the next stands, at least: labels keep clear of one another, and those of
+// the ends stand wholly inside.
+int LabelStride(const GridLabelWidths& labelWidths, ValueLabels labels, Pixels width) {
+  constexpr Pixels kApart = 6;
+  const int smallest = labels == ValueLabels::All             ? 1
+                       : labels == ValueLabels::EndsAndMiddle ? 5
+                                                              : kGridIntervals;
+  for (const int stride : {1, 2, 5}) {
+    const Pixels inside = WidestInside(labelWidths, stride);
+    const Pixels ends = std::max(labelWidths.front(), labelWidths.back());
+    const Pixels needed = kApart + std::max(inside, ends + (inside + 1) / 2);
+    if (stride >= smallest && needed <= width * stride / kGridIntervals) return stride;
+  }
+  return kGridIntervals;
 }
 
 }  // namespace
@@ -135,7 +187,7 @@ std::optional<double> GridLabel(const AxisRange& axis, int line, ValueLabels lab
   return middle || labels == ValueLabels::All ? std::optional(value) : std::nullopt;
 }
 
-std::vector<LabelCell> GroupLabelCells(std::int32_t groups, Pixels pitch) {
+std::vector<LabelCell> GroupLabelCells(std::int32_t groups, Pixels pitch, Pixels longest) {
   using enum LabelCell::Kind;
   constexpr std::int32_t kLabelAll = 12;
   std::vector<LabelCell> cells;
@@ -144,42 +196,47 @@ std::vector<LabelCell> GroupLabelCells(std::int32_t groups, Pixels pitch) {
     for (std::int32_t group = 1; group <= groups; ++group) cells.push_back({Middle, pitch - 1, group});
     return cells;
   }
-  const std::int32_t interval = (groups - 1 + 5) / 6;
-  const std::int32_t beside =
-      (interval - 1) / 2;  // groups whose width a label takes on either side of its own
-  std::int32_t covered = 0;
-  const auto add = [&](LabelCell::Kind kind, std::int32_t first, std::int32_t last, std::int32_t group) {
-    if (first > covered + 1) cells.push_back({Gap, (first - covered - 1) * pitch});
-    cells.push_back({kind, (last - first + 1) * pitch, group});
-    covered = last;
-  };
-  add(Left, 1, 1 + beside, 1);
-  for (std::int32_t group = 1 + interval; group + beside < groups - beside; group += interval) {
-    add(Middle, group - beside, group + beside, group);
+  constexpr Pixels kMargin = 3;
+  const Pixels width = 1 + groups * pitch;  // with the axis
+  const Pixels own = std::min(longest + kMargin, width / 2);
+  // The first label starts at its group and not half a label before it, and the second keeps clear of it.
+  const Pixels interval = std::max<Pixels>((3 * own + pitch - 1) / (2 * pitch), 1);
+  const Pixels middle = interval == 1 ? pitch : own;
+  LabelRow row;
+  row.Add(Left, 0, own, 1);
+  for (Pixels group = 1 + interval; group < groups; group += interval) {
+    const Pixels start = ((2 * group - 1) * pitch + 1 - middle) / 2;
+    if (start + middle > width - own) break;
+    row.Add(Middle, start, start + middle, static_cast<std::int32_t>(group));
   }
-  add(Right, groups - beside, groups, groups);
-  return cells;
+  row.Add(Right, width - own, width, groups);
+  return row.Release();
 }
 
-std::vector<LabelCell> GridLabelCells(const AxisRange& axis, ValueLabels labels, Pixels width) {
+std::vector<LabelCell> GridLabelCells(const GridLabelWidths& labelWidths, ValueLabels labels, Pixels width) {
   using enum LabelCell::Kind;
-  std::vector<LabelCell> cells;
-  for (int line = kGridIntervals; line >= 0; --line) {
-    if (GridLabel(axis, line, labels)) cells.push_back({Middle, 0, line});
+  const int stride = LabelStride(labelWidths, labels, width);
+  const int last = kGridIntervals / stride;
+  const Pixels firstWidth = labelWidths.back();
+  const Pixels lastWidth = labelWidths.front();
+  const auto lineOf = [&](int cell) { return kGridIntervals - cell * stride; };
+  LabelRow row;
+  // Cells that meet half way between their lines have each label centred on its own, and give the ends half.
+  if (2 * last * std::max(firstWidth, lastWidth) <= width) {
+    for (int cell = 0; cell < last; ++cell) {
+      row.Add(cell == 0 ? Left : Middle, row.Covered(), width * (2 * cell + 1) / (2 * last), lineOf(cell));
+    }
+    row.Add(Right, row.Covered(), width + 1, 0);
+    return row.Release();
   }
-  // The cells meet half way between their lines, so that each label is centred on its own; the ends have
-  // half.
-  const Pixels halves = 2 * (static_cast<Pixels>(cells.size()) - 1);
-  Pixels start = 0;
-  for (std::size_t i = 0; i < cells.size(); ++i) {
-    const Pixels end = width * (2 * static_cast<Pixels>(i) + 1) / halves;
-    cells[i].width = end - start;
-    start = end;
+  const Pixels half = (WidestInside(labelWidths, stride) + 1) / 2;
+  row.Add(Left, 0, std::min(firstWidth, width / 2), kGridIntervals);
+  for (int cell = 1; cell < last; ++cell) {
+    const Pixels centre = width * cell / last;
+    row.Add(Middle, centre - half, centre + half, lineOf(cell));
   }
-  cells.front().kind = Left;
-  cells.back().kind = Right;
-  cells.back().width = width + 1 - (start - cells.back().width);
-  return cells;
+  row.Add(Right, std::max(width - lastWidth, row.Covered()), width + 1, 0);
+  return row.Release();
 }
 
 Pixels LegendTextWidth(Pixels graphWidth, std::int32_t series) {

@@ -4,6 +4,7 @@
 // data; no markup. Lengths are whole pixels in 64 bits, wide enough for every product of settings and table
 // sizes.
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -71,12 +72,17 @@ struct LabelCell {
   std::int32_t index = 0;  ///< of the group, from 1, or of the grid line
 };
 
-/// The label row of an upright plot: every group's label up to twelve groups, above that about seven of them,
-/// the first and the last among them.
-std::vector<LabelCell> GroupLabelCells(std::int32_t groups, Pixels pitch);
+/// The label row of an upright plot whose longest label is `longest` pixels wide: every group's label up to
+/// twelve groups, above that as many at even distances as keep clear of one another, the first and the last
+/// among them.
+std::vector<LabelCell> GroupLabelCells(std::int32_t groups, Pixels pitch, Pixels longest);
 
-/// The label row of a horizontal plot `width` pixels wide: its labelled grid lines.
-std::vector<LabelCell> GridLabelCells(const AxisRange& axis, ValueLabels labels, Pixels width);
+/// The widths of the labels at the grid lines 0 to 10.
+using GridLabelWidths = std::array<Pixels, kGridIntervals + 1>;
+
+/// The label row of a horizontal plot `width` pixels wide: of the grid lines that are labelled as many at
+/// even distances as find room, the ends among them, each label at its own line.
+std::vector<LabelCell> GridLabelCells(const GridLabelWidths& labelWidths, ValueLabels labels, Pixels width);
 
 /// The width of a legend text.
 Pixels LegendTextWidth(Pixels graphWidth, std::int32_t series);

@@ -1,10 +1,12 @@
 #include "amortix2/charts/horizontal_plot.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <string_view>
 
 #include "amortix2/charts/bar_cells.h"
+#include "amortix2/charts/label_text.h"
 
 // All bars and gaps are rows of one pile, so that every bar starts at the axis whatever its length.
 
@@ -37,8 +39,11 @@ void HorizontalPlot::WriteSideLabels(MarkupWriter& out) const {
   row(thickness_ - thickness_ / 2, "<IMG src=%"_m, input_.settings.spaceImage, "% >"_m);
   const Pixels interval = (kTextHeight - 1) / std::max<Pixels>(pitch_, 1) + 1;
   for (std::int32_t group = 1; group <= input_.values.Rows(); ++group) {
-    const bool labelled = (group - 1) % interval == 0;
-    row(pitch_, labelled ? std::string_view(input_.values.Label(group)) : std::string_view());
+    if ((group - 1) % interval == 0) {
+      row(pitch_, "&nbsp;"_m, input_.values.Label(group), "&nbsp;"_m);  // clear of caption and axis
+    } else {
+      row(pitch_);
+    }
   }
   out.Line("</TABLE>"_m);
 }
@@ -67,9 +72,15 @@ void HorizontalPlot::WriteBars(MarkupWriter& out) const {
 
 void HorizontalPlot::WriteBottomLabels(MarkupWriter& out) const {
   const BarChartSettings& settings = input_.settings;
-  for (const LabelCell& cell : GridLabelCells(input_.axis, settings.valueLabels, length_)) {
-    const auto value = GridLabel(input_.axis, cell.index, settings.valueLabels);
-    WriteLabelCell(out, settings, cell, input_.valueLabelFormat.Format(*value));
+  std::array<std::string, kGridIntervals + 1> texts;
+  GridLabelWidths widths;
+  for (std::size_t line = 0; line < texts.size(); ++line) {
+    texts[line] =
+        input_.valueLabelFormat.Format(*GridLabel(input_.axis, static_cast<int>(line), ValueLabels::All));
+    widths[line] = LabelWidth(texts[line]);
+  }
+  for (const LabelCell& cell : GridLabelCells(widths, settings.valueLabels, length_)) {
+    WriteLabelCell(out, settings, cell, texts[static_cast<std::size_t>(cell.index)]);
   }
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "amortix2/charts/bar_cells.h"
+#include "amortix2/charts/label_text.h"
 
 // A row of the plot is a row of cells: for every group its slices, then one free pixel. Where bars hang below
 // zero the whole is written twice, once for each side of the zero line, and a slice without a bar on that
@@ -120,7 +121,11 @@ void UprightPlot::WriteSlice(MarkupWriter& out, Side side, Pixels width,
 }
 
 void UprightPlot::WriteBottomLabels(MarkupWriter& out) const {
-  for (const LabelCell& cell : GroupLabelCells(pattern_.groups, pattern_.Pitch())) {
+  Pixels longest = 0;
+  for (std::int32_t group = 1; group <= pattern_.groups; ++group) {
+    longest = std::max(longest, LabelWidth(input_.values.Label(group)));
+  }
+  for (const LabelCell& cell : GroupLabelCells(pattern_.groups, pattern_.Pitch(), longest)) {
     WriteLabelCell(out, input_.settings, cell, input_.values.Label(cell.index));
   }
 }

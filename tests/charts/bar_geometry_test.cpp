@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <utility>
 
 #include "amortix2/automation/error.h"
 
@@ -83,35 +85,59 @@ TEST(BarGeometry, BarHeights) {
   EXPECT_EQ(large.BarHeight(-180), -150);
 }
 
-TEST(BarGeometry, LabelRowsFillTheWidth) {
-  EXPECT_EQ(GroupLabelCells(12, 7).size(), 12U);
-  EXPECT_EQ(GroupLabelCells(12, 7).front().width, 6);  // of the bars alone
-  for (std::int32_t groups = 13; groups <= 400; ++groups) {
-    SCOPED_TRACE(groups);
-    const auto cells = GroupLabelCells(groups, 7);
-    Pixels end = 0;
-    std::int32_t labels = 0;
-    for (const LabelCell& cell : cells) {
-      const Pixels start = end;
-      end += cell.width;
-      ASSERT_GT(cell.width, 0);
-      if (cell.kind == LabelCell::Kind::Gap) continue;
-      ++labels;
-      const Pixels left = start - (cell.index - 1) * Pixels{7};  // how far the cell reaches beyond its group
-      const Pixels right = cell.index * Pixels{7} - end;
-      EXPECT_EQ(cell.kind == LabelCell::Kind::Left     ? left
-                : cell.kind == LabelCell::Kind::Middle ? left - right
-                                                       : right,
-                0);
+// Cells fill a row of `width` pixels, have room for their labels, and those inside stand at `placeOf` them.
+template <class WidthOf, class PlaceOf>
+void CheckLabelRow(const std::vector<LabelCell>& cells, Pixels width, WidthOf widthOf, PlaceOf placeOf) {
+  using enum LabelCell::Kind;
+  Pixels end = 0;
+  for (const LabelCell& cell : cells) {
+    const Pixels start = std::exchange(end, end + cell.width);
+    if (cell.kind == Gap) {
+      ASSERT_GE(cell.width, 5);
+      continue;
     }
-    EXPECT_EQ(end, groups * 7);
-    EXPECT_EQ(cells.back().index, groups);
-    EXPECT_TRUE(labels >= 4 && labels <= 7) << labels;
+    ASSERT_GE(cell.width, widthOf(cell.index));
+    ASSERT_EQ(cell.kind == Left, start == 0);
+    ASSERT_EQ(cell.kind == Right, end == width);
+    if (cell.kind == Middle) {
+      ASSERT_NEAR(0.5 * static_cast<double>(start + end), placeOf(cell.index), 3);
+    }
   }
-  for (const ValueLabels mode : {ValueLabels::Ends, ValueLabels::EndsAndMiddle, ValueLabels::All}) {
-    Pixels width = 0;
-    for (const LabelCell& cell : GridLabelCells({300, 0, 30}, mode, 380)) width += cell.width;
-    EXPECT_EQ(width, 381);
+  ASSERT_EQ(end, width);
+}
+
+TEST(BarGeometry, LabelRowsFillTheWidth) {
+  EXPECT_EQ(GroupLabelCells(12, 7, 50).size(), 12U);
+  EXPECT_EQ(GroupLabelCells(12, 7, 50).front().width, 6);  // of the bars alone
+  for (std::int32_t groups = 13; groups <= 400; ++groups) {
+    for (const Pixels pitch : {2, 4, 9, 31}) {
+      for (const Pixels longest : {7, 28, 58, 400}) {
+        const Pixels width = groups * pitch + 1;
+        const auto cells = GroupLabelCells(groups, pitch, longest);
+        CheckLabelRow(
+            cells, width, [&](int) { return std::min(longest, width / 2); },
+            [&](int group) { return 0.5 + (group - 0.5) * static_cast<double>(pitch); });
+        EXPECT_TRUE(cells.front().index == 1 && cells.back().index == groups);
+        if (HasFatalFailure()) FAIL() << groups << " groups, " << pitch << ", " << longest;
+      }
+    }
+  }
+  EXPECT_EQ(GroupLabelCells(40, 9, 58).size(), 6U);  // 1, 11, 21, 40, and two gaps
+  const auto gridLabels = [](ValueLabels mode, Pixels digit) {
+    GridLabelWidths widths;
+    for (std::size_t line = 0; line < widths.size(); ++line) widths[line] = line == 0 ? 4 * digit : 3 * digit;
+    widths.back() = digit;
+    const auto cells = GridLabelCells(widths, mode, 380);
+    CheckLabelRow(
+        cells, 381, [&](int line) { return widths[static_cast<std::size_t>(line)]; },
+        [](int line) { return 380 - 38 * line; });
+    return std::ranges::count_if(cells, [](const LabelCell& c) { return c.kind != LabelCell::Kind::Gap; });
+  };
+  using enum ValueLabels;
+  for (const Pixels digit : {1, 4, 5, 7, 14, 15, 19, 21, 47, 76}) {
+    EXPECT_EQ(gridLabels(Ends, digit), 2);
+    EXPECT_EQ(gridLabels(EndsAndMiddle, digit), digit < 35 ? 3 : 2);  // 4 + 1.5 digits in 190 pixels
+    EXPECT_EQ(gridLabels(All, digit), digit < 6 ? 11 : digit < 13 ? 6 : digit < 35 ? 3 : 2);
   }
 }
 

@@ -1,0 +1,136 @@
+#include "amortix2/charts/label_text.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace amortix2 {
+namespace {
+
+using Tenths = std::int64_t;  // of a pixel
+
+constexpr Tenths kForeign = 77;  // letters beyond ASCII
+constexpr Tenths kWidest = 111;
+constexpr Tenths kEllipsis = 100;
+
+Tenths AsciiWidth(char c) {
+  struct Class {
+    std::string_view characters;
+    Tenths width;
+  };
+  constexpr Class kClasses[] = {{" .,-/:;ijl'|", 34},    {"IJft()[]!", 41},       {"r\"`*\\", 50},
+                                {"ABCEFKLPRSTVXYZ", 77}, {"DGHNOQUw&+=<>~#", 88}, {"mMW%@", kWidest}};
+  constexpr Tenths kDigit = 64;  // and most small letters
+  for (const Class& one : kClasses) {
+    if (one.characters.find(c) != std::string_view::npos) return one.width;
+  }
+  return kDigit;
+}
+
+// A part of a label that is never divided: a character, a character reference, or a tag.
+struct Unit {
+  std::string_view text;
+  Tenths width;
+};
+
+// The first unit of a text that is not empty. What is no UTF-8 counts byte by byte.
+Unit FirstUnit(std::string_view text) {
+  constexpr std::size_t kLongestReference = 10;
+  constexpr unsigned char kFirstOfThreeBytes =
+      0xE1;  // from U+1000 on letters may be as wide as they are high
+  const auto lead = static_cast<unsigned char>(text.front());
+  if (const std::size_t end = text.find('>'); lead == '<' && end != std::string_view::npos) {
+    return {text.substr(0, end + 1), 0};
+  }
+  if (lead == '&') {
+    const std::size_t end = text.substr(0, kLongestReference).find(';');
+    if (end != std::string_view::npos) return {text.substr(0, end + 1), kForeign};
+  }
+  if (lead < 0x80) return {text.substr(0, 1), AsciiWidth(text.front())};
+  std::size_t size = 1;
+  while (size < text.size() && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80) ++size;
+  return {text.substr(0, size), lead < kFirstOfThreeBytes ? kForeign : kWidest};
+}
+
+Tenths Width(std::string_view text) {
+  Tenths width = 0;
+  while (!text.empty()) {
+    const Unit unit = FirstUnit(text);
+    width += unit.width;
+    text.remove_prefix(unit.text.size());
+  }
+  return width;
+}
+
+// Takes what stands in front of the first of `separators`; the separator stays.
+std::string_view TakeUpTo(std::string_view& text, std::string_view separators) {
+  const std::string_view part = text.substr(0, text.find_first_of(separators));
+  text.remove_prefix(part.size());
+  return part;
+}
+
+// As much of a text as fits; cut, it ends in an ellipsis.
+void AppendCut(std::string& out, std::string_view text, Tenths room) {
+  if (Width(text) <= room) {
+    out += text;
+    return;
+  }
+  for (room -= kEllipsis; !text.empty();) {
+    const Unit unit = FirstUnit(text);
+    if (unit.width > room) break;
+    room -= unit.width;
+    out += unit.text;
+    text.remove_prefix(unit.text.size());
+  }
+  out += "&hellip;";
+}
+
+// A word in lines, each of as many parts as fit with the separators between them.
+void AppendInLines(std::string& out, std::string_view word, Tenths room) {
+  constexpr std::string_view kSeparators = "-/";
+  Tenths used = 0;
+  std::string_view separator;
+  while (true) {
+    const std::string_view part = TakeUpTo(word, kSeparators);
+    const Tenths width = Width(separator) + Width(part);
+    if (used > 0 && used + width > room) {
+      out += "<BR>";
+      used = 0;
+    } else {
+      out += separator;
+    }
+    AppendCut(out, part, room);
+    used += width;
+    if (word.empty()) return;
+    separator = word.substr(0, 1);
+    word.remove_prefix(1);
+  }
+}
+
+}  // namespace
+
+std::int64_t LabelWidth(std::string_view label) { return (Width(label) + 9) / 10; }
+
+std::string FittedLabel(std::string_view label, std::int64_t width) {
+  constexpr std::int64_t kNarrowest = 24;
+  constexpr Tenths kBeyond =
+      20;  // one pixel of the gap on either side, into which margins let the text reach
+  if (width < kNarrowest || label.find_first_of("<\"") != std::string_view::npos) return std::string(label);
+  std::string fitted;
+  bool fits = true;
+  for (std::string_view rest = label; !rest.empty();) {
+    const std::string_view word = TakeUpTo(rest, " ");
+    if (Width(word) <= 10 * width) {
+      fitted += word;
+    } else {
+      AppendInLines(fitted, word, 10 * width + kBeyond);
+      fits = false;
+    }
+    const std::string_view blanks = rest.substr(0, rest.find_first_not_of(' '));
+    fitted += blanks;
+    rest.remove_prefix(blanks.size());
+  }
+  if (fits) return fitted;
+  return "<DIV STYLE=\"margin:0 -1px\" TITLE=\"" + std::string(label) + "\">" + fitted + "</DIV>";
+}
+
+}  // namespace amortix2
