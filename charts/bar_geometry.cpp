@@ -200,7 +200,7 @@ std::vector<LabelCell> GroupLabelCells(std::int32_t groups, Pixels pitch, Pixels
   const Pixels width = 1 + groups * pitch;  // with the axis
   const Pixels own = std::min(longest + kMargin, width / 2);
   // The first label starts at its group and not half a label before it, and the second keeps clear of it.
-  const Pixels interval = std::max<Pixels>((3 * own + pitch - 1) / (2 * pitch), 1);
+  const Pixels interval = pitch > 0 ? std::max<Pixels>((3 * own + pitch - 1) / (2 * pitch), 1) : groups;
   const Pixels middle = interval == 1 ? pitch : own;
   LabelRow row;
   row.Add(Left, 0, own, 1);
