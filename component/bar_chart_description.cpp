@@ -1,58 +1,100 @@
 #include "amortix2/charts/bar_chart.h"
+#include "amortix2/component/chart_descriptions.h"
 #include "amortix2/component/classes.h"
 #include "amortix2/component/describe.h"
 
 namespace amortix2 {
 namespace {
 
-constexpr Param kTable{"vColDat", Unit::Table,
-                       "Groups from row 1, series from column 1; column 0 labels unless (0, 0) is a number"};
-constexpr Param kBlank{"blnk", Unit::Text, "URL of a transparent one-pixel image"};
-constexpr Param kImages{"Colgif", Unit::List, "Image URLs: 0 the background, 1 and up the series"};
-constexpr Param kLegends{"Colleg", Unit::List, "Names of the series, from 1"};
-constexpr Param kTitles{"Ttl", Unit::List, "1 the frame's title (empty: no frame), 2 the chart's"};
-constexpr Param kXAxis{"Xaxis", Unit::Text, "Caption below the plot"};
-constexpr Param kYAxis{"Yaxis", Unit::Text, "Caption left of the plot"};
-constexpr Param kLines{"vRes", Unit::List, "The chart, one line of HTML an element"};
-constexpr Param kStyle{"typ", Unit::Text,
-                       "OL, OV or OR overlapped, ST or SR stacked, HZ or HR horizontal, LINE", true};
+using namespace describing;  // NOLINT(google-build-using-namespace): the words of descriptions
+
+constexpr Param kLabelledTable =
+    kChartTable.Says("Groups from row 1, series from column 1; column 0 labels unless (0, 0) is a number");
+constexpr Param kBlank = Input("blnk", "Blank image", Unit::Text, "URL of a transparent one-pixel image")
+                             .Nothing()
+                             .Example("space.gif");
+constexpr Param kImages =
+    Input("Colgif", "Images", Unit::List, "Image URLs: 0 the background, 1 and up the series")
+        .Example(R"(["white.gif", "blue.gif", "red.gif"])");
+constexpr Param kLegends = Input("Colleg", "Series", Unit::List, "Names of the series, from 1")
+                               .Example(R"(["", "Principal", "Interest"])");
+constexpr Param kTitles =
+    Input("Ttl", "Titles", Unit::List, "1 the frame's title (empty: no frame), 2 the chart's")
+        .Example(R"(["", "", "Payments by year"])");
+constexpr Param kXAxis =
+    Input("Xaxis", "Caption below", Unit::Text, "Caption below the plot").Nothing().Example("Year");
+constexpr Param kYAxis = Input("Yaxis", "Caption at the left", Unit::Text, "Caption left of the plot")
+                             .Nothing()
+                             .Example("Dollars");
+constexpr Param kLines =
+    Result("vRes", "Markup", Unit::List, "The chart, one line of HTML an element").Of(kMarkup);
+constexpr Param kUrl =
+    Input("v", "Image", Unit::Text, "URL; anything but text is ignored").Example("black.gif");
+constexpr Param kWidth = kPixels.Span(1, 200, 1);
+
+/// A write-only property.
+constexpr About Setting(int number, std::string_view title, std::string_view help) {
+  return {.number = number, .group = Group::Charts, .title = title, .address = {}, .help = help};
+}
 
 constexpr auto kDescription = describe<BarChart>(
+    "Bar chart",
     "Turns a table of numbers into an HTML bar chart of nested tables and stretched one-pixel images. "
     "Texts go out as they are, markup included.",
-    method<&BarChart::StackChart>("A chart of stacked columns.",
-                                  {kTable, kBlank, kImages, kLegends, kTitles, kXAxis, kYAxis, kLines}),
     method<&BarChart::MakeChart>(
-        "A chart in the style named last; plain columns without one.",
-        {kTable, kBlank, kImages, kLegends, kTitles, kXAxis, kYAxis, kLines, kStyle}),
+        {.number = 2,
+         .group = Group::Charts,
+         .title = "HTML bar chart",
+         .address = "bar-chart",
+         .help = "A chart in the style named last; plain columns without one."},
+        {kLabelledTable.ComesBack(), kBlank, kImages.ComesBack(), kLegends.ComesBack(), kTitles, kXAxis,
+         kYAxis, kLines,
+         Input("typ", "Style", Unit::Text, "Name of the style").Of(kBarStyle).Optional().Example("ST")}),
+    method<&BarChart::StackChart>(
+        {.number = 1,
+         .group = Group::Charts,
+         .title = "Stacked HTML bar chart",
+         .address = "stack-chart",
+         .help = "A chart of stacked columns."},
+        {kLabelledTable, kBlank, kImages, kLegends, kTitles, kXAxis, kYAxis, kLines}),
     method<&BarChart::SetGraphDimensions>(
-        "The plot's size, at first 300 by 380.",
-        {{"height", Unit::Pixels, "Height; 0 keeps it"}, {"width", Unit::Pixels, "Width; 0 keeps it"}}),
-    method<&BarChart::SetAxisGif>("The image that draws the axes.",
-                                  {{"v", Unit::Text, "URL; anything but text is ignored"}}),
-    method<&BarChart::SetSpaceGif>("The image that fills the frame and empty axis labels.",
-                                   {{"v", Unit::Text, "URL; anything but text is ignored"}}),
-    property<&BarChart::MinimumColumnWidth>(Unit::Pixels, "The narrowest bar, at first 3."),
-    property<&BarChart::MaximumColumnWidth>(Unit::Pixels, "The widest bar, at first 80."),
+        Setting(3, "Size of the plot", "The plot's size, at first 300 by 380."), {kHeight, kWidthOfPlot}),
+    method<&BarChart::SetAxisGif>(Setting(4, "Axis image", "The image that draws the axes."), {kUrl}),
+    method<&BarChart::SetSpaceGif>(
+        Setting(5, "Space image", "The image that fills the frame and empty axis labels."), {kUrl}),
+    property<&BarChart::TotalGraphFrameWidth>(
+        Setting(10, "Frame width", "The frame's outer width, at first 462."), kPixels.Example("462")),
+    property<&BarChart::MinimumColumnWidth>(Setting(6, "Narrowest bar", "The narrowest bar, at first 3."),
+                                            kWidth.Example("3")),
+    property<&BarChart::MaximumColumnWidth>(Setting(7, "Widest bar", "The widest bar, at first 80."),
+                                            kWidth.Example("80")),
     property<&BarChart::MinimumOverlapSpace>(
-        Unit::Pixels, "How far an overlapped bar stands out from the next at least, at first 2."),
-    property<&BarChart::MinimumOverlapCount>(Unit::Count,
-                                             "How many such spaces wide an overlapped bar is, at first 3."),
-    property<&BarChart::TotalGraphFrameWidth>(Unit::Pixels, "The frame's outer width, at first 462."),
-    property<&BarChart::UseStyleSheets>(Unit::Flag, "Style classes in the place of fonts and colours."),
+        Setting(8, "Overlap step",
+                "How far an overlapped bar stands out from the next at least, at first 2."),
+        kWidth.Example("2")),
+    property<&BarChart::MinimumOverlapCount>(
+        Setting(9, "Overlap steps", "How many such steps wide an overlapped bar is, at first 3."),
+        kWidth.In(Unit::Count).Example("3")),
+    property<&BarChart::UseStyleSheets>(
+        Setting(11, "Style sheets", "Style classes in the place of fonts and colours."), kSwitch),
     property<&BarChart::NegativeBars>(
-        Unit::Flag, "Plain and overlapped charts draw values below zero, which else count as 0."),
-    property<&BarChart::SupressLegend>(Unit::Flag, "No legend below the chart."),
-    property<&BarChart::YLabelMode>(Unit::Code,
-                                    "Labelled axis values: 11 all, 3 the middle too, else ends and zero."),
-    property<&BarChart::AltFormatStr>(Unit::Text, "Number format of the bars' tooltips."),
-    property<&BarChart::YLableFormatStr>(Unit::Text, "Number format of the axis values."),
-    property<&BarChart::AltLabelWithLegend>(Unit::Flag, "Tooltips start with the series' name."));
-
-constexpr auto kMembers = kDescription.Table();
+        Setting(12, "Negative bars",
+                "Plain and overlapped charts draw values below zero, which else count as 0."),
+        kSwitch),
+    property<&BarChart::SupressLegend>(Setting(13, "No legend", "No legend below the chart."), kSwitch),
+    property<&BarChart::YLabelMode>(
+        Setting(14, "Axis values",
+                "Which axis values are labelled: 11 all, 3 the middle too, else ends and zero."),
+        Input("value", "Axis values", Unit::Code, "").Of(kLabelMode).Example("11")),
+    property<&BarChart::AltFormatStr>(Setting(15, "Tooltip format", "Number format of the bars' tooltips."),
+                                      kFormat),
+    property<&BarChart::YLableFormatStr>(Setting(16, "Axis format", "Number format of the axis values."),
+                                         kFormat),
+    property<&BarChart::AltLabelWithLegend>(
+        Setting(17, "Names in tooltips", "Tooltips start with the series' name."), kSwitch));
 
 }  // namespace
 
-constinit const ClassInfo kBarChartClass = kDescription.Info(kMembers);
+constinit const ClassInfo kBarChartClass = ClassTables<BarChart, kDescription>::Info();
 
 }  // namespace amortix2

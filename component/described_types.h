@@ -117,15 +117,18 @@ inline constexpr TypeInfo kTypeInfo = MakeTypeInfo<T>();
 
 }  // namespace describing
 
-/// Where the description of a record or an enumeration stands: specialised for each in record_descriptions.h.
+/// The description of a record or an enumeration: specialised for each, in one place (describe_records.h).
+template <class T>
+inline constexpr int kDescribed = 0;
+
+// The same as plain data.
 template <class Record>
-struct DescribedRecord {
-  static const RecordInfo info;
-};
+inline constexpr RecordInfo kRecordInfo = kDescribed<Record>.Info();
 template <class Enumeration>
-struct DescribedEnumeration {
-  static const EnumerationInfo info;
-};
+inline constexpr EnumerationInfo kEnumerationInfo = kDescribed<Enumeration>.Info();
+/// An enumeration's constants as a parameter's choices.
+template <class Enumeration>
+inline constexpr ChoicesInfo kChoicesOf = kDescribed<Enumeration>.Choices(kEnumerationInfo<Enumeration>);
 
 namespace describing {
 
@@ -137,14 +140,14 @@ constexpr TypeInfo MakeTypeInfo() {
   info.create = [] { return static_cast<void*>(new T{}); };
   info.destroy = [](void* value) noexcept { delete static_cast<T*>(value); };
   if constexpr (kind == TypeKind::RecordArray) {
-    info.record = &DescribedRecord<typename ElementOf<T>::Type>::info;
+    info.record = &kRecordInfo<typename ElementOf<T>::Type>;
     info.bounds = [](const void* value) { return BoundsOf(*static_cast<const T*>(value)); };
     info.resize = [](void* value, Bounds bounds) { ResizeTo(*static_cast<T*>(value), bounds); };
     info.at = [](void* value, std::int64_t index) { return Element(*static_cast<T*>(value), index); };
   } else if constexpr (kind == TypeKind::Record) {
-    info.record = &DescribedRecord<T>::info;
+    info.record = &kRecordInfo<T>;
   } else if constexpr (kind != TypeKind::ScriptingContext) {
-    if constexpr (kind == TypeKind::Enumeration) info.enumeration = &DescribedEnumeration<T>::info;
+    if constexpr (kind == TypeKind::Enumeration) info.enumeration = &kEnumerationInfo<T>;
     info.read = Read<T>;
     info.write = Write<T>;
   }

@@ -1,9 +1,10 @@
 #pragma once
 
 // What the component offers, as data: its classes with their members and parameters, its records and its
-// enumerations, each with a unit and a line of help. Hosts are made from these tables alone: they create an
-// object, find a member by name, make one value per parameter, call, and read the values back. Everything
-// here lives as long as the program and never changes.
+// enumerations, each with a title (for labels), a line of help and a unit. Hosts are made from these tables
+// alone: they create an object, find a member by name, make one value per parameter, call, and read the
+// values back. What they tell people beside it is in meaning.h. Everything here lives as long as the program
+// and never changes; what it holds was checked when it was compiled (describe.h).
 
 #include <cstdint>
 #include <memory>
@@ -13,32 +14,9 @@
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/date.h"
 #include "amortix2/automation/variant.h"
+#include "amortix2/component/meaning.h"
 
 namespace amortix2 {
-
-enum class Unit : std::uint8_t {
-  None,              ///< no number (a record, a table, an object)
-  Text,              ///< text
-  Flag,              ///< zero or not zero
-  Count,             ///< a plain count or index
-  Code,              ///< a number of an enumeration
-  Currency,          ///< an amount of money
-  MonthlyCurrency,   ///< an amount of money a month
-  Percent,           ///< percent of an amount
-  AnnualPercent,     ///< percent a year
-  PercentagePoints,  ///< added to an annual percentage
-  Days,
-  Months,
-  Years,
-  Periods,  ///< periods of the plan's own frequency
-  Date,
-  Pixels,
-  Table,  ///< a two-dimensional array of results
-  List,   ///< a one-dimensional array
-};
-
-/// The unit in words ("annual percent").
-std::string_view UnitName(Unit unit) noexcept;
 
 struct RecordInfo;
 struct EnumerationInfo;
@@ -92,6 +70,7 @@ class Value {
 
 struct FieldInfo {
   std::string_view name;
+  std::string_view title;
   Unit unit;
   std::string_view help;
   const TypeInfo* type;
@@ -100,6 +79,7 @@ struct FieldInfo {
 
 struct RecordInfo {
   std::string_view name;
+  std::string_view title;
   std::string_view help;
   std::span<const FieldInfo> fields;  ///< in the order of the record
 };
@@ -107,22 +87,41 @@ struct RecordInfo {
 struct ConstantInfo {
   std::string_view name;
   std::int32_t value;
+  std::string_view title;
   std::string_view help;
 };
 
 struct EnumerationInfo {
   std::string_view name;
+  std::string_view title;
   std::string_view help;
   std::span<const ConstantInfo> constants;
 };
 
 struct ParameterInfo {
   std::string_view name;
+  std::string_view title;
   Unit unit = Unit::None;
   std::string_view help;
+
+  Role role = Role::Input;
+  Omitted omitted = Omitted::Required;  ///< of inputs
+  Range range;                          ///< what makes sense
+  Range limit;                          ///< what a server lets in, so that no call takes long or much memory
+  /// As the command line takes it (a number, an ISO date, a text, JSON for arrays and records). The examples
+  /// of a member's inputs make one sensible request; an input without one is left out of it.
+  std::string_view example;
+  std::string_view echoes;                  ///< of a result: the input that it returns, found or as given
+  const ChoicesInfo* choices = nullptr;     ///< what it may be; null: no choice
+  const TableInfo* table = nullptr;         ///< what its rows and columns are; null for single values
+  std::span<const QuestionInfo> questions;  ///< that a list of answers answers, from index 1 on
+
   bool optional = false;     ///< may be left out, and is Missing then; only variants, at the end
   bool byReference = false;  ///< the callee may change it, and the caller sees the change
   const TypeInfo* type = nullptr;
+
+  constexpr bool IsInput() const { return role == Role::Input || role == Role::InOut; }
+  constexpr bool IsResult() const { return role == Role::Result || role == Role::InOut; }
 };
 
 enum class MemberKind : std::uint8_t {
@@ -132,8 +131,16 @@ enum class MemberKind : std::uint8_t {
 
 struct MemberInfo {
   std::string_view name;
+  std::string_view title;    ///< "Refinancing"
+  std::string_view address;  ///< a short name of its own for addresses: "refinance"; empty for settings
+  Group group;
   MemberKind kind;
   std::string_view help;
+  std::span<const FindInfo> finds;    ///< what it answers; empty for charts, settings and record entries
+  std::span<const ChartInfo> charts;  ///< that show its answer
+  std::span<const ListInfo> lists;    ///< inputs that are lists
+  const ComparisonInfo* comparison;   ///< null when it compares nothing
+  std::string_view horizon;           ///< the input that says how long a loan is kept; empty: none
   std::span<const ParameterInfo> parameters;
   const TypeInfo* result;  ///< null when the member returns nothing
 
@@ -147,9 +154,10 @@ struct MemberInfo {
 
 struct ClassInfo {
   std::string_view name;
+  std::string_view title;
   std::string_view help;
-  std::span<const MemberInfo>
-      members;  ///< a member's place here, from 1, is its dispatch number; only appended to
+  std::span<const MemberInfo> members;         ///< a member's place here, from 1, is its dispatch number
+  std::span<const MemberInfo* const> inOrder;  ///< the same in the order in which they are shown
 
   void* (*create)(const Clock& clock);  ///< the clock must outlive the object
   void (*destroy)(void*) noexcept;
@@ -175,10 +183,23 @@ std::span<const EnumerationInfo* const> Enumerations() noexcept;
 /// True when two names are the same whatever the case of their ASCII letters, as page scripts compare names.
 bool SameName(std::string_view a, std::string_view b) noexcept;
 
+/// A member with the class that it belongs to.
+struct ClassMember {
+  const ClassInfo* type;
+  const MemberInfo* member;
+};
+
+/// The members of all classes in the order in which a person looks for them: by group, and within it as their
+/// classes show them.
+std::span<const ClassMember> MembersInOrder();
+
 // Look-ups by name, whatever the case; null when there is none.
 const ClassInfo* FindClass(std::string_view name) noexcept;
 const MemberInfo* FindMember(const ClassInfo& type, std::string_view name) noexcept;
 const ParameterInfo* FindParameter(const MemberInfo& member, std::string_view name) noexcept;
 const FieldInfo* FindField(const RecordInfo& record, std::string_view name) noexcept;
+
+/// The choice that `text` gives, by its value, its title or its constant's name; null when it gives none.
+const ChoiceInfo* FindChoice(const ChoicesInfo& choices, std::string_view text) noexcept;
 
 }  // namespace amortix2

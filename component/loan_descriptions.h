@@ -1,208 +1,177 @@
 #pragma once
 
-// The members of Calculator that work on records and on one loan or lease, described.
+// The members of Calculator that work on one loan or lease, described in the order in which they are shown.
 
 #include "amortix2/component/calculator.h"
-#include "amortix2/component/record_descriptions.h"
+#include "amortix2/component/describe.h"
+#include "amortix2/component/parameter_descriptions.h"
 
 namespace amortix2::describing {
 
-inline constexpr auto kRecordMembers = std::tuple{
-    method<&Calculator::Amortix>("Computes in place what the calculation type asks of arrays of records, "
-                                 "used from index 1; returns 0.",
-                                 {{"AmortixType", Unit::Code, "What to compute"},
-                                  {"LoanArray", Unit::None, "Loans"},
-                                  {"SavingArray", Unit::None, "Savings accounts"},
-                                  {"GoalArray", Unit::None, "Savings goals"},
-                                  {"Qualification", Unit::None, "The borrower's household"}}),
-    method<&Calculator::LoadDetArray>("Copies a loan's schedule into a table: date, payment, principal, "
-                                      "interest, balance, and the rate if there is "
-                                      "room.",
-                                      {{"loan", Unit::None, "A loan with its schedule"},
-                                       {"atCol", Unit::Count, "The table's first column to write"},
-                                       {"lastRow", Unit::Count, "The last schedule line to copy"},
-                                       {"detArray", Unit::Table, "The table, with rows and columns enough"}}),
-};
-
-inline constexpr Param kLoanType{"vLoanType", Unit::Text, "\"C\" for a credit card, else a simple loan"};
-inline constexpr Param kIgnoredLoanType{"vLoanType", Unit::Text, "Accepted and not read"};
-inline constexpr Param kPurchaseAmt{"vPurchaseAmt", Unit::Currency, "Purchase price"};
-inline constexpr Param kDownPayment{"vDownPayment", Unit::Currency, "Down payment"};
-inline constexpr Param kPeriod{"vPeriod", Unit::Months, "Term, a count of monthly payments"};
-inline constexpr Param kIntRate{"vIntRate", Unit::AnnualPercent, "Interest rate"};
-inline constexpr Param kCloseDate{"vCloseDate", Unit::Date, "Closing, from which interim interest runs"};
-inline constexpr Param kPayDate{"vPayDate", Unit::Date, "First payment; without one the loan starts today"};
-inline constexpr Param kStartDate{"vStartDate", Unit::Date, "Start; today without one"};
-inline constexpr Param kResPurchaseAmt{"vResPurchaseAmt", Unit::Currency, "Amount financed"};
-inline constexpr Param kResPayment{"vResPayment", Unit::MonthlyCurrency, "Monthly payment"};
-inline constexpr Param kResPeriod{"vResPeriod", Unit::Months, "Term"};
-inline constexpr Param kResIntRate{"vResIntRate", Unit::AnnualPercent, "Interest rate"};
-inline constexpr Param kTotPay{"vTotPay", Unit::Currency, "All payments"};
-inline constexpr Param kTotInt{"vTotInt", Unit::Currency, "All interest and charges"};
-inline constexpr Param kDetArray{"vDetArray", Unit::Table,
-                                 "Schedule: date, payment, principal, interest, balance"};
-inline constexpr Param kPropertyTax{"vPropertyTax", Unit::AnnualPercent, "Property tax, of the price"};
-inline constexpr Param kInsurance{"vInsurance", Unit::MonthlyCurrency, "Home insurance"};
-inline constexpr Param kDues{"vDues", Unit::MonthlyCurrency, "Association dues"};
-inline constexpr Param kNewPrincipal{"vNewPrincipal", Unit::Currency, "Largest loan"};
-inline constexpr Param kNewPayment{"vNewPayment", Unit::MonthlyCurrency, "Its payment"};
-inline constexpr Param kNewTaxes{"vNewTaxes", Unit::MonthlyCurrency, "Property tax"};
-inline constexpr Param kNewFees{"vNewFees", Unit::MonthlyCurrency, "Insurance, dues and other charges"};
-inline constexpr Param kNewDet{"vNewDet", Unit::Table,
-                               "Schedule: date, payment, principal, interest, balance"};
-
-inline constexpr Param kIgnored{"vDummy", Unit::None, "Accepted and not read"};
-inline constexpr Param kPrincipal{"vPrincipal", Unit::Currency, "Amount financed; 0 may be found"};
-inline constexpr Param kLeasePayment{"vPayment", Unit::Currency, "Payment; 0 may be found"};
-inline constexpr Param kLeaseRate{"vIntRate", Unit::AnnualPercent, "Interest rate; 0 may be found"};
-inline constexpr Param kPrepays{"vPrepays", Unit::Count, "Payments made in advance"};
-inline constexpr Param kEndingBal{"vEndingBal", Unit::Currency, "Residual value; 0 may be found"};
-inline constexpr Param kResPrincipal{"vResPrincipal", Unit::Currency, "Amount financed"};
-inline constexpr Param kResLeasePayment{"vResPayment", Unit::Currency, "Payment"};
-inline constexpr Param kResPrepays{"vResPrepays", Unit::Count, "Payments made in advance"};
-inline constexpr Param kResEndingBal{"vResEndingBal", Unit::Currency, "Residual value"};
-inline constexpr Param kResTotPayments{"vResTotPayments", Unit::Currency, "All payments before the residual"};
-inline constexpr Param kResTotInterest{"vResTotInterest", Unit::Currency, "All interest"};
-inline constexpr Param kDetArr{"vDetArr", Unit::Table,
-                               "Schedule: date, payment, principal, interest, balance"};
+inline constexpr Param kResPurchaseAmt =
+    Result("vResPurchaseAmt", "Amount financed", Unit::Currency, "Price less down payment");
+inline constexpr Param kLoanTypeNotRead = Ignored("vLoanType");
 
 inline constexpr auto kLoanMembers = std::tuple{
     method<&Calculator::SimpleLoanCalculator>(
-        "A loan that starts today: of amount, payment, term and rate finds the one left at 0.",
-        {kLoanType,
-         {"vPurchaseAmt", Unit::Currency, "Amount; 0 to find it"},
-         {"vPayment", Unit::MonthlyCurrency, "Monthly payment; 0 to find it"},
-         {"vPeriod", Unit::Months, "Term, a count of monthly payments; 0 to find it"},
-         {"vIntRate", Unit::AnnualPercent, "Interest rate; 0 to find it when the rest is given"},
-         kResPurchaseAmt,
-         kResPayment,
-         kResPeriod,
-         kResIntRate,
-         kTotPay,
-         kTotInt,
-         kDetArray}),
-    method<&Calculator::FixedPayment>(
-        "The payment of a fixed-rate purchase loan.",
-        {kIgnoredLoanType, kPurchaseAmt, kDownPayment, kPeriod, kIntRate, kCloseDate, kPayDate,
-         kResPurchaseAmt, kResPayment, kResPeriod, kResIntRate, kTotPay, kTotInt, kDetArray}),
-    method<&Calculator::AdjustablePayment>(
-        "The payment of an adjustable-rate purchase loan.",
-        {kIgnoredLoanType,
-         kPurchaseAmt,
-         kDownPayment,
-         kPeriod,
-         {"vIntRate", Unit::AnnualPercent, "Interest rate at the start"},
-         kCloseDate,
-         kPayDate,
-         {"vRateCap", Unit::AnnualPercent, "Highest rate"},
-         {"vRateInc1", Unit::PercentagePoints, "First change of the rate"},
-         {"vRateInc2", Unit::PercentagePoints, "Each later change of the rate"},
-         {"vIncDelay1", Unit::Months, "Payment number of the first change"},
-         {"vIncDelay2", Unit::Months, "Months between later changes"},
-         kResPurchaseAmt,
-         kResPayment,
-         kResPeriod,
-         kResIntRate,
-         kTotPay,
-         kTotInt,
-         kDetArray}),
+        {
+            .number = 3,
+            .group = Group::Loans,
+            .title = "Loan",
+            .address = "loan",
+            .help = "A loan that starts today: of amount, payment, term and rate finds the one left at 0.",
+            .finds =
+                {
+                    {.input = "vPurchaseAmt",
+                     .figure = "vResPurchaseAmt",
+                     .sentences = {{"{vResPayment} a month for {vResPeriod} pays back a loan of "
+                                    "{vResPurchaseAmt}; interest comes to {vTotInt}."}},
+                     .needs = {"vPayment", "vPeriod"}},
+                    {.input = "vPayment",
+                     .figure = "vResPayment",
+                     .sentences =
+                         {{"The loan costs {vResPayment} a month for {vResPeriod}; interest comes to "
+                           "{vTotInt}."}},
+                     .needs = {"vPeriod"},
+                     .whenAllGiven = true},
+                    {.input = "vPeriod",
+                     .figure = "vResPeriod",
+                     .sentences =
+                         {{"At {vResPayment} a month the loan is paid off after {vResPeriod}; interest "
+                           "comes to {vTotInt}."}}},
+                    {.input = "vIntRate",
+                     .figure = "vResIntRate",
+                     .sentences = {{"The loan's rate is {vResIntRate}; interest comes to {vTotInt}."}}},
+                },
+            .charts = {BalanceChart("vDetArray"), PaymentsChart("vDetArray")},
+        },
+        {Input("vLoanType", "Kind of loan", Unit::Text, "\"C\" for a credit card, else a simple loan")
+             .Of(kLoanKind)
+             .Nothing(),
+         kPurchaseAmt.Titled("Amount").Says("Amount borrowed; 0 to find it").Find().Example("200000"),
+         MonthlyMoney("vPayment", "Monthly payment", "Payment a month; 0 to find it").Find(),
+         kPeriod.Says("Number of monthly payments; 0 to find it").Find(),
+         kIntRate.Says("Nominal rate a year; 0 to find it when the rest is given").Find(),
+         kResPurchaseAmt.Titled("Amount").Says("Amount borrowed").Echoes("vPurchaseAmt"),
+         kResPayment.Echoes("vPayment"), kResPeriod.Echoes("vPeriod"), kResIntRate.Echoes("vIntRate"),
+         kTotPay, kTotInt, kDetArray}),
+
     method<&Calculator::BalloonLoanPaymentCalculator>(
-        "A loan settled before its end by one large payment.",
-        {kPurchaseAmt,
-         kDownPayment,
-         kStartDate,
-         {"vPeriod", Unit::Months, "Term over which the payments are computed"},
-         {"vBalloonAtPeriod", Unit::Months, "Regular payments before the balloon"},
-         kIntRate,
-         {"vPrincipal", Unit::Currency, "Amount financed"},
-         {"vPayment", Unit::MonthlyCurrency, "Monthly payment"},
-         {"vBalloonPayment", Unit::Currency, "The balloon"},
-         {"vTotalAmountFinanced", Unit::Currency, "Amount financed, once more"},
-         {"vTotPayments", Unit::Currency, "All payments"},
-         {"vTotIntCharged", Unit::Currency, "All payments less the amount"},
+        {
+            .number = 6,
+            .group = Group::Loans,
+            .title = "Balloon loan",
+            .address = "balloon",
+            .help = "A loan settled before its end by one large payment.",
+            .finds =
+                {{.figure = "vBalloonPayment",
+                  .sentences = {{"{vPayment} a month, and then a balloon of {vBalloonPayment} settles the "
+                                 "loan of {vPrincipal}; interest comes to {vTotIntCharged}."}}}},
+            .charts = {BalanceChart("vDetArray")},
+        },
+        {kPurchaseAmt, kDownPayment, kStartDate,
+         kPeriod.Says("Number of months over which the payments are computed"),
+         kPeriod.Named("vBalloonAtPeriod")
+             .Titled("Payments before the balloon")
+             .Says("Regular payments before the balloon")
+             .Example("84"),
+         kIntRate, Result("vPrincipal", "Amount financed", Unit::Currency, "Price less down payment"),
+         kResPayment.Named("vPayment"),
+         Result("vBalloonPayment", "Balloon", Unit::Currency, "The last payment, which settles the loan"),
+         Result("vTotalAmountFinanced", "Amount financed again", Unit::Currency, "The same amount once more"),
+         Result("vTotPayments", "Total of payments", Unit::Currency, "Payments and balloon"),
+         Result("vTotIntCharged", "Total interest", Unit::Currency, "Total of payments less the amount"),
          kDetArray}),
+};
+
+// ---- Leases
+
+inline constexpr Param kPrincipal =
+    Money("vPrincipal", "Price", "What the leased object costs now; 0 may be found").Find().Example("30000");
+inline constexpr Param kLeasePayment =
+    Money("vPayment", "Payment", "Payment each period; 0 may be found", 100'000).Find();
+inline constexpr Param kLeaseRate = kIntRate.Says("Nominal rate a year; 0 may be found").Find().Example("6");
+inline constexpr Param kPrepays = Input("vPrepays", "Payments in advance", Unit::Count,
+                                        "Payments made at signing; more than the term count as the term")
+                                      .Span(0, 60, 1)
+                                      .Limit(0, kMostMonths)
+                                      .Zero()
+                                      .Example("1");
+inline constexpr Param kEndingBal =
+    Money("vEndingBal", "Residual value", "Value at the end of the lease; 0 may be found")
+        .Find()
+        .Example("15000");
+inline constexpr Param kResPrincipal =
+    Result("vResPrincipal", "Price", Unit::Currency, "What the leased object costs now").Echoes("vPrincipal");
+inline constexpr Param kResLeasePayment =
+    Result("vResPayment", "Payment", Unit::Currency, "Payment each period").Echoes("vPayment");
+inline constexpr Param kResPrepays =
+    Result("vResPrepays", "Payments in advance", Unit::Count, "Payments made at signing").Echoes("vPrepays");
+inline constexpr Param kResEndingBal =
+    Result("vResEndingBal", "Residual value", Unit::Currency, "Value at the end").Echoes("vEndingBal");
+inline constexpr Param kResTotPayments =
+    Result("vResTotPayments", "Total of payments", Unit::Currency, "All payments before the residual");
+inline constexpr Param kResTotInterest = kTotInt.Named("vResTotInterest").Says("All interest");
+inline constexpr Param kDetArr = kDetArray.Named("vDetArr");
+
+/// What both leases find, in the order in which they look.
+inline constexpr ShortList<FindInfo, 5> kLeaseFinds{
+    {.input = "vEndingBal",
+     .figure = "vResEndingBal",
+     .sentences = {{"The payments leave a residual value of {vResEndingBal}; interest comes to "
+                    "{vResTotInterest}."}},
+     .needs = {"vPrincipal", "vPayment"}},
+    {.input = "vPrincipal",
+     .figure = "vResPrincipal",
+     .sentences = {{"The payments carry a price of {vResPrincipal}; interest comes to {vResTotInterest}."}},
+     .needs = {"vPayment"}},
+    {.input = "vPayment",
+     .figure = "vResPayment",
+     .sentences = {{"The lease costs {vResPayment} each period; interest comes to {vResTotInterest}."}},
+     .whenAllGiven = true},
+    {.input = "vIntRate",
+     .figure = "vResIntRate",
+     .sentences = {{"The lease's rate is {vResIntRate}; interest comes to {vResTotInterest}."}}},
+};
+
+inline constexpr auto kLeaseMembers = std::tuple{
     method<&Calculator::MonthlyLeaseCalculator>(
-        "A lease with monthly payments: finds the residual, the principal, the rate or the payment.",
-        {kIgnored,
-         kPrincipal,
-         kLeasePayment,
-         {"vPeriod", Unit::Months, "Term, a count of payments"},
-         kLeaseRate,
-         kPrepays,
-         kEndingBal,
-         kStartDate,
-         kResPrincipal,
-         kResLeasePayment,
-         kResPeriod,
-         kResIntRate,
-         kResPrepays,
-         kResEndingBal,
-         kResTotPayments,
-         kResTotInterest,
+        {
+            .number = 7,
+            .group = Group::Leases,
+            .title = "Monthly lease",
+            .address = "lease",
+            .help = "A lease with monthly payments: finds the residual, the price, the payment or the rate.",
+            .finds = kLeaseFinds,
+            .charts = {BalanceChart("vDetArr")},
+        },
+        {Ignored("vDummy"), kPrincipal, kLeasePayment, kPeriod.Example("36"), kLeaseRate, kPrepays,
+         kEndingBal, kStartDate, kResPrincipal, kResLeasePayment, kResPeriod.Echoes("vPeriod"),
+         kResIntRate.Echoes("vIntRate"), kResPrepays, kResEndingBal, kResTotPayments, kResTotInterest,
          kDetArr}),
+
     method<&Calculator::SimpleLeaseCalculator>(
-        "A lease with payments and interest at any frequency.",
-        {kIgnored,
-         kPrincipal,
-         kLeasePayment,
-         {"vPeriod", Unit::Periods, "Term, a count of payments"},
-         kLeaseRate,
-         kPrepays,
-         kEndingBal,
-         kStartDate,
-         {"vPayMode", Unit::Code, "Payment frequency (enumFrequencyType)"},
-         {"vIntMode", Unit::Code, "Interest frequency (enumFrequencyType)"},
-         kResPrincipal,
-         kResLeasePayment,
-         {"vResPeriod", Unit::Periods, "Term"},
-         {"vResIntRate", Unit::AnnualPercent, "Rate, 1200 times the growth of one payment period"},
-         kResPrepays,
-         kResEndingBal,
-         kResTotPayments,
-         kResTotInterest,
-         kDetArr}),
-    method<&Calculator::HomeAffordabilityCalculator>("The mortgage that a monthly housing budget carries.",
-                                                     {{"vPayment", Unit::MonthlyCurrency, "Housing budget"},
-                                                      kPropertyTax,
-                                                      kInsurance,
-                                                      kDues,
-                                                      kDownPayment,
-                                                      kPeriod,
-                                                      kIntRate,
-                                                      kNewPrincipal,
-                                                      kNewPayment,
-                                                      kNewTaxes,
-                                                      kNewFees,
-                                                      kNewDet}),
-    method<&Calculator::MortgageQualificationCalculator>(
-        "The mortgage that an income and its debts qualify for.",
-        {{"vAnnualIncome", Unit::Currency, "Gross income a year"},
-         {"vCreditCard", Unit::MonthlyCurrency, "Credit card payments"},
-         {"vCarPayments", Unit::MonthlyCurrency, "Car loan payments"},
-         {"vChildSupport", Unit::MonthlyCurrency, "Child support"},
-         {"vOtherMonthly", Unit::MonthlyCurrency, "Other obligations"},
-         kPropertyTax,
-         kInsurance,
-         kDues,
-         kDownPayment,
-         kPeriod,
-         kIntRate,
-         kNewPrincipal,
-         kNewPayment,
-         kNewTaxes,
-         kNewFees,
-         kNewDet}),
-    method<&Calculator::PaymentGridCalculator>(
-        "Payments for a range of rates (rows) and of down payments (columns).",
-        {{"vPrincipal", Unit::Currency, "Purchase price"},
-         {"vDownPayment", Unit::Currency, "Down payment of the middle column"},
-         {"vIntRate", Unit::AnnualPercent, "Rate of the middle row"},
-         kPeriod,
-         {"vDownChange", Unit::Currency, "Step from column to column"},
-         {"vRateChange", Unit::PercentagePoints, "Step from row to row"},
-         {"vStepX", Unit::Count, "Rates on each side of the middle"},
-         {"vStepY", Unit::Count, "Down payments on each side of the middle"},
-         {"vGrid", Unit::Table, "Payments from row 1 and column 1 on"}}),
+        {
+            .number = 8,
+            .group = Group::Leases,
+            .title = "Lease at any frequency",
+            .address = "lease-frequency",
+            .help = "A lease with payments and interest at any frequency: finds the residual, the price, the "
+                    "payment or the rate.",
+            .finds = kLeaseFinds,
+            .charts = {BalanceChart("vDetArr")},
+        },
+        {Ignored("vDummy"), kPrincipal, kLeasePayment,
+         kPeriod.In(Unit::Periods).Says("Number of payments").Example("12"), kLeaseRate, kPrepays, kEndingBal,
+         kStartDate.Required(),
+         kFreq.Named("vPayMode").Titled("Payment frequency").Says("How often a payment is made").Example("6"),
+         kFreq.Named("vIntMode")
+             .Titled("Interest frequency")
+             .Says("How often interest is charged; what does not fit the payments counts as their frequency"),
+         kResPrincipal, kResLeasePayment,
+         kResPeriod.In(Unit::Periods).Says("Number of payments").Echoes("vPeriod"),
+         kResIntRate.Says("1200 times the growth of one payment period").Echoes("vIntRate"), kResPrepays,
+         kResEndingBal, kResTotPayments, kResTotInterest, kDetArr}),
 };
 
 }  // namespace amortix2::describing

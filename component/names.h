@@ -39,6 +39,11 @@ constexpr bool AllHelpful(const Items& items) {
 }
 
 template <class Items>
+constexpr bool AllTitled(const Items& items) {
+  return std::ranges::none_of(items, [](const auto& item) { return item.title.empty(); });
+}
+
+template <class Items>
 constexpr bool AllDistinct(const Items& items) {
   for (std::size_t i = 0; i < items.size(); ++i) {
     for (std::size_t j = 0; j < i; ++j) {

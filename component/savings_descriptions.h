@@ -1,149 +1,251 @@
 #pragma once
 
-// The members of Calculator that work on one savings or spending plan, described.
+// The members of Calculator that work on one savings or spending plan, described in the order in which they
+// are shown.
 
 #include "amortix2/component/calculator.h"
-#include "amortix2/component/record_descriptions.h"
+#include "amortix2/component/describe.h"
+#include "amortix2/component/parameter_descriptions.h"
 
-namespace amortix2::describing {
+namespace amortix2::describing::savings {
 
-namespace savings {
+inline constexpr Param kStart =
+    kStartDate.Says("Day on which the plan starts; must be a date").Required().Example("2027-01-01");
+inline constexpr Param kStartOrToday = kStartDate.Example("2027-01-01");
+inline constexpr Param kEndOrToday =
+    kStartDate.Named("vEndingDate").Titled("End").Says("Day on which it ends").Example("2037-01-01");
+inline constexpr Param kBalance =
+    Money("vCurrBal", "Balance at the start", "What is there at the start").Zero().Example("5000");
+inline constexpr Param kDeposit =
+    Money("vPayment", "Deposit", "Deposited each period", 1'000'000).Zero().Example("200");
+inline constexpr Param kGoal = Money("vEndingBal", "Goal", "Balance wanted at the end").Example("50000");
+inline constexpr Param kYears =
+    Input("vPeriod", "Years", Unit::Years, "Length of the plan, cut down to whole years")
+        .Span(1, 60, 1)
+        .Limit(0, 100)
+        .Example("10");
+inline constexpr Param kPeriods =
+    Input("vPeriod", "Periods", Unit::Periods, "Number of periods of the frequency; 0 may be found")
+        .Span(0, 1200, 1)
+        .Limit(0, 32767)
+        .Find();
+inline constexpr Param kRate = kIntRate.Says("Interest a year").Span(0, 25, 0.05).Zero().Example("4");
+inline constexpr Param kInterestFreq = kFreq.Says("How often interest is credited");
+inline constexpr Param kDetail =
+    kDetArray.Says("Date, deposit, interest, growth, balance").Of(kSavingsSchedule);
 
-inline constexpr Param kStart{"vStartDate", Unit::Date, "Start of the plan"};
-inline constexpr Param kStartOrToday{"vStartDate", Unit::Date, "Start; today without one"};
-inline constexpr Param kEndOrToday{"vEndingDate", Unit::Date, "End; today without one"};
-inline constexpr Param kBalance{"vCurrBal", Unit::Currency, "Balance at the start"};
-inline constexpr Param kDeposit{"vPayment", Unit::Currency, "Deposit each period"};
-inline constexpr Param kGoal{"vEndingBal", Unit::Currency, "Balance wanted at the end"};
-inline constexpr Param kFrequency{"vFreq", Unit::Code,
-                                  "Frequency of deposits and interest, an enumFrequencyType"};
-inline constexpr Param kYears{"vPeriod", Unit::Years, "Length of the plan, cut down to whole years"};
-inline constexpr Param kRate{"vIntRate", Unit::AnnualPercent, "Interest rate"};
-inline constexpr Param kTaxRate{"vIncTaxRate", Unit::Percent, "Income tax on interest"};
-inline constexpr Param kResBalance{"vResCurrBal", Unit::Currency, "Balance at the start"};
-inline constexpr Param kResRate{"vResIntRate", Unit::AnnualPercent, "Interest rate"};
-inline constexpr Param kDetail{"vDetArray", Unit::Table,
-                               "Schedule: date, deposit, interest, growth, balance"};
+inline constexpr Param kResBalance =
+    Result("vResCurrBal", "Balance at the start", Unit::Currency, "What is there at the start")
+        .Echoes("vCurrBal");
+inline constexpr Param kResDeposit =
+    Result("vResPayment", "Deposit", Unit::Currency, "Deposited each period").Echoes("vPayment");
+inline constexpr Param kResRate =
+    Result("vResIntRate", "Interest rate", Unit::AnnualPercent, "Interest a year").Echoes("vIntRate");
+inline constexpr Param kEndBalance =
+    Result("vEndBal", "Balance at the end", Unit::Currency, "What the plan comes to");
 
-}  // namespace savings
+inline constexpr ShortList<ChartInfo, 3> kCharts{BalanceChart("vDetArray"), GrowthChart("vDetArray")};
 
-inline constexpr auto kSavingsMembers = std::tuple{
-    method<&Calculator::AmountSavedCalculator>("What a savings plan comes to.",
-                                               {savings::kStart,
-                                                savings::kBalance,
-                                                savings::kDeposit,
-                                                savings::kFrequency,
-                                                savings::kYears,
-                                                savings::kRate,
-                                                {"vEndBal", Unit::Currency, "Balance at the end"},
-                                                savings::kDetail}),
-    method<&Calculator::SavingsRateCalculator>(
-        "The interest rate that a savings plan needs to reach its goal.",
-        {savings::kStart,
-         savings::kBalance,
-         savings::kDeposit,
-         savings::kFrequency,
-         savings::kYears,
-         savings::kGoal,
-         {"vIntRate", Unit::AnnualPercent, "Interest rate needed"},
-         savings::kDetail}),
+/// A plan of which always the same is found.
+constexpr About Plan(int number, std::string_view title, std::string_view address, std::string_view help,
+                     const FindInfo& find) {
+  return {.number = number,
+          .group = Group::Savings,
+          .title = title,
+          .address = address,
+          .help = help,
+          .finds = {find},
+          .charts = kCharts};
+}
+
+/// What SimpleSavingsCalculator and IRACalculator find, in the order in which they look.
+constexpr ShortList<FindInfo, 5> Finds(const std::array<FindInfo, 5>& found) {
+  auto finds = found;
+  finds[0].needs = {"vEndingBal"};
+  finds[0].needsOne = {"vCurrBal", "vPayment"};
+  finds[1].needsOne = {"vCurrBal", "vPayment"};
+  finds[1].whenAllGiven = true;
+  return {finds[0], finds[1], finds[2], finds[3], finds[4]};
+}
+
+inline constexpr auto kMembers = std::tuple{
+    method<&Calculator::AmountSavedCalculator>(
+        Plan(18, "Savings plan", "save", "What a savings plan comes to.",
+             {.figure = "vEndBal", .sentences = {{"The plan comes to {vEndBal}."}}}),
+        {kStart, kBalance, kDeposit, kFreq, kYears, kRate, kEndBalance, kDetail}),
+
+    method<&Calculator::DepositCalculator>(
+        Plan(21, "Deposit for a goal", "deposit", "The deposit that a savings plan needs to reach its goal.",
+             {.figure = "vPayment", .sentences = {{"Depositing {vPayment} each period reaches the goal."}}}),
+        {kStart, kBalance, kFreq, kYears, kRate, kGoal,
+         kResDeposit.Named("vPayment").Says("Deposit needed each period").Echoes({}), kDetail}),
+
     method<&Calculator::StartingAmountCalculator>(
-        "The balance that a savings plan needs at its start to reach its goal.",
-        {savings::kStart,
-         savings::kDeposit,
-         savings::kFrequency,
-         savings::kYears,
-         savings::kRate,
-         savings::kGoal,
-         {"vCurrBal", Unit::Currency, "Balance needed at the start"},
-         savings::kDetail}),
-    method<&Calculator::DepositCalculator>("The deposit that a savings plan needs to reach its goal.",
-                                           {savings::kStart,
-                                            savings::kBalance,
-                                            savings::kFrequency,
-                                            savings::kYears,
-                                            savings::kRate,
-                                            savings::kGoal,
-                                            {"vPayment", Unit::Currency, "Deposit needed each period"},
-                                            savings::kDetail}),
-    method<&Calculator::PresentValueCalculator>("What a sum at a later date is worth at the start.",
-                                                {savings::kStartOrToday,
-                                                 savings::kEndOrToday,
-                                                 {"vEndingBal", Unit::Currency, "Sum at the end"},
-                                                 savings::kRate,
-                                                 savings::kFrequency,
-                                                 {"vCurrBal", Unit::Currency, "Its worth at the start"},
-                                                 savings::kDetail}),
-    method<&Calculator::FutureValueCalculator>("What a sum grows to by a later date.",
-                                               {savings::kStartOrToday,
-                                                savings::kEndOrToday,
-                                                {"vCurrBal", Unit::Currency, "Sum at the start"},
-                                                savings::kRate,
-                                                savings::kFrequency,
-                                                {"vEndingBal", Unit::Currency, "What it comes to at the end"},
-                                                savings::kDetail}),
-    method<&Calculator::YieldCalculator>(
-        "The interest rate that turns one sum into another.",
-        {savings::kStartOrToday,
-         savings::kEndOrToday,
-         {"vCurrBal", Unit::Currency, "Sum at the start"},
-         {"vEndingBal", Unit::Currency, "Sum at the end"},
-         savings::kFrequency,
-         {"vIntRate", Unit::AnnualPercent, "Interest rate needed"},
-         {"vResEndingBal", Unit::Currency, "What the sum comes to at that rate"},
-         savings::kDetail}),
+        Plan(20, "Starting balance for a goal", "starting-balance",
+             "The balance that a savings plan needs at its start to reach its goal.",
+             {.figure = "vCurrBal", .sentences = {{"Starting with {vCurrBal} reaches the goal."}}}),
+        {kStart, kDeposit, kFreq, kYears, kRate, kGoal,
+         kResBalance.Named("vCurrBal").Says("Balance needed at the start").Echoes({}), kDetail}),
+
+    method<&Calculator::SavingsRateCalculator>(
+        Plan(19, "Rate for a goal", "savings-rate",
+             "The interest rate that a savings plan needs to reach its goal.",
+             {.figure = "vIntRate", .sentences = {{"A rate of {vIntRate} reaches the goal."}}}),
+        {kStart, kBalance, kDeposit, kFreq, kYears, kGoal,
+         kResRate.Named("vIntRate").Says("Interest a year that is needed").Echoes({}), kDetail}),
+
     method<&Calculator::SimpleSavingsCalculator>(
-        "Of balance, deposit, goal, term and rate of a savings plan, finds the one that is 0; the goal when "
-        "none is.",
-        {savings::kStart,
-         {"vCurrBal", Unit::Currency, "Balance at the start; 0 may be found"},
-         {"vPayment", Unit::Currency, "Deposit each period; 0 may be found"},
-         savings::kFrequency,
-         {"vEndingBal", Unit::Currency, "Balance wanted at the end; 0 may be found"},
-         {"vPeriod", Unit::Periods, "Length of the plan; 0 may be found"},
-         {"vIntRate", Unit::AnnualPercent, "Interest rate; 0 may be found"},
-         savings::kTaxRate,
-         savings::kResBalance,
-         {"vResPayment", Unit::Currency, "Deposit each period"},
-         {"vResEndingBal", Unit::Currency, "Balance at the end"},
-         {"vResEndDate", Unit::Date, "End of the plan"},
-         savings::kResRate,
-         savings::kDetail}),
-    method<&Calculator::IRACalculator>(
-        "A retirement account with yearly contributions: finds the quantity that is 0, and the balance after "
-        "tax.",
-        {savings::kStart,
-         {"vTyp", Unit::Text, "\"T\" for an account that is taxed on withdrawal"},
-         {"vCurrBal", Unit::Currency, "Balance at the start; 0 may be found"},
-         {"vPayment", Unit::Currency, "Contribution each year; 0 may be found"},
-         {"vEndingBal", Unit::Currency, "Balance wanted at the end, after tax; 0 may be found"},
-         {"vPeriod", Unit::Years, "Length of the plan; 0 may be found"},
-         {"vIntRate", Unit::AnnualPercent, "Interest rate; 0 may be found"},
-         {"vIncTaxRate", Unit::Percent, "Income tax on withdrawal"},
-         {"vGrid", Unit::List,
-          "From 1: balance, contribution, ending balance before and after tax, end date, rate"},
-         savings::kDetail}),
-    method<&Calculator::SpendingCalculator>(
-        "Of balance, withdrawal, rate and term of a plan that spends a balance down, finds the one that is "
-        "0; the "
-        "withdrawal when none is.",
-        {savings::kStart,
-         {"vCurrBal", Unit::Currency, "Balance at the start; 0 may be found"},
-         {"vPayment", Unit::Currency, "Withdrawal each period; 0 may be found"},
-         {"vIntRate", Unit::AnnualPercent, "Interest rate; 0 may be found"},
-         {"vFreq", Unit::Code, "Frequency of withdrawals and interest, an enumFrequencyType"},
-         {"vPeriod", Unit::Periods, "Length of the plan; 0 may be found"},
-         savings::kResBalance,
-         {"vResPayment", Unit::Currency, "Withdrawal each period"},
-         savings::kResRate,
-         {"vResPeriod", Unit::Periods, "How long the balance lasts; -1: for ever"},
-         savings::kDetail}),
-    method<&Calculator::LoadSaveDetArray>(
-        "Copies a savings account's schedule into a table: date, deposit, interest, growth, balance.",
-        {{"save", Unit::None, "A savings account with its schedule"},
-         {"atCol", Unit::Count, "The table's first column to write"},
-         {"lastRow", Unit::Count, "The last schedule line to copy"},
-         {"detArray", Unit::Table, "The table, with rows and columns enough"}}),
+        {
+            .number = 25,
+            .group = Group::Savings,
+            .title = "Savings, any unknown",
+            .address = "savings",
+            .help =
+                "Of balance, deposit, goal, term and rate of a savings plan, finds the one that is 0; the "
+                "goal when none is.",
+            .finds =
+                Finds({{{.input = "vPeriod",
+                         .figure = "vResEndDate",
+                         .sentences = {{"The goal of {vResEndingBal} is reached on {vResEndDate}."}}},
+                        {.input = "vEndingBal",
+                         .figure = "vResEndingBal",
+                         .sentences = {{"The plan comes to {vResEndingBal} on {vResEndDate}."}}},
+                        {.input = "vPayment",
+                         .figure = "vResPayment",
+                         .sentences = {{"Depositing {vResPayment} each period reaches {vResEndingBal} on "
+                                        "{vResEndDate}."}}},
+                        {.input = "vCurrBal",
+                         .figure = "vResCurrBal",
+                         .sentences = {{"Starting with {vResCurrBal} reaches {vResEndingBal} on "
+                                        "{vResEndDate}."}}},
+                        {.input = "vIntRate",
+                         .figure = "vResIntRate",
+                         .sentences = {{"A rate of {vResIntRate} reaches {vResEndingBal} on "
+                                        "{vResEndDate}."}}}}}),
+            .charts = kCharts,
+        },
+        {kStart, kBalance.Says("What is there at the start; 0 may be found").Find(),
+         kDeposit.Says("Deposited each period; 0 may be found").Find(), kFreq,
+         kGoal.Says("Balance wanted at the end; 0 may be found").Find().NoExample(),
+         kPeriods.Titled("Deposits").Example("120"), kRate.Says("Interest a year; 0 may be found").Find(),
+         kIncTaxRate.Says("Income tax on interest").Example("20"), kResBalance, kResDeposit,
+         kEndBalance.Named("vResEndingBal").Echoes("vEndingBal"),
+         Result("vResEndDate", "End", Unit::Date, "Day on which the plan ends"), kResRate, kDetail}),
+
+    method<&Calculator::FutureValueCalculator>(
+        Plan(23, "Future value", "future-value", "What a sum grows to by a later date.",
+             {.figure = "vEndingBal", .sentences = {{"The sum grows to {vEndingBal}."}}}),
+        {kStartOrToday, kEndOrToday, kBalance.Titled("Sum now").Says("Sum at the start").Required(), kRate,
+         kInterestFreq, kEndBalance.Named("vEndingBal").Titled("Sum later").Says("What the sum comes to"),
+         kDetail}),
+
+    method<&Calculator::PresentValueCalculator>(
+        Plan(22, "Present value", "present-value", "What a sum at a later date is worth at the start.",
+             {.figure = "vCurrBal", .sentences = {{"The sum is worth {vCurrBal} at the start."}}}),
+        {kStartOrToday, kEndOrToday, kGoal.Titled("Sum later").Says("Sum at the end"), kRate, kInterestFreq,
+         Result("vCurrBal", "Sum now", Unit::Currency, "Its worth at the start"), kDetail}),
+
+    method<&Calculator::YieldCalculator>(
+        Plan(24, "Yield", "yield", "The interest rate that turns one sum into another.",
+             {.figure = "vIntRate",
+              .sentences = {{"A rate of {vIntRate} turns the one sum into the other."}}}),
+        {kStartOrToday, kEndOrToday, kBalance.Titled("Sum now").Says("Sum at the start").Required(),
+         kGoal.Titled("Sum later").Says("Sum at the end").Example("8000"), kInterestFreq,
+         kResRate.Named("vIntRate").Says("Interest a year that is needed").Echoes({}),
+         kEndBalance.Named("vResEndingBal")
+             .Titled("Sum at that rate")
+             .Says("What the sum comes to at that rate, to three decimals"),
+         kDetail}),
 };
 
-}  // namespace amortix2::describing
+// ---- Retirement
+
+inline constexpr auto kRetirementMembers = std::tuple{
+    method<&Calculator::IRACalculator>(
+        {
+            .number = 26,
+            .group = Group::Retirement,
+            .title = "Retirement account",
+            .address = "retirement",
+            .help = "A retirement account with yearly contributions: finds the quantity that is 0, and the "
+                    "balance after tax.",
+            .finds =
+                Finds({{{.input = "vPeriod",
+                         .figure = "vGrid(5)",
+                         .sentences = {{"The account reaches {vGrid(4)} after tax on {vGrid(5)}."}}},
+                        {.input = "vEndingBal",
+                         .figure = "vGrid(4)",
+                         .sentences = {{"The account comes to {vGrid(4)} after tax, {vGrid(3)} before."}}},
+                        {.input = "vPayment",
+                         .figure = "vGrid(2)",
+                         .sentences = {{"Contributing {vGrid(2)} a year reaches {vGrid(4)} after tax."}}},
+                        {.input = "vCurrBal",
+                         .figure = "vGrid(1)",
+                         .sentences = {{"Starting with {vGrid(1)} reaches {vGrid(4)} after tax."}}},
+                        {.input = "vIntRate",
+                         .figure = "vGrid(6)",
+                         .sentences = {{"A rate of {vGrid(6)} reaches {vGrid(4)} after tax."}}}}}),
+            .charts = kCharts,
+        },
+        {kStart,
+         Input("vTyp", "Kind of account", Unit::Text, "\"T\" for an account that is taxed on withdrawal")
+             .Of(kAccountKind)
+             .Nothing()
+             .Example("T"),
+         kBalance.Says("What is there at the start; 0 may be found").Find().Example("20000"),
+         kDeposit.Titled("Contribution").Says("Contributed each year; 0 may be found").Find().Example("5000"),
+         kGoal.Says("Balance wanted at the end, after tax; 0 may be found").Find().NoExample(),
+         kYears.Says("Length of the plan; 0 may be found").Find().Span(0, 60, 1).Example("25"),
+         kRate.Says("Interest a year; 0 may be found").Find().Example("6"),
+         kIncTaxRate.Says("Income tax on withdrawal").Example("22"),
+         Result("vGrid", "The account", Unit::List,
+                "From 1: balance, contribution, ending balance before and after tax, end date, rate")
+             .Of(kRetirementList),
+         kDetail}),
+
+    method<&Calculator::SpendingCalculator>(
+        {
+            .number = 27,
+            .group = Group::Retirement,
+            .title = "Spending plan",
+            .address = "spend",
+            .help =
+                "Of balance, withdrawal, rate and term of a plan that spends a balance down, finds the one "
+                "that is 0; the withdrawal when none is.",
+            .finds =
+                {
+                    {.input = "vPeriod",
+                     .figure = "vResPeriod",
+                     .sentences = {{.text =
+                                        "The interest covers the withdrawals: the balance lasts for ever.",
+                                    .when = SentenceInfo::When::Equal,
+                                    .figure = "vResPeriod",
+                                    .value = -1},
+                                   {"The balance lasts for {vResPeriod}."}},
+                     .needs = {"vPayment", "vCurrBal"}},
+                    {.input = "vPayment",
+                     .figure = "vResPayment",
+                     .sentences = {{"{vResPayment} can be withdrawn each period for {vResPeriod}."}},
+                     .needs = {"vCurrBal"},
+                     .whenAllGiven = true},
+                    {.input = "vCurrBal",
+                     .figure = "vResCurrBal",
+                     .sentences = {{"A balance of {vResCurrBal} carries the withdrawals for {vResPeriod}."}}},
+                    {.input = "vIntRate",
+                     .figure = "vResIntRate",
+                     .sentences = {{"At a rate of {vResIntRate} the balance lasts for {vResPeriod}."}}},
+                },
+            .charts = {BalanceChart("vDetArray")},
+        },
+        {kStart, kBalance.Says("What is there at the start; 0 may be found").Find().Example("300000"),
+         kDeposit.Titled("Withdrawal").Says("Withdrawn each period; 0 may be found").Find().Example("2000"),
+         kRate.Says("Interest a year; 0 may be found").Find(),
+         kFreq.Says("How often money is withdrawn and interest is credited"), kPeriods.Titled("Withdrawals"),
+         kResBalance, kResDeposit.Titled("Withdrawal").Says("Withdrawn each period"), kResRate,
+         Result("vResPeriod", "Withdrawals", Unit::Periods,
+                "How many periods the balance lasts; -1: for ever")
+             .Echoes("vPeriod"),
+         kDetArray.Says("Date, withdrawal, interest, growth, balance").Of(kSpendingSchedule)}),
+};
+
+}  // namespace amortix2::describing::savings

@@ -110,7 +110,7 @@ std::vector<Line> FieldLines(const RecordInfo& record, const void* value) {
     if (IsRecords(*field.type)) continue;
     Variant single = field.type->read(FieldOf(field, value));
     if (ToDouble(single) == 0) continue;
-    lines.push_back({field.name, std::move(single), field.unit, field.help, field.type->enumeration});
+    lines.push_back({field.name, std::move(single), field.unit, field.title, field.type->enumeration});
   }
   return lines;
 }
@@ -121,7 +121,7 @@ void AppendRecord(std::string& out, const Title& title, const RecordInfo& record
   AppendLines(out, lines);
   for (const FieldInfo& field : record.fields) {
     if (!IsRecords(*field.type)) continue;
-    const Title list{title.name + "." + std::string(field.name), field.help};
+    const Title list{title.name + "." + std::string(field.name), field.title};
     AppendSchedule(out, list, *field.type, FieldOf(field, value));
   }
 }
@@ -171,11 +171,11 @@ std::string ReadableAnswer(const Call& call, const Request& request) {
   std::vector<Line> lines;
   std::string blocks;
   const auto add = [&](const ParameterInfo& info, const Value& value) {
-    AppendBlock(blocks, {std::string(info.name), info.help}, value);
+    AppendBlock(blocks, {std::string(info.name), info.title}, value);
     if (!value.Type().read) return;
     Variant single = value.Type().read(value.Get());
     if (ArrayIn(single)) return;
-    lines.push_back({info.name, std::move(single), info.unit, info.help, value.Type().enumeration});
+    lines.push_back({info.name, std::move(single), info.unit, info.title, value.Type().enumeration});
   };
   for (std::size_t i = 0; i < call.Arguments().size(); ++i) {
     const ParameterInfo& parameter = call.Method()->parameters[i];

@@ -191,14 +191,14 @@ TEST_F(Program, AReadableAnswerIsAlignedAndWithoutNoise) {
       Run("call Calculator.SimpleLoanCalculator vPurchaseAmt=1000 vPeriod=2 vIntRate=6.5 --today 2001-01-31"),
       0);
   // 1000 at 6.5/12 % a month: 5.42 and 2.72 of interest, so two payments of 504.07.
-  EXPECT_EQ(Read("out"), R"(vResPurchaseAmt  1000.00  Amount financed
+  EXPECT_EQ(Read("out"), R"(vResPurchaseAmt  1000.00  Amount
 vResPayment       504.07  Monthly payment (currency a month)
 vResPeriod             2  Term (months)
 vResIntRate          6.5  Interest rate (annual percent)
-vTotPay          1008.14  All payments
-vTotInt             8.14  All interest and charges
+vTotPay          1008.14  Total of payments
+vTotInt             8.14  Total interest
 
-vDetArray: Schedule: date, payment, principal, interest, balance (rows 0 to 2, columns 0 to 5)
+vDetArray: Schedule (rows 0 to 2, columns 0 to 5)
    1                2       3     4        5
 0  01-31-2001    0.00    0.00  0.00  1000.00
 1  02-28-2001  504.07  498.65  5.42   501.35
