@@ -60,13 +60,13 @@ class BiWeeklySchedule {
         dates_(loan),
         fullPayment_(loan.payment),
         halfPayment_(RoundToCents(loan.payment / 2)),
-        running_{loan.startingBalance, loan.payment, loan.taxRate / 100} {
+        running_{Amount(loan.startingBalance), Amount(loan.payment), loan.taxRate / 100} {
     loan_.schedule.assign(1, OpeningLine(loan));
   }
 
   bool CoversInterest() const {
-    const double interest = RoundToCents(running_.balance * GrowthOver(kHalfPaymentDays)) - running_.balance;
-    return halfPayment_ > interest;
+    const Amount balance = running_.balance;
+    return halfPayment_ > (RoundToCents(balance * GrowthOver(kHalfPaymentDays)) - balance).value;
   }
 
   void RunUntil(Date end) {
@@ -76,7 +76,7 @@ class BiWeeklySchedule {
   void RunUntilPaid() {
     do {
       WriteLine();
-    } while (running_.balance > 0);
+    } while (running_.balance.value > 0);
     const Date last = loan_.schedule.back().lineDate;
     std::int32_t months = PeriodsBetween(loan_.startDate, monthlyMode, last);
     if (months < 1 || MonthsAfter(loan_.startDate, months) < last) ++months;
@@ -85,7 +85,7 @@ class BiWeeklySchedule {
 
   /// The whole debt and its interest on the plan's first date.
   void PayAtOnce() {
-    fullPayment_ = halfPayment_ = Grown(dates_.Next());
+    fullPayment_ = halfPayment_ = Grown(dates_.Next()).value;
     WriteLine();
     loan_.payment = fullPayment_;
     loan_.period = 1;
@@ -94,7 +94,7 @@ class BiWeeklySchedule {
  private:
   double GrowthOver(std::int32_t days) const { return 1 + loan_.intRate * days / 36500; }
 
-  double Grown(Date date) const {
+  Amount Grown(Date date) const {
     const std::int32_t days = date.serial - loan_.schedule.back().lineDate.serial;
     return RoundToCents(running_.balance *
                         (dates_.IsMonthly() ? MonthlyGrowth(loan_.intRate) : GrowthOver(days)));
@@ -105,8 +105,8 @@ class BiWeeklySchedule {
     tSchedule line;
     line.lineDate = dates_.Next();
     line.intRate = loan_.intRate;
-    const double grown = Grown(line.lineDate);
-    running_.payment = dates_.IsMonthly() ? fullPayment_ : halfPayment_;
+    const Amount grown = Grown(line.lineDate);
+    running_.payment = Amount(dates_.IsMonthly() ? fullPayment_ : halfPayment_);
     running_.Pay(line, grown, RoundToCents(grown - running_.balance));
     loan_.schedule.push_back(line);
     dates_.Advance();

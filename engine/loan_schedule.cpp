@@ -53,153 +53,133 @@ struct Layout {
   }
 };
 
-/// The cost of a monthly loan up to the sale, line after line.
-class MonthlyCost {
+/// Writes the lines. What changes from line to line stands in locals, which stay in registers; members would
+/// go through memory beside each line.
+class MonthlyLines {
  public:
-  MonthlyCost(const tCreditQualification& qualification, const Layout& layout)
-      : totals_(qualification),
-        discountGrowth_(MonthlyGrowth(qualification.investmentGrowthRate)),
-        homeGrowthAYear_(1 + qualification.homeValueGrowthRate / 100),
-        horizon_(Horizon(layout, qualification.monthsToKeep)) {}
+  MonthlyLines(const tLoanDesc& loan, const Layout& layout, bool settleRemainder)
+      : loan_(loan), layout_(layout), settleRemainder_(settleRemainder) {}
 
-  void Add(const tSchedule& line) {
-    if (month_ > horizon_) return CostTotals::PassOver(line);
-    totals_.AddLine(line, discount_);
-    if (month_ > 0) totals_.AddCharges(discount_, homeGrowth_);
-    discount_ *= discountGrowth_;
-    if (--monthsToAnniversary_ == 0) {
-      homeGrowth_ *= homeGrowthAYear_;
-      monthsToAnniversary_ = 12;
-    }
-    balance_ = line.endingBalance;
-    ++month_;
-  }
-
-  void AddInterest(const tSchedule& line) { totals_.AddInterest(line); }
-
-  void Store(tLoanDesc& loan) {
-    totals_.Sell(loan, balance_, homeGrowth_, discountGrowth_, discount_);
-    totals_.Store(loan);
+  /// Raises what BuildLoanSchedule raises.
+  std::vector<tSchedule> Write() {
+    MonthlyDates dates(loan_.startDate, layout_.payments);
+    const bool isLease = loan_.typ == loanAsLease;
+    std::vector<tSchedule> lines(static_cast<std::size_t>(layout_.last) + (isLease ? 2 : 1));
+    tSchedule* line = lines.data();
+    *line++ = OpeningLine(loan_);
+    RunningLoan running{Amount(loan_.startingBalance), Amount(loan_.payment), loan_.taxRate / 100};
+    if (isLease) WritePrepaidLine(*line++, running);
+    const double growth = WriteRegularLines(line, running, dates);
+    if (settleRemainder_) SettleRemainder(lines.back(), running);
+    if (isLease) CloseLease(lines.back(), running, growth);
+    return lines;
   }
 
  private:
-  static int Horizon(const Layout& layout, double monthsToKeep) {
-    const bool isShorter = monthsToKeep >= 1 && monthsToKeep <= layout.payments;
-    return isShorter ? ToInteger(monthsToKeep) : layout.last;
-  }
-
-  CostTotals totals_;
-  double discountGrowth_;
-  double homeGrowthAYear_;
-  double discount_ = 1;
-  double homeGrowth_ = 1;
-  double balance_ = 0;
-  int horizon_;
-  int month_ = 0;
-  int monthsToAnniversary_ = 13;  // the opening line is no month
-};
-
-/// Builds the lines and sums them in one pass: the chain of rounded balances leaves the processor idle
-/// enough.
-class MonthlySchedule {
- public:
-  MonthlySchedule(tLoanDesc& loan, const tCreditQualification& qualification, bool settleRemainder)
-      : loan_(loan),
-        settleRemainder_(settleRemainder),
-        layout_(Layout::Of(loan)),
-        dates_(loan.startDate, layout_.payments),
-        rate_(loan),
-        growth_(MonthlyGrowth(loan.intRate)),
-        running_{loan.startingBalance, loan.payment, loan.taxRate / 100},
-        cost_(qualification, layout_) {}
-
-  void Build() {
-    loan_.schedule.clear();
-    loan_.schedule.reserve(static_cast<std::size_t>(layout_.last) + 2);  // a lease has a closing line too
-    cost_.Add(loan_.schedule.emplace_back(OpeningLine(loan_)));
-    if (loan_.typ == loanAsLease) WritePrepaidLine();
-    for (int k = 1; k <= layout_.regular; ++k) WriteRegularLine(k);
-    if (loan_.typ == loanAsLease) CloseLease();
-    cost_.Store(loan_);
-  }
-
- private:
-  void WritePrepaidLine() {
-    tSchedule& line = loan_.schedule.emplace_back();
+  void WritePrepaidLine(tSchedule& line, RunningLoan& running) const {
     line.lineDate = loan_.startDate;
-    line.startingBalance = running_.balance;
-    line.payment = running_.payment * loan_.numberPrepays;
-    running_.balance -= line.payment;
-    line.endingBalance = running_.balance;
-    cost_.Add(line);
+    line.startingBalance = running.balance.value;
+    line.payment = running.payment.value * loan_.numberPrepays;
+    running.balance = running.balance - Amount(line.payment);
+    line.endingBalance = running.balance.value;
   }
 
-  void WriteRegularLine(int k) {
-    if (rate_.StepTo(k)) {
-      growth_ = MonthlyGrowth(rate_.Rate());
-      running_.payment =
-          RoundToCents(Divide(running_.balance, AnnuityFactor(growth_, layout_.regular - k + 1)));
+  /// Returns the growth of the last line.
+  [[gnu::noinline]] double WriteRegularLines(tSchedule* line, RunningLoan& runningLoan,
+                                             MonthlyDates dates) const {
+    RunningLoan running = runningLoan;
+    AdjustableRate rate(loan_);
+    double growth = MonthlyGrowth(loan_.intRate);
+    double annualRate = (growth - 1) * 1200;
+    const bool isCard = loan_.typ == creditCard;
+    for (int k = 1; k <= layout_.regular; ++k, ++line) {
+      if (rate.StepTo(k)) {
+        growth = MonthlyGrowth(rate.Rate());
+        annualRate = (growth - 1) * 1200;
+        const double factor = AnnuityFactor(growth, layout_.regular - k + 1);
+        running.payment = Amount(RoundToCents(Divide(running.balance.value, factor)));
+      }
+      line->lineDate = dates.Next();
+      line->intRate = annualRate;
+      if (isCard && k >= 2) {
+        // The card's payments fall in mid-month: half of this one has been owed all month.
+        const Amount interest = RoundToCents((running.balance + running.payment * 0.5) * (growth - 1));
+        running.Pay(*line, running.balance + interest, interest);
+      } else {
+        const Amount grown = RoundToCents(running.balance * growth);
+        running.Pay(*line, grown, RoundToCents(grown - running.balance));
+      }
     }
-    tSchedule& line =
-        loan_.schedule.emplace_back();  // filled in place: a copy would cost as much as the rest
-    line.lineDate = dates_.Next();
-    line.intRate = (growth_ - 1) * 1200;
-    if (loan_.typ == creditCard && k >= 2) {
-      // The card's payments fall in mid-month: half of this one has been owed all month.
-      const double interest = RoundToCents((running_.balance + running_.payment / 2) * (growth_ - 1));
-      running_.Pay(line, running_.balance + interest, interest);
-    } else {
-      const double grown = RoundToCents(running_.balance * growth_);
-      running_.Pay(line, grown, RoundToCents(grown - running_.balance));
-    }
-    if (settleRemainder_ && k == layout_.regular) SettleRemainder(line);
-    cost_.Add(line);
+    runningLoan = running;
+    return growth;
   }
 
   /// What a term that was searched for leaves is paid with its last payment.
-  void SettleRemainder(tSchedule& last) {
-    last.payment += running_.balance;
-    last.endingBalance = running_.balance = 0;
+  static void SettleRemainder(tSchedule& last, RunningLoan& running) {
+    last.payment += running.balance.value;
+    running.balance = {};
+    last.endingBalance = 0;
   }
 
   /// A lease's balance grows on for each month that was paid in advance; then it is paid at once.
-  void CloseLease() {
-    tSchedule& line = loan_.schedule.emplace_back();
+  void CloseLease(tSchedule& line, const RunningLoan& running, double growth) const {
     line.lineDate = AdvanceDate(loan_.startDate, monthlyMode, layout_.payments);
-    line.startingBalance = running_.balance;
-    line.intRate = (growth_ - 1) * 1200;
-    double grown = running_.balance;
-    for (int month = 0; month < loan_.numberPrepays; ++month) grown = RoundToCents(grown * growth_);
-    line.intCharged = RoundToCents(grown - running_.balance);
-    line.taxCredited = running_.taxFraction * line.intCharged;
-    line.payment = grown;
-    loan_.residualAmount = grown;
-    cost_.AddInterest(line);
+    line.startingBalance = running.balance.value;
+    line.intRate = (growth - 1) * 1200;
+    Amount grown = running.balance;
+    for (int month = 0; month < loan_.numberPrepays; ++month) grown = RoundToCents(grown * growth);
+    line.intCharged = RoundToCents(grown - running.balance).value;
+    line.taxCredited = running.taxFraction * line.intCharged;
+    line.payment = grown.value;
   }
 
-  tLoanDesc& loan_;
+  const tLoanDesc& loan_;
+  const Layout& layout_;
   bool settleRemainder_;
-  Layout layout_;
-  MonthlyDates dates_;
-  AdjustableRate rate_;
-  double growth_;
-  RunningLoan running_;
-  MonthlyCost cost_;
 };
+
+/// Sums the lines up to the sale into the loan's totals and present values.
+[[gnu::noinline]] void SumCost(tLoanDesc& loan, const tCreditQualification& qualification,
+                               const Layout& layout) {
+  const bool isShorter = qualification.monthsToKeep >= 1 && qualification.monthsToKeep <= layout.payments;
+  const int horizon = isShorter ? ToInteger(qualification.monthsToKeep) : layout.last;
+  const double discountGrowth = MonthlyGrowth(qualification.investmentGrowthRate);
+  const double homeGrowthAYear = 1 + qualification.homeValueGrowthRate / 100;
+  double discount = 1;
+  double homeGrowth = 1;
+  double balance = 0;
+  CostTotals totals(qualification);
+  for (int month = 0; month <= layout.last; ++month) {
+    const tSchedule& line = loan.schedule[static_cast<std::size_t>(month)];
+    if (month > horizon) {
+      CostTotals::PassOver(line);
+      continue;
+    }
+    totals.AddLine(line, discount);
+    if (month > 0) totals.AddCharges(discount, homeGrowth);
+    discount *= discountGrowth;
+    if (month > 0 && month % 12 == 0) homeGrowth *= homeGrowthAYear;
+    balance = line.endingBalance;
+  }
+  CostTotals sold = totals;  // a copy, so that the sums of the loop stay in registers
+  if (loan.typ == loanAsLease) sold.AddInterest(loan.schedule.back());
+  sold.Sell(loan, balance, homeGrowth, discountGrowth, discount);
+  sold.Store(loan);
+}
 
 }  // namespace
 
 TermFound FindTerm(const tLoanDesc& loan) {
   const double growth = MonthlyGrowth(loan.intRate);
-  const double payment = loan.payment;
-  double balance = loan.startingBalance;
+  const Amount payment(loan.payment);
+  Amount balance(loan.startingBalance);
   for (std::int16_t months = 0; months < std::numeric_limits<std::int16_t>::max();) {
     balance = loan.typ == creditCard && months >= 1
-                  ? RoundToCents((balance + payment / 2) * growth - payment - payment / 2)
+                  ? RoundToCents((balance + payment * 0.5) * growth - payment - payment * 0.5)
                   : RoundToCents(balance * growth) - payment;
-    if (balance >= loan.startingBalance) return {1, balance + payment};
+    if (balance.value >= loan.startingBalance) return {1, balance.value + payment.value};
     ++months;
-    if (payment * 0.25 >= balance) return {months, payment};
+    if (payment.value * 0.25 >= balance.value) return {months, payment.value};
   }
   Raise(ErrorNumber::Overflow);
 }
@@ -212,7 +192,10 @@ void BuildLoanSchedule(tLoanDesc& loan, const tCreditQualification& qualificatio
     loan.period = found.payments;
     loan.payment = found.payment;
   }
-  MonthlySchedule(loan, qualification, isTermUnknown).Build();
+  const Layout layout = Layout::Of(loan);
+  loan.schedule = MonthlyLines(loan, layout, isTermUnknown).Write();
+  if (loan.typ == loanAsLease) loan.residualAmount = loan.schedule.back().payment;
+  SumCost(loan, qualification, layout);
 }
 
 }  // namespace amortix2

@@ -19,7 +19,7 @@ void CostTotals::Sell(const tLoanDesc& loan, double balanceOwed, double homeGrow
                       double discount) {
   balanceOwedPV_ = Divide(growth * balanceOwed, Finite(discount));
   costPV_ += balanceOwedPV_;
-  const double price = loan.startingBalance + qualification_.downPaymentAmount;
+  const double price = loan.startingBalance + downPayment_;
   valuePV_ = Divide(RoundToCents(price * homeGrowth) * growth, discount);
 }
 

@@ -3,6 +3,7 @@
 // What monthly and bi-weekly schedules have in common: the opening line, the cut of a last payment, and the
 // totals with their present values.
 
+#include "amortix2/engine/amount.h"
 #include "amortix2/engine/records.h"
 #include "amortix2/engine/rounding.h"
 
@@ -14,22 +15,22 @@ tSchedule OpeningLine(const tLoanDesc& loan);
 
 /// A balance and the payment that works on it.
 struct RunningLoan {
-  double balance;
-  double payment;  ///< falls to what is owed with the last payment, and to 0 after it
+  Amount balance;
+  Amount payment;  ///< falls to what is owed with the last payment, and to 0 after it
   double taxFraction;
 
   /// Writes a line from the balance after interest. A payment that exceeds it is cut.
-  void Pay(tSchedule& line, double grownBalance, double interest) {
-    line.startingBalance = balance;
-    line.intCharged = interest;
-    line.taxCredited = taxFraction * interest;
+  void Pay(tSchedule& line, Amount grownBalance, Amount interest) {
+    line.startingBalance = balance.value;
+    line.intCharged = interest.value;
+    line.taxCredited = taxFraction * interest.value;
     balance = grownBalance - payment;
-    if (balance < 0) {
-      payment += balance;
-      balance = 0;
+    if (balance.value < 0) {
+      payment = payment + balance;
+      balance = {};
     }
-    line.payment = payment;
-    line.endingBalance = balance;
+    line.payment = payment.value;
+    line.endingBalance = balance.value;
   }
 };
 
@@ -37,10 +38,11 @@ struct RunningLoan {
 class CostTotals {
  public:
   explicit CostTotals(const tCreditQualification& qualification)
-      : qualification_(qualification),
+      : downPayment_(qualification.downPaymentAmount),
+        propertyTax_(qualification.propertyTaxCharge),
         charges_(qualification.insuranceCharge + qualification.associationDues +
                  qualification.otherMonthlyLoanCharge),
-        costPV_(qualification.downPaymentAmount) {}
+        costPV_(downPayment_) {}
 
   /// A line's own amounts, discounted by `discount`.
   void AddLine(const tSchedule& line, double discount) {
@@ -57,8 +59,8 @@ class CostTotals {
   /// The home's charges of `months` months, the property tax grown by `homeGrowth`.
   void AddCharges(double discount, double homeGrowth, double months = 1) {
     if (charges_ != 0) costPV_ += Discounted(months * charges_, discount);
-    if (qualification_.propertyTaxCharge != 0) {
-      costPV_ += Discounted(months * RoundToCents(homeGrowth * qualification_.propertyTaxCharge), discount);
+    if (propertyTax_ != 0) {
+      costPV_ += Discounted(months * RoundToCents(homeGrowth * propertyTax_), discount);
     }
   }
 
@@ -82,7 +84,8 @@ class CostTotals {
     return discount == 1 ? amount : Divide(amount, discount);
   }
 
-  const tCreditQualification& qualification_;
+  double downPayment_;
+  double propertyTax_;
   double charges_;
   double costPV_;
   double interest_ = 0;

@@ -1,0 +1,200 @@
+// Schedules against plain doubles in the stated order of operations, line by line and bit by bit: every kind
+// of loan and savings plan, amounts from a cent to 10^15, rates from -50 to 1000 %, growth next to 1, and
+// exact half cents. AMORTIX2_LINES=50000000 in the environment compares that many lines.
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdlib>
+#include <random>
+
+#include "amortix2/engine/adjustable_rate.h"
+#include "amortix2/engine/amount.h"
+#include "amortix2/engine/elementary.h"
+#include "amortix2/engine/loan_schedule.h"
+#include "amortix2/engine/payment_factors.h"
+#include "amortix2/engine/running_savings.h"
+#include "amortix2/engine/savings_goal.h"
+#include "amortix2/engine/savings_schedule.h"
+#include "automation/raises.h"
+
+namespace amortix2 {
+namespace {
+
+std::int64_t LinesToCompare() {
+  const char* const lines = std::getenv("AMORTIX2_LINES");
+  return lines != nullptr ? std::atoll(lines) : 400000;
+}
+
+class Random {
+ public:
+  explicit Random(std::uint64_t seed) : random_(seed) {}
+
+  std::uint64_t Below(std::uint64_t limit) { return random_() % limit; }
+  double Unit() { return static_cast<double>(random_() >> 11) * 0x1p-53; }
+
+  /// Whole cents mostly; quarters and eighths of a currency unit, which make exact half cents; any double.
+  double Money(double largest) {
+    const double any = 0.01 * std::pow(largest * 100, Unit());
+    switch (Below(8)) {
+      case 0:
+        return any;
+      case 1:
+        return std::floor(any) + static_cast<double>(Below(8)) / 8;
+      default:
+        return RoundToCents(any);
+    }
+  }
+
+  /// Annual percent. Halves, quarters, ... of a period's growth make exact half cents.
+  double Rate(double periodsAYear) {
+    switch (Below(6)) {
+      case 0:
+        return 100 * periodsAYear * std::ldexp(1.0, -static_cast<int>(Below(12)));
+      case 1:
+        return 100 * periodsAYear * (Unit() - 0.5) * std::ldexp(1.0, -static_cast<int>(30 + Below(24)));
+      case 2:
+        return -50 + 1050 * Unit();
+      case 3:
+        return static_cast<double>(Below(200)) / 8;
+      default:
+        return 25 * Unit();
+    }
+  }
+
+ private:
+  std::mt19937_64 random_;
+};
+
+void ExpectSameBits(double plain, double stored) {
+  ASSERT_EQ(std::bit_cast<std::uint64_t>(plain), std::bit_cast<std::uint64_t>(stored))
+      << plain << ' ' << stored;
+}
+
+void ExpectSameLine(const tSchedule& plain, const tSchedule& line) {
+  for (const auto field : {&tSchedule::startingBalance, &tSchedule::payment, &tSchedule::intCharged,
+                           &tSchedule::intCredited, &tSchedule::taxCredited, &tSchedule::endingBalance}) {
+    ASSERT_NO_FATAL_FAILURE(ExpectSameBits(plain.*field, line.*field));
+  }
+}
+
+TEST(Amount, RoundsLikePlainDoublesWhateverItsHundredfold) {
+  Random random(1);
+  for (int i = 0; i < 2000000; ++i) {
+    const double ends[] = {1e15, 5e13, 1e6, 10};
+    double x = random.Money(ends[random.Below(4)]) * (random.Below(2) == 0 ? 1 : -1);
+    if (random.Below(3) == 0) x = std::floor(x * 100) / 100 + 0.005;
+    if (random.Below(3) == 0) x = std::nextafter(x, random.Below(2) == 0 ? -1e18 : 1e18);
+    const double strays[] = {0, 0.3, -0.5, 0.5, 1, -1, 1e9, HUGE_VAL, std::nan("")};
+    const Amount exact(x, x * 100 + strays[random.Below(9)]);
+    ASSERT_NO_FATAL_FAILURE(ExpectSameBits(RoundToCents(x), RoundToCents(exact).value)) << x;
+  }
+  for (const double infinite : {HUGE_VAL, std::nan("")}) {
+    EXPECT_EQ(ErrorOf([&] { RoundToCents(Amount(infinite, 1)); }), ErrorNumber::Overflow);
+  }
+}
+
+struct PlainLoan {
+  double balance, payment, taxFraction;
+  std::vector<tSchedule> lines{1};
+
+  void Pay(double grown, double interest) {
+    tSchedule& line = lines.emplace_back();
+    line.startingBalance = balance;
+    line.intCharged = interest;
+    line.taxCredited = taxFraction * interest;
+    balance = grown - payment;
+    if (balance < 0) {
+      payment += balance;
+      balance = 0;
+    }
+    line.payment = payment;
+    line.endingBalance = balance;
+  }
+};
+
+/// The lines of a loan that is not bi-weekly, without their dates and rates; line 0 is empty.
+std::vector<tSchedule> PlainLines(const tLoanDesc& loan) {
+  PlainLoan plain{loan.startingBalance, loan.payment, loan.taxRate / 100};
+  const bool isLease = loan.typ == loanAsLease;
+  const int count = static_cast<int>(loan.period) - (isLease ? loan.numberPrepays : 0);
+  if (isLease) {
+    tSchedule& prepaid = plain.lines.emplace_back();
+    prepaid.startingBalance = plain.balance;
+    prepaid.payment = loan.payment * loan.numberPrepays;
+    prepaid.endingBalance = plain.balance -= prepaid.payment;
+  }
+  AdjustableRate rate(loan);
+  double growth = MonthlyGrowth(loan.intRate);
+  for (int k = 1; k <= count; ++k) {
+    if (rate.StepTo(k)) {
+      growth = MonthlyGrowth(rate.Rate());
+      plain.payment = RoundToCents(Divide(plain.balance, AnnuityFactor(growth, count - k + 1)));
+    }
+    if (loan.typ == creditCard && k >= 2) {
+      const double interest = RoundToCents((plain.balance + plain.payment / 2) * (growth - 1));
+      plain.Pay(plain.balance + interest, interest);
+    } else {
+      const double grown = RoundToCents(plain.balance * growth);
+      plain.Pay(grown, RoundToCents(grown - plain.balance));
+    }
+  }
+  if (isLease) {
+    tSchedule& closing = plain.lines.emplace_back();
+    closing.startingBalance = closing.payment = plain.balance;
+    for (int month = 0; month < loan.numberPrepays; ++month) {
+      closing.payment = RoundToCents(closing.payment * growth);
+    }
+    closing.intCharged = RoundToCents(closing.payment - plain.balance);
+    closing.taxCredited = plain.taxFraction * closing.intCharged;
+  }
+  return plain.lines;
+}
+
+tLoanDesc RandomLoan(Random& random) {
+  constexpr enumLoanType kTypes[] = {simpleLoan, simpleLoan, creditCard, loanAsLease};
+  tLoanDesc loan;
+  loan.typ = kTypes[random.Below(4)];
+  loan.startDate = MakeDate(2001, 1, 31);
+  loan.startingBalance = random.Money(random.Below(4) == 0 ? 1e15 : 1e7) * (random.Below(50) == 0 ? -1 : 1);
+  loan.intRate = random.Rate(12);
+  loan.period = static_cast<double>(4 + random.Below(480));
+  loan.taxRate = 28;
+  const double level =
+      loan.startingBalance / AnnuityFactor(MonthlyGrowth(loan.intRate), static_cast<int>(loan.period));
+  loan.payment = random.Below(3) == 0 ? random.Money(std::abs(loan.startingBalance))
+                                      : RoundToCents(level * (0.9 + 0.3 * random.Unit()));
+  if (loan.typ == loanAsLease) loan.numberPrepays = static_cast<std::int16_t>(random.Below(4));
+  if (loan.typ == simpleLoan && random.Below(2) == 0) {
+    loan.firstRatePeriod = 1 + static_cast<double>(random.Below(24));
+    loan.subsequentRatePeriod = 12;
+    loan.firstRateIncrease = loan.subsequentRateIncrease = static_cast<double>(random.Below(9)) / 8 - 0.5;
+    loan.intRateMaximum = 1000;
+    loan.intRateMinimum = -50;
+  }
+  return loan;
+}
+
+TEST(PlainChain, LoansAgreeToTheBit) {
+  Random random(2);
+  for (std::int64_t left = LinesToCompare() / 2; left > 0;) {
+    tLoanDesc loan = RandomLoan(random);
+    std::vector<tSchedule> plain;
+    const auto plainError = ErrorOf([&] { plain = PlainLines(loan); });
+    const auto error = ErrorOf([&] { BuildLoanSchedule(loan, {}); });
+    left -= static_cast<std::int64_t>(plain.size()) + 1;
+    if (error && !plainError) continue;  // a total beyond doubles
+    ASSERT_EQ(error, plainError);
+    if (error) continue;
+    ASSERT_EQ(plain.size(), loan.schedule.size());
+    for (std::size_t k = 1; k < plain.size(); ++k) {
+      ASSERT_NO_FATAL_FAILURE(ExpectSameLine(plain[k], loan.schedule[k]))
+          << k << ": " << loan.typ << ' ' << loan.startingBalance << ' ' << loan.payment << ' '
+          << loan.intRate;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace amortix2
