@@ -109,7 +109,7 @@ class RecordArray {
   }
 
   std::int32_t Lower() const noexcept { return lower_; }
-  std::int32_t Upper() const noexcept { return lower_ + static_cast<std::int32_t>(records_.size()) - 1; }
+  std::int32_t Upper() const noexcept { return lower_ - 1 + static_cast<std::int32_t>(records_.size()); }
 
   /// Checked access. Raises SubscriptOutOfRange.
   Record& At(std::int64_t index) {

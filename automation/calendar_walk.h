@@ -3,6 +3,8 @@
 // Steps through the calendar month by month without a division: schedules and their tables go through
 // hundreds of dates in order.
 
+#include <algorithm>
+
 #include "amortix2/automation/date.h"
 
 namespace amortix2 {
@@ -10,8 +12,9 @@ namespace amortix2 {
 /// One month of the calendar, which moves forward.
 class CalendarMonth {
  public:
-  /// The month that `date` lies in.
+  /// The month that `date`, or the nearest valid day, lies in.
   explicit CalendarMonth(Date date) noexcept {
+    date = std::clamp(date, kFirstDay, kLastDay);
     const CivilDate civil = ToCivil(date);
     year_ = civil.year;
     month_ = civil.month;
@@ -47,13 +50,15 @@ class CalendarMonth {
   std::int32_t first_;
 };
 
-/// Year, month and day of dates that mostly come in order, at most a few months apart.
+/// Year, month and day, as ToCivil gives them, of dates that mostly come in order, at most a few months
+/// apart.
 class CivilWalk {
  public:
   explicit CivilWalk(Date start) noexcept : month_(start) {}
 
   CivilDate At(Date date) noexcept {
     constexpr std::int32_t kNear = 124;  // days; further off a division is quicker
+    date = std::clamp(date, kFirstDay, kLastDay);
     const std::int32_t ahead = date.serial - month_.FirstSerial();
     if (ahead < 0 || ahead > kNear) month_ = CalendarMonth(date);
     while (date.serial - month_.FirstSerial() >= month_.Days()) month_.Advance();

@@ -1,7 +1,7 @@
 #pragma once
 
-// Arithmetic that refuses what does not fit: the guards that keep infinities, NaN and wrapped counts out of
-// every result.
+// Arithmetic that refuses what does not fit: the guards that keep infinities, NaN, -0 and wrapped counts out
+// of every result.
 
 #include <cmath>
 #include <concepts>
@@ -16,6 +16,9 @@ inline double Finite(double x) {
   if (!std::isfinite(x)) Raise(ErrorNumber::Overflow);
   return x;
 }
+
+/// `x` itself, but 0 for -0, which no result is to show.
+inline double WithoutMinusZero(double x) { return x + 0.0; }
 
 /// a / b. Raises DivisionByZero for a non-zero number over 0, Overflow for 0 / 0 and for a quotient that is
 /// too large.

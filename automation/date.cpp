@@ -1,5 +1,6 @@
 #include "amortix2/automation/date.h"
 
+#include <algorithm>
 #include <bit>
 #include <chrono>
 #include <cstring>
@@ -37,7 +38,7 @@ constexpr std::array<std::uint16_t, 100> kTwoDigits = [] {
   return digits;
 }();
 
-std::uint64_t DigitsOf(int value) { return kTwoDigits[static_cast<std::size_t>(value)]; }
+std::uint64_t DigitsOf(int value) { return kTwoDigits[static_cast<unsigned>(value) % kTwoDigits.size()]; }
 
 DateText Text(std::uint64_t firstEight, std::uint64_t lastTwo) {
   DateText text;
@@ -49,7 +50,8 @@ DateText Text(std::uint64_t firstEight, std::uint64_t lastTwo) {
 }  // namespace
 
 CivilDate ToCivil(Date date) noexcept {
-  const std::chrono::year_month_day civil{kDayZero + days{date.serial}};
+  const Date valid = std::clamp(date, kFirstDay, kLastDay);
+  const std::chrono::year_month_day civil{kDayZero + days{valid.serial}};
   return {static_cast<int>(civil.year()), static_cast<int>(static_cast<unsigned>(civil.month())),
           static_cast<int>(static_cast<unsigned>(civil.day()))};
 }

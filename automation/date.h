@@ -28,7 +28,7 @@ struct CivilDate {
   friend constexpr bool operator==(CivilDate, CivilDate) = default;
 };
 
-/// Year, month and day of a date.
+/// Year, month and day of a date; of the nearest valid one for a serial outside the valid days.
 CivilDate ToCivil(Date date) noexcept;
 
 /// The date of a year, month and day with the usual calendar roll-over: month 13 is January of the next year,

@@ -35,8 +35,8 @@ constexpr std::array kErrorTexts{
 };
 
 const ErrorText* Find(ErrorNumber number) noexcept {
-  const auto* found = std::ranges::find(kErrorTexts, number, &ErrorText::number);
-  return found == kErrorTexts.end() ? nullptr : found;
+  const auto found = std::ranges::find(kErrorTexts, number, &ErrorText::number);
+  return found == kErrorTexts.end() ? nullptr : &*found;
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <utility>
 
+#include "amortix2/automation/checked.h"
 #include "amortix2/automation/date.h"
 
 namespace amortix2 {
@@ -57,7 +58,8 @@ class Variant {
   Variant(std::uint8_t value) noexcept : words_{Head(VariantType::Byte), Payload(value)} {}
   Variant(std::int16_t value) noexcept : words_{Head(VariantType::Integer), Payload(value)} {}
   Variant(std::int32_t value) noexcept : words_{Head(VariantType::Long), Payload(value)} {}
-  Variant(double value) noexcept : words_{Head(VariantType::Double), Payload(value)} {}
+  Variant(double value) noexcept  // -0 becomes 0
+      : words_{Head(VariantType::Double), Payload(WithoutMinusZero(value))} {}
   Variant(Currency value) noexcept : words_{Head(VariantType::Currency), Payload(value)} {}
   Variant(Date value) noexcept : words_{Head(VariantType::Date), Payload(value)} {}
   Variant(std::string_view text) { StoreText(text); }

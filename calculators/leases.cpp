@@ -91,7 +91,7 @@ void MonthlyLeaseCalculator(const Clock& clock, const Variant& vDummy, const Var
     vDetArr = std::move(detail);
     return;
   }
-  lease.numberPrepays = ToInteger(std::min(NumericOrZero(vPrepays), lease.period));
+  lease.numberPrepays = ToInteger(std::clamp(NumericOrZero(vPrepays), 0.0, lease.period));
   work.Solve(LoanCalculator);
   Array detail = Detail(lease, static_cast<std::int32_t>(lease.schedule.size()) - 1);
   vResPrincipal = lease.startingBalance;

@@ -12,8 +12,9 @@ namespace amortix2::calculators {
 /// A lease with monthly payments. Finds the residual when it is 0 and principal and payment are given; else
 /// the principal when it is 0 and a payment is given; else, with principal and residual given, the rate when
 /// it is 0 and a payment is given, and otherwise the payment. Where nothing can be found all results are 0
-/// and the table has two empty rows. A period below 1 counts as 1, prepayments above the period as the
-/// period. `vDummy` is not read. Raises as the calculators of loans.h; no result is written then.
+/// and the table has two empty rows. A period below 1 counts as 1, prepayments below 0 as 0 and
+/// those above the period as the period. `vDummy` is not read. Raises as the calculators of loans.h; no
+/// result is written then.
 void MonthlyLeaseCalculator(const Clock& clock, const Variant& vDummy, const Variant& vPrincipal,
                             const Variant& vPayment, const Variant& vPeriod, const Variant& vIntRate,
                             const Variant& vPrepays, const Variant& vEndingBal, const Variant& vStartDate,

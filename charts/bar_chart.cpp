@@ -45,11 +45,12 @@ bool KeepsNegatives(const ChartStyle& style, const BarChartSettings& settings) {
   return style.line || (canHang && settings.negativeBars);
 }
 
-// Turns round the order of as many series as there are images. Every bound is checked before the first
-// exchange.
+// Turns round the order of as many series as there are images, which must not be fewer than the series. Every
+// bound is checked before the first exchange.
 void ReverseSeries(Array& data, Array& images, Array& legends) {
   const std::int32_t last = images.Dimension(1).upper;
   if (last < 2) return;
+  static_cast<void>(images.At(data.Dimension(2).upper));
   const std::int32_t rows = data.Dimension(1).upper;
   for (const std::int32_t series : {1, last}) {
     static_cast<void>(images.At(series));

@@ -1,7 +1,6 @@
 #include "amortix2/charts/chart_table.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "amortix2/automation/conversion.h"
@@ -11,21 +10,19 @@
 namespace amortix2 {
 
 ChartTable::ChartTable(std::int32_t rows, std::int32_t series) : rows_(rows), series_(series) {
-  if (rows < 0 || series < 0) Raise(ErrorNumber::SubscriptOutOfRange);
   const std::size_t count = static_cast<std::size_t>(rows) + 1;
   values_.resize(count * static_cast<std::size_t>(series));
   labels_.resize(count);
 }
 
 ChartTable PrepareTable(const Array& data, bool keepNegatives) {
-  if (data.Rank() != 2) Raise(ErrorNumber::SubscriptOutOfRange);
-  ChartTable table(data.Dimension(1).upper, data.Dimension(2).upper);
+  // Before anything is allocated: bounds that hold no cell (0, 0) may promise far more rows than there are.
   const bool hasLabels = !IsNumeric(data.At(0, 0));
+  ChartTable table(data.Dimension(1).upper, data.Dimension(2).upper);
   for (std::int32_t row = 0; row <= table.Rows(); ++row) {
     table.Label(row) = hasLabels ? PageText(data.At(row, 0)) : SignedText(row);
     for (std::int32_t series = 1; series <= table.Series(); ++series) {
       const double value = NumericOrZero(data.At(row, series));
-      if (!std::isfinite(value)) Raise(ErrorNumber::Overflow);
       table.At(row, series) = value < 0 && !keepNegatives ? 0 : value;
     }
   }

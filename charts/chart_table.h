@@ -16,7 +16,7 @@ namespace amortix2 {
 /// Rows 0 to `rows` of series 1 to `series`. Row 0 is never drawn but counts for the axis.
 class ChartTable {
  public:
-  /// All zero. Raises SubscriptOutOfRange when there is not even row 0.
+  /// All zero. Both counts are 0 or more.
   ChartTable(std::int32_t rows, std::int32_t series);
 
   std::int32_t Rows() const noexcept { return rows_; }
@@ -42,9 +42,9 @@ class ChartTable {
 
 /// Reads a two-dimensional array, rows 0 to R by columns 0 to C. Column 0 holds the labels when cell (0, 0)
 /// is not numeric; otherwise the labels are the row numbers with a leading blank. Cells that are no number
-/// count as 0, and so do values below zero unless `keepNegatives`. Raises SubscriptOutOfRange when the array
-/// has another number of dimensions or no cell (0, 0), TypeMismatch when a label has no text, Overflow for a
-/// value that is not finite.
+/// count as 0, infinities among them, and so do values below zero unless `keepNegatives`. Raises
+/// SubscriptOutOfRange when the array has another number of dimensions or no cell (0, 0), TypeMismatch when a
+/// label has no text.
 ChartTable PrepareTable(const Array& data, bool keepNegatives);
 
 /// Every series replaced by the sum of itself and all series behind it, so that series 1 holds the row's

@@ -40,7 +40,7 @@ class MonthlyDates {
 /// How a schedule's lines are laid out: the opening, a lease's prepaid payments, then the regular payments.
 struct Layout {
   int payments;  ///< n, as the term counts them
-  int regular;   ///< payments made one a month
+  int regular;   ///< payments made one a month; more than n where a lease's prepayments are below 0
   int last;      ///< line of the last regular payment, or of what comes before it when there is none
 
   static Layout Of(const tLoanDesc& loan) {
@@ -62,7 +62,7 @@ class MonthlyLines {
 
   /// Raises what BuildLoanSchedule raises.
   std::vector<tSchedule> Write() {
-    MonthlyDates dates(loan_.startDate, layout_.payments);
+    MonthlyDates dates(loan_.startDate, std::max(layout_.payments, layout_.regular));
     const bool isLease = loan_.typ == loanAsLease;
     std::vector<tSchedule> lines(static_cast<std::size_t>(layout_.last) + (isLease ? 2 : 1));
     tSchedule* line = lines.data();
@@ -70,7 +70,7 @@ class MonthlyLines {
     RunningLoan running{Amount(loan_.startingBalance), Amount(loan_.payment), loan_.taxRate / 100};
     if (isLease) WritePrepaidLine(*line++, running);
     const double growth = WriteRegularLines(line, running, dates);
-    if (settleRemainder_) SettleRemainder(lines.back(), running);
+    if (settleRemainder_ && layout_.regular > 0) SettleRemainder(line[layout_.regular - 1], running);
     if (isLease) CloseLease(lines.back(), running, growth);
     return lines;
   }
@@ -79,7 +79,7 @@ class MonthlyLines {
   void WritePrepaidLine(tSchedule& line, RunningLoan& running) const {
     line.lineDate = loan_.startDate;
     line.startingBalance = running.balance.value;
-    line.payment = running.payment.value * loan_.numberPrepays;
+    line.payment = WithoutMinusZero(running.payment.value * loan_.numberPrepays);
     running.balance = running.balance - Amount(line.payment);
     line.endingBalance = running.balance.value;
   }
@@ -129,7 +129,7 @@ class MonthlyLines {
     Amount grown = running.balance;
     for (int month = 0; month < loan_.numberPrepays; ++month) grown = RoundToCents(grown * growth);
     line.intCharged = RoundToCents(grown - running.balance).value;
-    line.taxCredited = running.taxFraction * line.intCharged;
+    line.taxCredited = WithoutMinusZero(running.taxFraction * line.intCharged);
     line.payment = grown.value;
   }
 

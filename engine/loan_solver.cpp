@@ -5,9 +5,9 @@
 //   x = x2 + (x1 - x2) (P - f2) / (f1 - f2),
 //
 // to close in within a few steps. Payments are rounded to cents, which ends the search: f meets P, or stops
-// changing. Rounding, or an amount below zero, can also send the secant round in circles or nowhere: a
-// hundred trials without coming closer, where a search that works needs a dozen in all, end it with the
-// closest.
+// changing. Rounding, or an amount below zero, can also send the secant round in circles, nowhere, or ahead
+// in ever smaller steps: a hundred trials without coming closer, where a search that works needs a dozen in
+// all, or some thousands altogether end it with the closest.
 
 #include "amortix2/engine/loan_solver.h"
 
@@ -68,13 +68,14 @@ class SecantHistory {
   }
 
   bool HasSettled() const { return count_ >= 2 && latest_.payment == previous_.payment; }
-  bool HasLostItsWay() const { return count_ - closestAt_ > kPatience; }
+  bool HasLostItsWay() const { return count_ - closestAt_ > kPatience || count_ >= kMostTrials; }
   int Count() const { return count_; }
   const Trial& Latest() const { return latest_; }
   const Trial& Closest() const { return closest_; }
 
  private:
   static constexpr int kPatience = 100;
+  static constexpr int kMostTrials = 5000;
 
   Trial latest_, previous_, closest_;
   int count_ = 0;

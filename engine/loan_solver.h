@@ -34,7 +34,7 @@ struct RateFound {
 
 /// Two bisections of the growths from 1 to where a month's interest equals the payment, then secant steps on
 /// the payment rounded to cents, until it is met or two trials in a row give the same one. A search that no
-/// longer comes closer stops with the closest trial. Raises Overflow, DivisionByZero.
+/// longer comes closer, or not within 5000 trials, stops with the closest. Raises Overflow, DivisionByZero.
 RateFound FindGrowth(const RateTarget& target);
 
 }  // namespace amortix2

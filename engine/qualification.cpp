@@ -19,7 +19,7 @@ void ComputeQualifyingPayment(tCreditQualification& qualification) {
 void SolveAffordableLoan(tLoanDesc& loan, tCreditQualification& qualification) {
   const double paymentOfOne = Divide(1, LoanPaymentFactor(loan).annuity);
   const double monthlyTax = qualification.propertyTaxRate / 1200;
-  qualification.propertyTaxCharge = Finite(monthlyTax * qualification.downPaymentAmount);
+  qualification.propertyTaxCharge = WithoutMinusZero(Finite(monthlyTax * qualification.downPaymentAmount));
   const double available =
       qualification.monthlyPayment - qualification.propertyTaxCharge - qualification.insuranceCharge -
       qualification.associationDues - qualification.otherMonthlyLoanCharge - qualification.creditCardPayment -

@@ -15,7 +15,7 @@ double LineGrowth(const tSavingsDesc& save, double annualRate) {
 RunningSavings::RunningSavings(const tSavingsDesc& save, double annualRate)
     : mode_(CompoundingMode(save)),
       annualRate_(annualRate),
-      afterTaxRate_(AfterTaxFraction(save) * annualRate),
+      afterTaxRate_(WithoutMinusZero(Finite(AfterTaxFraction(save) * annualRate))),
       growth_(LineGrowth(save, afterTaxRate_)),
       openingBalance_(save.startingBalance),
       balance_(openingBalance_),

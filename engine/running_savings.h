@@ -25,6 +25,11 @@ double LineGrowth(const tSavingsDesc& save, double annualRate);
 /// The part of a plan's interest that stays after tax.
 inline double AfterTaxFraction(const tSavingsDesc& save) { return 1 - save.taxRate / 100; }
 
+/// Continuous growth over `days`, 0 or more, from BuildDailyFactorTable's factors.
+inline double GrowthOfDays(const std::array<double, 32>& daily, std::int32_t days) {
+  return Power(daily[31], days / 31) * daily[static_cast<std::size_t>(days % 31)];
+}
+
 class RunningSavings {
  public:
   /// `save` at an annual rate before tax, percent. Raises Overflow.
@@ -59,8 +64,7 @@ class RunningSavings {
   double Grow(std::int32_t days) const {
     switch (mode_) {
       case continuousMode:
-        return RoundToCents(balance_ * (Power(dailyFactors_[31], days / 31) *
-                                        dailyFactors_[static_cast<std::size_t>(days % 31)]));
+        return RoundToCents(balance_ * GrowthOfDays(dailyFactors_, days));
       case exactDaysMode:
         return balance_ + (RoundToCents(openingBalance_ * growth_) - openingBalance_);
       default:

@@ -1,7 +1,8 @@
-// The ending balance B(x) never falls when the growth factor x rises, so that a bracket [low, high] with
-// B(low) at or below the goal and B(high) above it always closes. Interest that is too little for the
-// withdrawals counts as a balance of minus infinity, whatever the goal, and one that leaves the doubles as
-// plus infinity.
+// The ending balance B(x) rises with the growth factor x, unless the plan opens with a debt, whose interest
+// may outrun the deposits: B then falls, from some x on or everywhere. A bracket [low, high] with B(low) at
+// or below the goal and B(high) above it closes either way; where the high end finds no such balance there is
+// no answer. Interest that is too little for the withdrawals counts as a balance of minus infinity, whatever
+// the goal, and one that leaves the doubles as an infinity of its balance's sign.
 //
 // Without interest, x = 1, most plans fall short. The high end is then twice the factor that simple interest
 // on all payments would ask for,
@@ -81,18 +82,20 @@ class SavingsTrials {
   }
 
   double EndingBalance(double annualPercent) const {
+    double balance = save_.startingBalance;
     try {
       RunningSavings running(save_, annualPercent);
       for (const std::int32_t days : daysOfLines_) {
         running.NextLine(days);
         if (running.RanDry()) return -kInfinity;
+        balance = running.Balance();
       }
       if (periods_.days != 0) running.CreditDays(periods_.days);
       return Finite(running.Balance());
     } catch (const AutomationError& error) {
       // A trial that overflows is an answer of the search, not its failure.
       if (error.Number() != ErrorNumber::Overflow) throw;
-      return kInfinity;
+      return std::copysign(kInfinity, balance == 0 ? NetDeposit(save_) : balance);
     }
   }
 

@@ -75,16 +75,17 @@ class SavingsSchedule {
     }
   }
 
-  /// A last deposit that carries the balance across the goal is cut to end on it. A balance that its interest
-  /// alone carried past the goal stays.
+  /// A last line that interest and deposit carry across the goal ends on it.
   void StopAtGoal(double goal) {
     tSchedule& last = lines_.back();
-    const double before = running_.GrownBalance();
-    const bool isCrossed = last.payment > 0   ? before <= goal && last.endingBalance > goal
-                           : last.payment < 0 ? before >= goal && last.endingBalance < goal
-                                              : false;
+    const double deposit = NetDeposit(save_);
+    const double begun = last.startingBalance;
+    const double ended = last.endingBalance;
+    const bool isCrossed = deposit > 0   ? begun <= goal && ended > goal
+                           : deposit < 0 ? begun >= goal && ended < goal
+                                         : false;
     if (!isCrossed) return;
-    last.payment = last.payment + goal - last.endingBalance;
+    last.payment = WithoutMinusZero(last.payment + goal - ended);
     last.endingBalance = goal;
   }
 
@@ -95,7 +96,7 @@ class SavingsSchedule {
     line.startingBalance = running_.Balance();
     line.intRate = save_.intRate;
     line.intCredited = running_.CreditDays(days);
-    line.taxCharged = save_.taxRate / 100 * line.intCredited;
+    line.taxCharged = WithoutMinusZero(save_.taxRate / 100 * line.intCredited);
     line.endingBalance = running_.Balance();
   }
 

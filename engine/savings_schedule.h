@@ -21,8 +21,9 @@ namespace amortix2 {
 
 /// Fills `schedule`, the totals and `endingBalance` of a plan with nothing unknown but perhaps its end. With
 /// the end unknown (`endDate` before `startDate`) `endDate` becomes that of the line where the goal,
-/// `endingBalance`, is reached (savings_goal.h); a last deposit that would overshoot the goal is cut to reach
-/// it. Where no goal can be reached the plan becomes one line that takes out its interest, in `deposit` and
+/// `endingBalance`, is reached (savings_goal.h); with deposits or withdrawals, a last line that begins before
+/// the goal and would end beyond it has the payment, perhaps of the other sign, that makes it end on the
+/// goal. Where no goal can be reached the plan becomes one line that takes out its interest, in `deposit` and
 /// `withdrawal` too.
 ///
 /// Regular lines credit interest after tax; the leftover days' interest is simple, at the rate before tax,

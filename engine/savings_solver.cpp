@@ -1,5 +1,7 @@
 #include "amortix2/engine/savings_solver.h"
 
+#include <array>
+
 #include "amortix2/engine/elementary.h"
 #include "amortix2/engine/frequency.h"
 #include "amortix2/engine/rounding.h"
@@ -12,34 +14,68 @@ namespace {
 
 /// What the opening balance and deposits of 1 come to by the last whole period.
 struct SavingsFactors {
-  double opening;
-  double deposits;
+  double opening = 1;
+  double deposits = 0;
 };
 
-SavingsFactors FactorsOf(const tSavingsDesc& save) {
-  const double growth = SavingsPeriodFactor(save);
-  const std::int32_t count = SavingsPeriods(save).periods;
+SavingsFactors CompoundFactors(double growth, std::int32_t count) {
   const double opening = Finite(Power(growth, count));
-  return {opening, growth == 1 ? count : (opening - 1) / (growth - 1)};
+  return {opening, growth == 1 ? static_cast<double>(count) : (opening - 1) / (growth - 1)};
+}
+
+/// The opening balance alone earns interest.
+SavingsFactors SimpleFactors(double interestOfOne, std::int32_t count) {
+  return {1 + count * interestOfOne, static_cast<double>(count)};
+}
+
+/// The lines' own factors, of their real days.
+SavingsFactors ContinuousFactors(const tSavingsDesc& save, double annualRate, std::int32_t count) {
+  const std::array<double, 32> daily = BuildDailyFactorTable(annualRate);
+  const SavingsDates dates(save);
+  SavingsFactors factors;
+  Date previous = save.startDate;
+  for (std::int32_t line = 1; line <= count; ++line) {
+    const Date date = dates.OfLine(line);
+    const double growth = GrowthOfDays(daily, date.serial - previous.serial);
+    factors.opening *= growth;
+    factors.deposits = factors.deposits * growth + 1;
+    previous = date;
+  }
+  return {Finite(factors.opening), Finite(factors.deposits)};
+}
+
+/// The goal as it stands after the last whole period, and the factors that lead there.
+struct SavingsTarget {
+  double balance;
+  SavingsFactors factors;
+};
+
+SavingsTarget TargetOf(const tSavingsDesc& save) {
+  const double rate = AfterTaxFraction(save) * save.intRate;
+  const WholePeriods span = SavingsPeriods(save);
+  const double leftoverGrowth = span.periods >= 1 ? 1 + save.intRate * span.days / 36500 : 1;
+  const double balance = Divide(save.endingBalance, leftoverGrowth);
+  switch (CompoundingMode(save)) {
+    case continuousMode:
+      return {balance, ContinuousFactors(save, rate, span.periods)};
+    case exactDaysMode:
+      return {balance, SimpleFactors(rate / 100, span.periods)};
+    default:
+      return {balance, CompoundFactors(Finite(LineGrowth(save, rate)), span.periods)};
+  }
 }
 
 double SolveNetDeposit(const tSavingsDesc& save) {
-  const SavingsFactors factors = FactorsOf(save);
-  return RoundToCents(Divide(save.endingBalance - save.startingBalance * factors.opening, factors.deposits));
+  const auto [balance, factors] = TargetOf(save);
+  return RoundToCents(Divide(balance - save.startingBalance * factors.opening, factors.deposits));
 }
 
 double SolveOpeningBalance(const tSavingsDesc& save) {
-  const SavingsFactors factors = FactorsOf(save);
-  return RoundToCents(Divide(save.endingBalance - NetDeposit(save) * factors.deposits, factors.opening));
+  const auto [balance, factors] = TargetOf(save);
+  return RoundToCents(Divide(balance - NetDeposit(save) * factors.deposits, factors.opening));
 }
 
 }  // namespace
-
-double SavingsPeriodFactor(const tSavingsDesc& save) {
-  const double rate = AfterTaxFraction(save) * save.intRate;
-  if (CompoundingMode(save) != continuousMode) return Finite(LineGrowth(save, rate));
-  return Finite(Exponential(rate / 100 / PeriodsPerYear(save.paymentMode)));
-}
 
 void SolveSavings(tSavingsDesc& save, RecordArray<tGoalDesc>&, tCreditQualification&) {
   if (IsUnknown(save.intRate)) {

@@ -9,7 +9,7 @@ tSchedule OpeningLine(const tLoanDesc& loan) {
   line.startingBalance = loan.startingBalance;
   line.endingBalance = loan.startingBalance;
   line.intCharged = RoundToCents(loan.startingBalance * loan.points / 100) + interim;
-  line.taxCredited = loan.taxRate / 100 * line.intCharged;
+  line.taxCredited = WithoutMinusZero(loan.taxRate / 100 * line.intCharged);
   line.intCharged += loan.flatFee;
   line.payment = line.intCharged;
   return line;
@@ -17,10 +17,10 @@ tSchedule OpeningLine(const tLoanDesc& loan) {
 
 void CostTotals::Sell(const tLoanDesc& loan, double balanceOwed, double homeGrowth, double growth,
                       double discount) {
-  balanceOwedPV_ = Divide(growth * balanceOwed, Finite(discount));
+  balanceOwedPV_ = WithoutMinusZero(Divide(growth * balanceOwed, Finite(discount)));
   costPV_ += balanceOwedPV_;
   const double price = loan.startingBalance + downPayment_;
-  valuePV_ = Divide(RoundToCents(price * homeGrowth) * growth, discount);
+  valuePV_ = WithoutMinusZero(Divide(RoundToCents(price * homeGrowth) * growth, discount));
 }
 
 void CostTotals::Store(tLoanDesc& loan) const {

@@ -23,7 +23,7 @@ struct RunningLoan {
   void Pay(tSchedule& line, Amount grownBalance, Amount interest) {
     line.startingBalance = balance.value;
     line.intCharged = interest.value;
-    line.taxCredited = taxFraction * interest.value;
+    line.taxCredited = WithoutMinusZero(taxFraction * interest.value);
     balance = grownBalance - payment;
     if (balance.value < 0) {
       payment = payment + balance;

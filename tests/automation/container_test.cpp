@@ -150,6 +150,7 @@ TEST(Arrays, TooManyCellsAreRefusedBeforeAnyAreMade) {
             }),
             ErrorNumber::OutOfMemory);
   EXPECT_EQ(ErrorOf([] { RecordArray<char>(0, 1 << 24); }), ErrorNumber::OutOfMemory);
+  EXPECT_EQ(RecordArray<char>(INT32_MAX - 2, INT32_MAX).Upper(), INT32_MAX);
 }
 
 TEST(Arrays, ResizingKeepsTheCellsThatRemain) {

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "amortix2/automation/calendar_walk.h"
 #include "amortix2/automation/conversion.h"
 #include "automation/raises.h"
 
@@ -47,6 +48,12 @@ TEST(Dates, FixedPoints) {
   EXPECT_EQ(MakeDate(1970, 1, 1).serial, 25569);
   EXPECT_EQ(View(FormatMonthDayYear(Date{36922})), "01-31-2001");
   EXPECT_EQ(View(FormatIso(kFirstDay)), "0100-01-01");
+  for (const std::int32_t beyond : {kLastDay.serial + 1, INT32_MAX}) {
+    EXPECT_EQ(ToCivil(Date{beyond}), ToCivil(kLastDay));
+    EXPECT_EQ(CivilWalk(kFirstDay).At(Date{beyond}), ToCivil(kLastDay));
+    EXPECT_EQ(CivilWalk(Date{beyond}).At(Date{INT32_MIN}), ToCivil(kFirstDay));
+  }
+  EXPECT_EQ(View(FormatMonthDayYear(CivilDate{-1, 120, 31})).size(), 10u);  // what it reads is its own
 }
 
 TEST(Dates, PartsRollOver) {

@@ -216,11 +216,16 @@ TEST(BarChart, ReversedStacksReverseTheCallersArrays) {
   EXPECT_EQ(page.images, Variant(List({"back", "blue", "green", "red"})));
   EXPECT_EQ(page.legends, Variant(List({"", "B", "G", "R"})));
 
-  page.legends = List({"", "short"});
-  const BarPage before = page;
-  EXPECT_EQ(ErrorOf([&] { page.Draw("SR"); }), ErrorNumber::SubscriptOutOfRange);
-  EXPECT_EQ(page.table, before.table);
-  EXPECT_EQ(page.images, before.images);
+  for (Variant BarPage::*const list : {&BarPage::legends, &BarPage::images}) {
+    BarPage tooShort;
+    tooShort.table = page.table;
+    tooShort.*list = List({"", "one", "two"});
+    const BarPage before = tooShort;
+    EXPECT_EQ(ErrorOf([&] { tooShort.Draw("SR"); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(tooShort.table, before.table);
+    EXPECT_EQ(tooShort.images, before.images);
+    EXPECT_EQ(tooShort.legends, before.legends);
+  }
 }
 
 TEST(BarChart, BadInputRaisesAndLeavesNothingBehind) {

@@ -81,6 +81,8 @@ TEST(LoanSolver, RateSearchEndsAndMeetsThePayment) {
         << typ << ' ' << amount << ' ' << payment << ' ' << months;
   }
   EXPECT_LT(mostTrials, 60);
+  // Charges far above the amount: every step comes closer, by next to nothing.
+  EXPECT_LE(FindGrowth({{simpleLoan, 45, 0}, -4e23, 3123941613041.4, 0}).trials, 5000);
 }
 
 TEST(LoanSolver, PaymentsThatDoNotExceedTheDebtHaveNoRate) {
@@ -206,6 +208,23 @@ TEST(LoanSchedule, LeaseDiscountsToItsAmount) {
   }
 }
 
+TEST(LoanSchedule, NoAmountIsMinusZero) {
+  const auto check = [](double amount) { EXPECT_FALSE(amount == 0 && std::signbit(amount)); };
+  for (const enumLoanType typ : {simpleLoan, creditCard, loanAsLease}) {
+    tLoanDesc loan = Loan(1000, -400, -6, 3, typ);
+    loan.points = -1;
+    loan.residualAmount = UNKNOWNLOANVALUE;
+    const tLoanDesc solved = Solved(loan, {.monthsToKeep = 3, .investmentGrowthRate = -2400});
+    for (const tSchedule& line : solved.schedule) {
+      for (const double amount : {line.payment, line.intCharged, line.taxCredited, line.endingBalance}) {
+        check(amount);
+      }
+    }
+    for (const double sum : {solved.totTaxCredited, solved.balanceOwedAtSalePV, solved.valueAtSalePV})
+      check(sum);
+  }
+}
+
 TEST(LoanSchedule, BiWeeklyPlanSwitchesAndEndsSooner) {
   tLoanDesc loan = Loan(100000, 600, 6, UNKNOWNLOANVALUE, biWeekly);
   loan.biweeklyDate = MakeDate(2001, 6, 15);
@@ -324,6 +343,10 @@ TEST(LoanSolver, EachImpossibleLoanHasItsError) {
   taxed.firstRateIncrease = taxed.intRateMaximum = 12;
   tLoanDesc lease = Loan(1000, 100, 6, 3, loanAsLease);
   lease.numberPrepays = 9;
+  // Its term ends in time, the 23 lines that -20 prepayments make do not.
+  tLoanDesc lateLease = lease;
+  lateLease.numberPrepays = -20;
+  lateLease.startDate = MakeDate(9999, 6, 15);
   const Row rows[] = {
       {Loan(1000, UNKNOWNLOANVALUE, 6, 0), ErrorNumber::DivisionByZero},
       {Loan(0, UNKNOWNLOANVALUE, 6, 0), ErrorNumber::Overflow},
@@ -336,6 +359,7 @@ TEST(LoanSolver, EachImpossibleLoanHasItsError) {
        ErrorNumber::Overflow},  // cents never move: no term in 16 bits
       {Loan(1000, 1, 1, 32700), std::nullopt},
       {lease, ErrorNumber::SubscriptOutOfRange},
+      {lateLease, ErrorNumber::InvalidProcedureCall},
       {taxed, ErrorNumber::Overflow, {.monthsToKeep = 1}},
       {Loan(1000, 100, 6, 12), ErrorNumber::Overflow, {.investmentGrowthRate = 1e300}},
       {Loan(1000, 100, 6, 12, biWeekly), ErrorNumber::DivisionByZero, {.investmentGrowthRate = -1200}},

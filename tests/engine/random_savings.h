@@ -34,6 +34,17 @@ class RandomSavings {
     return plan;
   }
 
+  /// A plan of any frequencies, any span with a whole period in it, rates on both sides of 0 and any tax.
+  tSavingsDesc OfEveryModeAndSpan() {
+    tSavingsDesc plan = Sensible();
+    plan.paymentMode = enumFrequencyType{static_cast<std::int32_t>(Below(12))};
+    plan.compoundingMode = enumFrequencyType{static_cast<std::int32_t>(Below(3) == 0 ? Below(12) : 0)};
+    plan.endDate = AdvanceDate(plan.startDate, plan.paymentMode, static_cast<std::int32_t>(1 + Below(80)));
+    if (Below(2) == 0) plan.endDate = AddDays(plan.endDate, Below(400));
+    plan.intRate = Below(2000) / 100.0 - 3;
+    return plan;
+  }
+
   /// Anything: goals below the deposits, losses, empty and tiny terms, spans with days left over, unknown
   /// ends, every frequency, amounts of any size.
   tSavingsDesc Wild() {

@@ -79,6 +79,16 @@ TEST(SavingsSchedule, CreditsLeftoverDaysBeforeTax) {
   EXPECT_EQ(plan.totTaxCharged, 7568.55 * 0.25);
   EXPECT_EQ(plan.endingBalance, 8568.55);
   EXPECT_EQ(plan.schedule[1].lineDate, AddDays(plan.startDate, 46042));
+  plan.taxRate = 0;
+  plan.intRate = -1;
+  BuildSavingsSchedule(plan);
+  EXPECT_FALSE(std::signbit(plan.schedule[1].taxCharged));
+  // Not even a rate that only its tax makes infinite, and that no amount shows.
+  plan = Monthly(0, 0, 0, -1.7e308, 0);
+  plan.endDate = MakeDate(2003, 1, 31);
+  plan.taxRate = -100;
+  plan.compoundingMode = continuousMode;
+  EXPECT_EQ(ErrorOf([&] { BuildSavingsSchedule(plan); }), ErrorNumber::Overflow);
 }
 
 TEST(SavingsSchedule, CutsWithdrawalsToWhatIsThere) {
@@ -104,7 +114,8 @@ TEST(SavingsSchedule, RunsToItsGoal) {
       {999.6, 0.1, 0, 0, 1000, 1, 0.1, 999.7},   // near enough
       {999, 0.51, 0, 0, 1000, 2, 0.49, 1000},    // not near enough
       {1000, 0, 0, 6, 1500, 82, 0, 1505.25},     // by interest alone: nothing to cut
-      {0, 100, 0, 6, 3000, 29, 100, 3112.47},    // by the last line's interest: nothing to cut
+      {0, 100, 0, 6, 3000, 29, -12.47, 3000},    // the last line's interest alone is too much
+      {2000, 100, 0, -600, 1000, 1, 100, 1100},  // began beyond its goal: stays
       {100000, 0, 1000, 6, 0, 139, -975.72, 0},  // spent down
       {10000, 0, 1000, 0, 2500, 8, -500, 2500},  // spent down to a rest
       {1000, 50, 0, 12, 500, 1, -10, 1000},      // out of reach: takes out its interest

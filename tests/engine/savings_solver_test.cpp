@@ -9,6 +9,7 @@
 #include "amortix2/engine/savings_schedule.h"
 #include "automation/raises.h"
 #include "engine/random_savings.h"
+#include "sweep.h"
 
 namespace amortix2 {
 namespace {
@@ -49,11 +50,16 @@ TEST(SavingsSolver, FindsEachQuantity) {
   taxed.taxRate = 25;
   tSavingsDesc continuous = Plan(monthlyMode, 10, 0, kUnknown, 6, 10000);
   continuous.compoundingMode = continuousMode;
+  tSavingsDesc leftover = Plan(annualMode, 2, kUnknown, 0, 6, 10000);
+  leftover.startDate = MakeDate(2026, 1, 15);
+  leftover.endDate = MakeDate(2027, 12, 15);
   const Row rows[] = {
       {Plan(monthlyMode, 10, 0, kUnknown, 6, 16387.98), &tSavingsDesc::deposit, 100, 16387.98},
       {Plan(monthlyMode, 10, kUnknown, 100, 6, 20000), &tSavingsDesc::startingBalance, 1985.31, 19999.97},
       {taxed, &tSavingsDesc::deposit, 66.14, 10000.29},
-      {continuous, &tSavingsDesc::deposit, 60.97, 10002.61},
+      {continuous, &tSavingsDesc::deposit, 60.95, 9999.38},
+      {leftover, &tSavingsDesc::startingBalance, 8942.96, 10000.01},
+      {Plan(exactDaysMode, 5, 1000, kUnknown, 6, 2000), &tSavingsDesc::deposit, -43.33, 2000.20},
       {spending, &tSavingsDesc::withdrawal, 1110.21, 0},
       {Plan(monthlyMode, 10, 0, 100, kUnknown, 16387.98), &tSavingsDesc::intRate, 6, 16387.98},
       {Plan(annualMode, 5, 1000, 0, kUnknown, 2000), &tSavingsDesc::intRate, 14.87, 2000.01},
@@ -66,6 +72,9 @@ TEST(SavingsSolver, FindsEachQuantity) {
       {Plan(annualMode, 5, 1000, 100, kUnknown, 1500), &tSavingsDesc::intRate, 0, 1500},
       {Plan(annualMode, 5, 1000, 100, kUnknown, 50), &tSavingsDesc::intRate, 0, 1500},
       {Plan(annualMode, 5, 0, -1, kUnknown, 50), &tSavingsDesc::intRate, 0, 0},
+      // Debts grow with the rate.
+      {Plan(annualMode, 5, -1000, 0, kUnknown, 1500), &tSavingsDesc::intRate, 0, -1000},
+      {Plan(monthlyMode, 5, -1000, 100, kUnknown, 1000000), &tSavingsDesc::intRate, 0, 5000},
   };
   for (Row row : rows) {
     Solve(row.plan);
@@ -84,27 +93,65 @@ TEST(SavingsSolver, RaisesWhereNothingDeterminesTheUnknown) {
   for (tSavingsDesc& plan : rows) EXPECT_EQ(ErrorOf([&] { Solve(plan); }), ErrorNumber::DivisionByZero);
 }
 
+/// What a solved plan's schedule makes of 1 opened with, of deposits of 1, and of a rounding of 1 on each
+/// line.
+struct Growths {
+  double opening = 1, deposits = 0, roundings = 0;
+};
+
+Growths GrowthsOf(const tSavingsDesc& plan) {
+  const enumFrequencyType mode = plan.compoundingMode == 0 ? plan.paymentMode : plan.compoundingMode;
+  const double rate = plan.intRate * (1 - plan.taxRate / 100) / 100;
+  const auto regular = static_cast<std::size_t>(SavingsPeriods(plan).periods);
+  Growths sums;
+  for (std::size_t k = 1; k < plan.schedule.size(); ++k) {
+    const int days = plan.schedule[k].lineDate.serial - plan.schedule[k - 1].lineDate.serial;
+    const bool isSimple = mode == exactDaysMode && k <= regular;
+    const double growth = k > regular              ? 1 + plan.intRate * days / 36500
+                          : isSimple               ? 1
+                          : mode == continuousMode ? std::exp(rate * days / 365)
+                                                   : 1 + rate / PeriodsPerYear(mode);
+    sums.opening = sums.opening * growth + (isSimple ? rate : 0);
+    sums.deposits = sums.deposits * growth + (k > regular ? 0 : 1);
+    sums.roundings = sums.roundings * growth + 1;
+  }
+  return sums;
+}
+
+bool HasRunDry(const tSavingsDesc& plan) {
+  const auto regular = static_cast<std::size_t>(SavingsPeriods(plan).periods);
+  return std::abs(plan.schedule[regular].payment - (plan.deposit - plan.withdrawal)) > 1e-9;
+}
+
+// Half a cent of what was solved, and half a cent of each line, grown to the end.
 TEST(SavingsSolver, SolvedAmountsReachTheGoal) {
   RandomSavings random(2);
-  for (int i = 0; i < 6000; ++i) {
-    tSavingsDesc plan = random.Sensible();
+  int solved = 0;
+  const int cases = Cases(4000, 20000);
+  for (int i = 0; i < cases; ++i) {
+    tSavingsDesc plan = random.OfEveryModeAndSpan();
     const double goal = plan.endingBalance;
     double tSavingsDesc::*const unknowns[] = {&tSavingsDesc::startingBalance, &tSavingsDesc::deposit,
                                               &tSavingsDesc::withdrawal};
     plan.*unknowns[i % 3] = kUnknown;
-    Solve(plan);
-    // Half a cent of each line and of the solved amount itself, grown to the end.
-    const double growth = SavingsPeriodFactor(plan);
-    const auto lines = static_cast<double>(plan.schedule.size());
-    EXPECT_NEAR(plan.endingBalance, goal, 0.01 * lines * std::pow(growth, lines)) << i;
+    if (ErrorOf([&] { Solve(plan); }) || HasRunDry(plan)) continue;
+    ++solved;
+    const Growths growths = GrowthsOf(plan);
+    const double tolerance = 0.005 * ((i % 3 == 0 ? growths.opening : growths.deposits) + growths.roundings);
+    const double noise = 1e-12 * (std::abs(goal) + std::abs(plan.startingBalance) * growths.opening +
+                                  std::abs(plan.deposit - plan.withdrawal) * growths.deposits);
+    ASSERT_NEAR(plan.endingBalance, goal, tolerance + noise)
+        << i << ' ' << plan.paymentMode << ' ' << plan.compoundingMode << ' ' << plan.intRate;
   }
+  EXPECT_GT(solved, cases * 3 / 4);
 }
 
 TEST(SavingsSolver, SolvedRatesStandBetweenTheirNeighbours) {
   RandomSavings random(3);
   int solved = 0;
-  for (int i = 0; i < 3000; ++i) {
-    tSavingsDesc plan = random.Sensible();
+  const int cases = Cases(2000, 20000);
+  for (int i = 0; i < cases; ++i) {
+    tSavingsDesc plan = random.OfEveryModeAndSpan();
     const double goal = plan.endingBalance;
     plan.intRate = kUnknown;
     if (ErrorOf([&] { Solve(plan); }) || plan.intRate == 0) continue;
@@ -115,10 +162,34 @@ TEST(SavingsSolver, SolvedRatesStandBetweenTheirNeighbours) {
       BuildSavingsSchedule(other);
       return other.endingBalance;
     };
-    EXPECT_LE(balanceAt(plan.intRate - 0.001), goal + 0.01) << i;
-    EXPECT_GE(balanceAt(plan.intRate + 0.001), goal - 0.01) << i;
+    const double tolerance = 0.005 * GrowthsOf(plan).roundings + 1e-9;
+    ASSERT_LE(balanceAt(plan.intRate - 0.0005), goal + tolerance) << i;
+    ASSERT_GE(balanceAt(plan.intRate + 0.0005), goal - tolerance) << i;
   }
-  EXPECT_GT(solved, 2500);
+  EXPECT_GT(solved, cases / 2);
+}
+
+// Lines that compound as the search for the horizon does.
+TEST(SavingsSolver, HorizonsEndAtTheirGoal) {
+  RandomSavings random(5);
+  int reached = 0;
+  const int cases = Cases(4000, 20000);
+  for (int i = 0; i < cases; ++i) {
+    tSavingsDesc plan = random.OfEveryModeAndSpan();
+    plan.taxRate = 0;
+    const double deposit = plan.deposit - plan.withdrawal;
+    const double sign = deposit < 0 ? -1 : 1;
+    const enumFrequencyType mode = plan.compoundingMode == 0 ? plan.paymentMode : plan.compoundingMode;
+    const bool isOtherwise = mode == exactDaysMode || mode == continuousMode || deposit == 0;
+    if (isOtherwise || sign * plan.startingBalance > sign * plan.endingBalance) continue;
+    const double goal = plan.endingBalance;
+    plan.endDate = AddDays(plan.startDate, -1);
+    if (ErrorOf([&] { Solve(plan); }) || plan.deposit - plan.withdrawal != deposit) continue;
+    ++reached;
+    const double missing = sign * (goal - plan.endingBalance);
+    ASSERT_TRUE(missing >= 0 && missing <= 0.49 + 1e-9) << i << ' ' << missing;
+  }
+  EXPECT_GT(reached, cases / 3);
 }
 
 TEST(SavingsSolver, EveryRateSearchEnds) {
