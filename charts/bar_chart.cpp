@@ -11,39 +11,16 @@
 #include "amortix2/automation/conversion.h"
 #include "amortix2/charts/bar_chart_input.h"
 #include "amortix2/charts/bar_layout.h"
+#include "amortix2/charts/chart_style.h"
 #include "amortix2/charts/chart_table.h"
 #include "amortix2/charts/horizontal_plot.h"
 #include "amortix2/charts/page_text.h"
+#include "amortix2/charts/setting_values.h"
+#include "amortix2/charts/table_axis.h"
 #include "amortix2/charts/upright_plot.h"
 
 namespace amortix2 {
 namespace {
-
-enum class BarMode : std::uint8_t { Plain, Stacked, Overlapped, Horizontal };
-
-struct ChartStyle {
-  std::string_view keyword;
-  BarMode mode = BarMode::Plain;
-  bool reversed = false;  // the series' order when stacked, the rows' when horizontal
-  bool line = false;      // no background, and values below zero whatever the settings
-};
-
-constexpr ChartStyle kStyles[] = {
-    {"OL", BarMode::Overlapped}, {"OV", BarMode::Overlapped},       {"OR", BarMode::Overlapped},
-    {"ST", BarMode::Stacked},    {"SR", BarMode::Stacked, true},    {"LINE", BarMode::Plain, false, true},
-    {"HZ", BarMode::Horizontal}, {"HR", BarMode::Horizontal, true},
-};
-
-ChartStyle FindStyle(const Variant& typ) {
-  if (typ.Type() != VariantType::String) return {};
-  const auto style = std::ranges::find(kStyles, typ.GetString(), &ChartStyle::keyword);
-  return style == std::end(kStyles) ? ChartStyle{} : *style;
-}
-
-bool KeepsNegatives(const ChartStyle& style, const BarChartSettings& settings) {
-  const bool canHang = style.mode == BarMode::Plain || style.mode == BarMode::Overlapped;
-  return style.line || (canHang && settings.negativeBars);
-}
 
 // Turns round the order of as many series as there are images, which must not be fewer than the series. Every
 // bound is checked before the first exchange.
@@ -92,10 +69,6 @@ void SetImage(std::string& url, const Variant& value) {
   if (value.Type() == VariantType::String) url = value.GetString();
 }
 
-std::int16_t WholeNumber(const Variant& value) { return ToInteger(NumericOrZero(value)); }
-
-bool Flag(const Variant& value) { return NumericOrZero(value) != 0; }
-
 }  // namespace
 
 void BarChart::StackChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Variant& Colleg, Variant& Ttl,
@@ -110,7 +83,7 @@ void BarChart::MakeChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Varia
   Array& data = PageArray(vColDat);
   if (stacked && style.reversed) ReverseSeries(data, PageArray(Colgif), PageArray(Colleg));
 
-  ChartTable values = PrepareTable(data, KeepsNegatives(style, settings_));
+  ChartTable values = PrepareTable(data, KeepsNegatives(style, settings_.negativeBars));
   if (values.Rows() < 1 || values.Series() < 1) Raise(ErrorNumber::DivisionByZero);
   if (style.mode == BarMode::Horizontal && style.reversed) ReverseRows(values);
   const std::optional<ChartTable> totals = stacked ? std::optional(RunningTotals(values)) : std::nullopt;
@@ -145,6 +118,13 @@ void BarChart::MakeChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Varia
   vRes = out.Finish();
 }
 
+void BarChart::AxisRange(const Variant& vColDat, Variant& vTop, Variant& vBottom, Variant& vStep,
+                         const Variant& typ) const {
+  const ChartStyle style = FindStyle(typ);
+  const ChartTable values = PrepareTable(PageArray(vColDat), KeepsNegatives(style, settings_.negativeBars));
+  WriteAxisRange(FindTableAxis(values, style), vTop, vBottom, vStep);
+}
+
 void BarChart::SetGraphDimensions(const Variant& height, const Variant& width) {
   settings_.graph.Set(height, width);
 }
@@ -161,12 +141,7 @@ void BarChart::MinimumOverlapCount(const Variant& value) {
 }
 void BarChart::TotalGraphFrameWidth(const Variant& value) { settings_.totalFrameWidth = WholeNumber(value); }
 void BarChart::UseStyleSheets(const Variant& value) { settings_.useStyleSheets = Flag(value); }
-void BarChart::YLabelMode(const Variant& value) {
-  const double written = NumericOrZero(value);
-  settings_.valueLabels = written == 11  ? ValueLabels::All
-                          : written == 3 ? ValueLabels::EndsAndMiddle
-                                         : ValueLabels::Ends;
-}
+void BarChart::YLabelMode(const Variant& value) { settings_.valueLabels = ReadValueLabels(value); }
 void BarChart::NegativeBars(const Variant& value) { settings_.negativeBars = Flag(value); }
 void BarChart::SupressLegend(const Variant& value) { settings_.showLegend = !Flag(value); }
 void BarChart::AltFormatStr(const Variant& value) { settings_.altFormat = ToText(value); }

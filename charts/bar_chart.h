@@ -36,6 +36,13 @@ class BarChart {
   void MakeChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Variant& Colleg, Variant& Ttl,
                  Variant& Xaxis, Variant& Yaxis, Variant& vRes, const Variant& typ = kMissing);
 
+  /// The axis that a chart of `vColDat` in the style `typ` has, with these settings: its upper and its lower
+  /// end and one of its ten intervals. Raises SubscriptOutOfRange for a table that is not two-dimensional
+  /// from (0, 0), Overflow for numbers too large to draw, TypeMismatch for a label without text; nothing is
+  /// written then.
+  void AxisRange(const Variant& vColDat, Variant& vTop, Variant& vBottom, Variant& vStep,
+                 const Variant& typ = kMissing) const;
+
   /// Height and width of the plot in pixels; 0 keeps the old value.
   void SetGraphDimensions(const Variant& height, const Variant& width);
 

@@ -8,6 +8,7 @@
 #include "amortix2/charts/gif_writer.h"
 #include "amortix2/charts/line_chart.h"
 #include "amortix2/charts/read_through.h"
+#include "amortix2/charts/table_axis.h"
 
 namespace amortix2 {
 
@@ -29,5 +30,9 @@ void GifChart::LineChart(const Variant& vColDat, const Variant& vPal, const Vari
 }
 
 void GifChart::SetGraphDimensions(const Variant& height, const Variant& width) { size_.Set(height, width); }
+
+void GifChart::AxisRange(const Variant& vColDat, Variant& vTop, Variant& vBottom, Variant& vStep) const {
+  WriteAxisRange(LineChartAxis(vColDat), vTop, vBottom, vStep);
+}
 
 }  // namespace amortix2

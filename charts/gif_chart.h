@@ -35,6 +35,10 @@ class GifChart {
   /// Height and width of the chart in pixels; 0 keeps the old value (charts/graph_size.h).
   void SetGraphDimensions(const Variant& height, const Variant& width);
 
+  /// The axis that the chart of `vColDat` has: its upper and its lower end and one of its ten intervals, so
+  /// that a page can label the image. Raises what DrawLineChart raises for a table; nothing is written then.
+  void AxisRange(const Variant& vColDat, Variant& vTop, Variant& vBottom, Variant& vStep) const;
+
  private:
   GraphSize size_;
   std::shared_ptr<ScriptingContext> context_;

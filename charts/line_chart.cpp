@@ -85,6 +85,8 @@ class LinePicture {
 
 }  // namespace
 
+AxisRange LineChartAxis(const Variant& columns) { return TableAxis(ReadNumbers(columns)); }
+
 Raster DrawLineChart(GraphSize size, const Variant& columns) {
   const ChartTable table = ReadNumbers(columns);
   LinePicture picture(size, TableAxis(table));

@@ -4,6 +4,7 @@
 // knows neither pages nor files.
 
 #include "amortix2/automation/variant.h"
+#include "amortix2/charts/axis_range.h"
 #include "amortix2/charts/graph_size.h"
 #include "amortix2/charts/raster.h"
 
@@ -19,6 +20,9 @@ namespace amortix2 {
 /// Raises SubscriptOutOfRange for a table that is not two-dimensional from (0, 0) or a negative size,
 /// Overflow for a value that is too large to draw or more than 255 lines, OutOfMemory above 2^26 pixels.
 Raster DrawLineChart(GraphSize size, const Variant& columns);
+
+/// The axis of that chart. Raises SubscriptOutOfRange for the same tables, Overflow for values too large.
+AxisRange LineChartAxis(const Variant& columns);
 
 /// Sets the colours that a chart has for itself: 192 and 255 (background and white), 193 (zero line) and 211
 /// (grid). Raises SubscriptOutOfRange for a palette of fewer than 256 colours or three components.

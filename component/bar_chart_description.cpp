@@ -8,48 +8,29 @@ namespace {
 
 using namespace describing;  // NOLINT(google-build-using-namespace): the words of descriptions
 
-constexpr Param kLabelledTable =
-    kChartTable.Says("Groups from row 1, series from column 1; column 0 labels unless (0, 0) is a number");
 constexpr Param kBlank = Input("blnk", "Blank image", Unit::Text, "URL of a transparent one-pixel image")
                              .Nothing()
                              .Example("space.gif");
 constexpr Param kImages =
     Input("Colgif", "Images", Unit::List, "Image URLs: 0 the background, 1 and up the series")
         .Example(R"(["white.gif", "blue.gif", "red.gif"])");
-constexpr Param kLegends = Input("Colleg", "Series", Unit::List, "Names of the series, from 1")
-                               .Example(R"(["", "Principal", "Interest"])");
-constexpr Param kTitles =
-    Input("Ttl", "Titles", Unit::List, "1 the frame's title (empty: no frame), 2 the chart's")
-        .Example(R"(["", "", "Payments by year"])");
-constexpr Param kXAxis =
-    Input("Xaxis", "Caption below", Unit::Text, "Caption below the plot").Nothing().Example("Year");
-constexpr Param kYAxis = Input("Yaxis", "Caption at the left", Unit::Text, "Caption left of the plot")
-                             .Nothing()
-                             .Example("Dollars");
 constexpr Param kLines =
     Result("vRes", "Markup", Unit::List, "The chart, one line of HTML an element").Of(kMarkup);
 constexpr Param kUrl =
     Input("v", "Image", Unit::Text, "URL; anything but text is ignored").Example("black.gif");
 constexpr Param kWidth = kPixels.Span(1, 200, 1);
 
-/// A write-only property.
-constexpr About Setting(int number, std::string_view title, std::string_view help) {
-  return {.number = number, .group = Group::Charts, .title = title, .address = {}, .help = help};
-}
-
 constexpr auto kDescription = describe<BarChart>(
     "Bar chart",
     "Turns a table of numbers into an HTML bar chart of nested tables and stretched one-pixel images. "
     "Texts go out as they are, markup included.",
-    method<&BarChart::MakeChart>(
-        {.number = 2,
-         .group = Group::Charts,
-         .title = "HTML bar chart",
-         .address = "bar-chart",
-         .help = "A chart in the style named last; plain columns without one."},
-        {kLabelledTable.ComesBack(), kBlank, kImages.ComesBack(), kLegends.ComesBack(), kTitles, kXAxis,
-         kYAxis, kLines,
-         Input("typ", "Style", Unit::Text, "Name of the style").Of(kBarStyle).Optional().Example("ST")}),
+    method<&BarChart::MakeChart>({.number = 2,
+                                  .group = Group::Charts,
+                                  .title = "HTML bar chart",
+                                  .address = "bar-chart",
+                                  .help = "A chart in the style named last; plain columns without one."},
+                                 {kLabelledTable.ComesBack(), kBlank, kImages.ComesBack(),
+                                  kLegends.ComesBack(), kTitles, kXAxis, kYAxis, kLines, kStyle}),
     method<&BarChart::StackChart>(
         {.number = 1,
          .group = Group::Charts,
@@ -91,7 +72,10 @@ constexpr auto kDescription = describe<BarChart>(
     property<&BarChart::YLableFormatStr>(Setting(16, "Axis format", "Number format of the axis values."),
                                          kFormat),
     property<&BarChart::AltLabelWithLegend>(
-        Setting(17, "Names in tooltips", "Tooltips start with the series' name."), kSwitch));
+        Setting(17, "Names in tooltips", "Tooltips start with the series' name."), kSwitch),
+    method<&BarChart::AxisRange>(
+        Setting(18, "Ends of the axis", "The axis that a chart of a table has, with these settings."),
+        {kLabelledTable, kAxisTop, kAxisBottom, kAxisStep, kStyle}));
 
 }  // namespace
 

@@ -5,8 +5,8 @@
 namespace amortix2 {
 
 std::span<const ClassInfo* const> Classes() noexcept {
-  static constexpr std::array<const ClassInfo*, 4> kClasses{&kCalculatorClass, &kBarChartClass,
-                                                            &kGifChartClass, &kInvestmentStrategyClass};
+  static constexpr std::array<const ClassInfo*, 5> kClasses{
+      &kCalculatorClass, &kBarChartClass, &kGifChartClass, &kInvestmentStrategyClass, &kSvgChartClass};
   return kClasses;
 }
 

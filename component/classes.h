@@ -10,5 +10,6 @@ extern const ClassInfo kCalculatorClass;
 extern const ClassInfo kBarChartClass;
 extern const ClassInfo kGifChartClass;
 extern const ClassInfo kInvestmentStrategyClass;
+extern const ClassInfo kSvgChartClass;
 
 }  // namespace amortix2

@@ -67,7 +67,11 @@ constexpr auto kDescription = describe<GifChart>(
          .title = "Start of a page",
          .address = {},
          .help = "Takes the page's context, to whose response charts are sent; the page server calls it."},
-        {Input("iScriptingContext", "Page", Unit::None, "Context of the page that runs").Nothing()}));
+        {Input("iScriptingContext", "Page", Unit::None, "Context of the page that runs").Nothing()}),
+    method<&GifChart::AxisRange>(
+        Setting(6, "Ends of the axis", "The axis that the chart of a table has, for the page to label."),
+        {kChartTable.Says("Numbers from (0, 0): a column from 1 is a line, a row from 1 a point"), kAxisTop,
+         kAxisBottom, kAxisStep}));
 
 }  // namespace
 

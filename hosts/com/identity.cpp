@@ -19,11 +19,13 @@ constexpr std::array kIdentities{
     Identity{"BarChart", "12097c0e-a08d-4145-b3ae-c9090db3714e"},
     Identity{"GifChart", "9ba841cc-d306-4736-93fb-db53a5312ad8"},
     Identity{"InvestmentStrategy", "14643a4b-d354-4b01-87c4-11636f7638d4"},
+    Identity{"SvgChart", "332a8a78-271d-4b02-84fa-098cc194be38"},
 
     Identity{"_Calculator", "7b1c8abc-0e5e-44c3-ba36-67f7547516f0"},
     Identity{"_BarChart", "e9cb113a-8a2e-495a-bc76-945a191e1ba3"},
     Identity{"_GifChart", "068ca09e-81d5-4065-93fe-8aba86e93aa4"},
     Identity{"_InvestmentStrategy", "7045e534-2931-41e9-be44-a23186ae3e95"},
+    Identity{"_SvgChart", "b068978f-e9d8-4759-bbe2-b39c77f57eb7"},
 
     Identity{"tSchedule", "5ef26671-2217-41eb-99a0-2460b5581be0"},
     Identity{"tLoanDesc", "ac2be958-6f01-4c5d-90f1-594a2530d057"},
