@@ -17,7 +17,9 @@ void GifChart::OnStartPage(std::shared_ptr<ScriptingContext> iScriptingContext) 
 }
 
 void GifChart::writeGifFile(const std::string& nm, const Variant& vImg, const Variant& vPal) const {
-  WriteWholeFile(nm, EncodeGif(ReadRaster(vImg), ReadPalette(vPal)));
+  const Raster image = ReadRaster(vImg);
+  const Palette palette = ReadPalette(vPal);
+  WriteWholeFile(nm, EncodeGif(image, palette));
 }
 
 void GifChart::DumpAFile(const Variant& x) const { ReadThrough(ToText(x)); }

@@ -72,6 +72,7 @@ Json RequestOf(const Options& options) {
 }
 
 void SaveResponse(const Call& call, const std::string& path) {
+  if (path.empty()) throw RequestError("--out names no file");
   if (call.Response().empty()) throw RequestError("nothing was sent to the page, so there is no " + path);
   WriteWholeFile(path, call.Response());
 }
@@ -88,7 +89,7 @@ int RunCall(const Options& options) {
     WriteAll(STDOUT_FILENO, ReadableAnswer(call, request));
   }
   if (call.Error()) return Report(*call.Error());
-  if (!options.out.empty()) SaveResponse(call, options.out);
+  if (options.out) SaveResponse(call, *options.out);
   return kSuccess;
 }
 

@@ -19,8 +19,8 @@ struct Options {
   std::vector<std::string> settings;   ///< NAME=VALUE
   bool json = false;
   bool types = false;
-  std::string out;            ///< the file for the page's response; empty: none
-  std::optional<Date> today;  ///< instead of the machine's date
+  std::optional<std::string> out;  ///< the file for the page's response
+  std::optional<Date> today;       ///< instead of the machine's date
 };
 
 /// Exit statuses.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -53,6 +54,37 @@ TEST_F(WholeFile, ReplacesTheWholeFile) {
   EXPECT_TRUE(fs::is_symlink(folder / "link"));
   EXPECT_EQ(fs::status(folder / "old").permissions(), fs::perms::owner_read | fs::perms::owner_write);
   EXPECT_EQ(CountFiles(), 4);
+  fs::create_symlink("made", folder / "early");
+  fs::create_symlink("circle", folder / "circle");
+  EXPECT_FALSE(Write(Path("early"), 7));
+  EXPECT_TRUE(fs::is_symlink(folder / "early"));
+  EXPECT_EQ(Content("made"), "nnnnnnn");
+  EXPECT_EQ(Write(Path("circle"), 7), ErrorNumber::PathFileAccess);
+}
+
+// As an ordinary user in a folder of somebody else's; root may write everywhere.
+TEST_F(WholeFile, FileInAFolderThatMayNotBeWrittenIsWrittenInPlace) {
+  fs::permissions(folder / "old", fs::perms::all);
+  fs::create_symlink("old", folder / "link");
+  std::ofstream(folder / "guarded") << "guarded";
+  fs::permissions(folder / "guarded", fs::perms::owner_read);
+  fs::permissions(folder, fs::perms(0555));
+  const pid_t child = fork();
+  if (child == 0) {
+    if (getuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0)) _exit(1);
+    const bool isRight = !Write(Path("link"), 10) &&
+                         Write(Path("guarded"), 10) == ErrorNumber::PathFileAccess &&
+                         Write(Path("new"), 10) == ErrorNumber::PathFileAccess;
+    _exit(isRight ? 0 : 2);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+  fs::permissions(folder, fs::perms::owner_all);
+  EXPECT_EQ(Content("old"), std::string(10, 'n'));
+  EXPECT_EQ(Content("guarded"), "guarded");
+  EXPECT_TRUE(fs::is_symlink(folder / "link"));
+  EXPECT_EQ(CountFiles(), 3);
 }
 
 TEST_F(WholeFile, BadPathsAreErrors) {

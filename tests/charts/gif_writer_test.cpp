@@ -6,6 +6,7 @@
 #include <span>
 
 #include "amortix2/automation/array.h"
+#include "amortix2/charts/gif_chart.h"
 #include "amortix2/charts/gif_lzw.h"
 #include "automation/raises.h"
 #include "charts/sample_rasters.h"
@@ -135,6 +136,9 @@ TEST(GifWriter, ReadsRastersAndPalettes) {
     EXPECT_EQ(ErrorOf([&] { ReadRaster(row.table); }), row.error) << "row " << &row - rows;
     EXPECT_EQ(ErrorOf([&] { ReadPalette(row.table); }), row.error) << "row " << &row - rows;
   }
+  // With both bad the raster's error is the answer.
+  EXPECT_EQ(ErrorOf([] { GifChart().writeGifFile("x", 5, Filled({1, 2}, {0, 2}, 1)); }),
+            ErrorNumber::TypeMismatch);
   EXPECT_EQ(ErrorOf([] { ReadRaster(Filled({0, -1}, {0, 2}, 1)); }), ErrorNumber::SubscriptOutOfRange);
   EXPECT_EQ(ErrorOf([] { ReadRaster(Filled({0, 32767}, {0, 0}, 1)); }), ErrorNumber::Overflow);
   EXPECT_EQ(ErrorOf([] { Raster(32767, 2049, 0); }), ErrorNumber::OutOfMemory);

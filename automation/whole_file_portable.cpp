@@ -1,4 +1,5 @@
-#include "amortix2/automation/whole_file.h"
+// The plain way, on what every standard library has: a new file with a name of its own, renamed when it is
+// complete.
 
 #include <filesystem>
 #include <fstream>
@@ -7,6 +8,7 @@
 #include <string_view>
 
 #include "amortix2/automation/error.h"
+#include "amortix2/automation/whole_file.h"
 
 namespace amortix2 {
 namespace {
@@ -27,7 +29,7 @@ fs::path Resolve(const std::string& path) {
 fs::path NewNameBeside(const fs::path& target) {
   std::random_device random;
   const std::uint64_t number = std::uint64_t{random()} << 32 | random();
-  return fs::path(target).replace_filename("gif" + std::to_string(number) + ".tmp");
+  return target.parent_path() / ("gif" + std::to_string(number) + ".tmp");
 }
 
 class TemporaryFile {
