@@ -7,35 +7,17 @@
 #include <algorithm>
 #include <limits>
 
-#include "amortix2/automation/calendar_walk.h"
 #include "amortix2/automation/conversion.h"
 #include "amortix2/automation/error.h"
 #include "amortix2/engine/adjustable_rate.h"
 #include "amortix2/engine/biweekly_schedule.h"
+#include "amortix2/engine/date_steps.h"
 #include "amortix2/engine/frequency.h"
 #include "amortix2/engine/payment_factors.h"
 #include "amortix2/engine/schedule_parts.h"
 
 namespace amortix2 {
 namespace {
-
-/// The dates 1, 2, 3, ... months after a start, as AdvanceDate gives them.
-class MonthlyDates {
- public:
-  /// Raises what the furthest date, `count` months after the start, raises.
-  MonthlyDates(Date start, int count) : day_(ToCivil(start).day), month_(start) {
-    AdvanceDate(start, monthlyMode, count);
-  }
-
-  Date Next() {
-    month_.Advance();
-    return Date{month_.FirstSerial() + std::min(day_, month_.Days()) - 1};
-  }
-
- private:
-  int day_;
-  CalendarMonth month_;
-};
 
 /// How a schedule's lines are laid out: the opening, a lease's prepaid payments, then the regular payments.
 struct Layout {
@@ -62,7 +44,7 @@ class MonthlyLines {
 
   /// Raises what BuildLoanSchedule raises.
   std::vector<tSchedule> Write() {
-    MonthlyDates dates(loan_.startDate, std::max(layout_.payments, layout_.regular));
+    DateSteps dates(loan_.startDate, StepOf(monthlyMode), std::max(layout_.payments, layout_.regular));
     const bool isLease = loan_.typ == loanAsLease;
     std::vector<tSchedule> lines(static_cast<std::size_t>(layout_.last) + (isLease ? 2 : 1));
     tSchedule* line = lines.data();
@@ -86,22 +68,23 @@ class MonthlyLines {
 
   /// Returns the growth of the last line.
   [[gnu::noinline]] double WriteRegularLines(tSchedule* line, RunningLoan& runningLoan,
-                                             MonthlyDates dates) const {
+                                             DateSteps dates) const {
     RunningLoan running = runningLoan;
     AdjustableRate rate(loan_);
     double growth = MonthlyGrowth(loan_.intRate);
     double annualRate = (growth - 1) * 1200;
-    const bool isCard = loan_.typ == creditCard;
-    for (int k = 1; k <= layout_.regular; ++k, ++line) {
+    const int count = layout_.regular;
+    const int firstOfCard = loan_.typ == creditCard ? 2 : count + 1;
+    for (int k = 1; k <= count; ++k, ++line) {
       if (rate.StepTo(k)) {
         growth = MonthlyGrowth(rate.Rate());
         annualRate = (growth - 1) * 1200;
-        const double factor = AnnuityFactor(growth, layout_.regular - k + 1);
+        const double factor = AnnuityFactor(growth, count - k + 1);
         running.payment = Amount(RoundToCents(Divide(running.balance.value, factor)));
       }
       line->lineDate = dates.Next();
       line->intRate = annualRate;
-      if (isCard && k >= 2) {
+      if (k >= firstOfCard) {
         // The card's payments fall in mid-month: half of this one has been owed all month.
         const Amount interest = RoundToCents((running.balance + running.payment * 0.5) * (growth - 1));
         running.Pay(*line, running.balance + interest, interest);

@@ -12,15 +12,12 @@ double LineGrowth(const tSavingsDesc& save, double annualRate) {
   return 1 + annualRate / (100 * PeriodsPerYear(CompoundingMode(save)));
 }
 
-RunningSavings::RunningSavings(const tSavingsDesc& save, double annualRate)
+SavingsGrowth::SavingsGrowth(const tSavingsDesc& save, double annualRate)
     : mode_(CompoundingMode(save)),
       annualRate_(annualRate),
       afterTaxRate_(WithoutMinusZero(Finite(AfterTaxFraction(save) * annualRate))),
       growth_(LineGrowth(save, afterTaxRate_)),
-      openingBalance_(save.startingBalance),
-      balance_(openingBalance_),
-      grownBalance_(openingBalance_),
-      deposit_(NetDeposit(save)) {
+      openingBalance_(save.startingBalance) {
   if (mode_ == continuousMode) dailyFactors_ = BuildDailyFactorTable(afterTaxRate_);
 }
 

@@ -7,9 +7,9 @@
 #include <array>
 #include <cstdint>
 
+#include "amortix2/engine/amount.h"
 #include "amortix2/engine/elementary.h"
 #include "amortix2/engine/records.h"
-#include "amortix2/engine/rounding.h"
 
 namespace amortix2 {
 
@@ -30,58 +30,62 @@ inline double GrowthOfDays(const std::array<double, 32>& daily, std::int32_t day
   return Power(daily[31], days / 31) * daily[static_cast<std::size_t>(days % 31)];
 }
 
-class RunningSavings {
+/// How a plan's lines grow at one annual rate.
+class SavingsGrowth {
  public:
   /// `save` at an annual rate before tax, percent. Raises Overflow.
-  RunningSavings(const tSavingsDesc& save, double annualRate);
+  SavingsGrowth(const tSavingsDesc& save, double annualRate);
 
-  /// Credits a line's interest after tax and moves the net deposit. A withdrawal of more than there is, is
-  /// cut to what there is, and stays cut. `days` since the line before count in continuous compounding only.
-  /// Raises Overflow.
-  void NextLine(std::int32_t days) {
-    grownBalance_ = Grow(days);
-    if (deposit_ < 0 && grownBalance_ + deposit_ < 0) {
-      deposit_ = grownBalance_ > 0 ? -grownBalance_ : 0;
-      ranDry_ = true;
-    }
-    balance_ = grownBalance_ + deposit_;
-  }
-
-  /// Credits simple interest before tax for days that make no period, and returns it. Raises Overflow.
-  double CreditDays(std::int32_t days) {
-    const double interest = RoundToCents(balance_ * (annualRate_ / 365 / 100) * days);
-    balance_ += interest;
-    return interest;
-  }
-
-  double Balance() const { return balance_; }
-  double GrownBalance() const { return grownBalance_; }  ///< with the line's interest, before its deposit
-  double Deposit() const { return deposit_; }            ///< net, of the last line
-  double AfterTaxRate() const { return afterTaxRate_; }  ///< annual percent
-  bool RanDry() const { return ranDry_; }                ///< a withdrawal had to be cut
-
- private:
-  double Grow(std::int32_t days) const {
+  /// The balance with a line's interest after tax. `days` since the line before count in continuous
+  /// compounding only. Raises Overflow.
+  Amount Grown(Amount balance, std::int32_t days) const {
     switch (mode_) {
       case continuousMode:
-        return RoundToCents(balance_ * GrowthOfDays(dailyFactors_, days));
+        return RoundToCents(balance * GrowthOfDays(dailyFactors_, days));
       case exactDaysMode:
-        return balance_ + (RoundToCents(openingBalance_ * growth_) - openingBalance_);
+        return balance + (RoundToCents(openingBalance_ * growth_) - openingBalance_);
       default:
-        return RoundToCents(balance_ * growth_);
+        return RoundToCents(balance * growth_);
     }
   }
 
+  /// Simple interest before tax for days that make no period. Raises Overflow.
+  Amount OfDays(Amount balance, std::int32_t days) const {
+    return RoundToCents(balance * (annualRate_ / 365 / 100) * days);
+  }
+
+  double AfterTaxRate() const { return afterTaxRate_; }  ///< annual percent
+
+ private:
   enumFrequencyType mode_;
   double annualRate_;
   double afterTaxRate_;
   double growth_;
-  double openingBalance_;
-  double balance_;
-  double grownBalance_;
-  double deposit_;
-  bool ranDry_ = false;
+  Amount openingBalance_;
   std::array<double, 32> dailyFactors_{};
+};
+
+/// The balance, and what each line adds to it.
+struct RunningSavings {
+  Amount balance;
+  Amount grown;         ///< with the line's interest, before its deposit
+  Amount deposit;       ///< net, of the last line
+  bool ranDry = false;  ///< a withdrawal had to be cut
+
+  explicit RunningSavings(const tSavingsDesc& save)
+      : balance(save.startingBalance), grown(balance), deposit(NetDeposit(save)) {}
+
+  /// Credits a line's interest and moves the net deposit. A withdrawal of more than there is, is cut to what
+  /// there is, and stays cut.
+  void NextLine(const SavingsGrowth& growth, std::int32_t days) {
+    grown = growth.Grown(balance, days);
+    balance = grown + deposit;
+    if (deposit.value < 0 && balance.value < 0) {
+      deposit = grown.value > 0 ? Amount() - grown : Amount();
+      balance = grown + deposit;
+      ranDry = true;
+    }
+  }
 };
 
 }  // namespace amortix2

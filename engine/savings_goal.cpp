@@ -22,16 +22,16 @@ SavingsGoal FindGoal(const tSavingsDesc& save) {
   constexpr double kLeastProgress = 0.0001;
   constexpr double kNearEnough = 0.49;
   const double growth = LineGrowth(save, save.intRate);
-  const double deposit = NetDeposit(save);
+  const Amount deposit(NetDeposit(save));
   const double goal = save.endingBalance;
-  double balance = save.startingBalance;
-  const double missingAtFirst = std::abs(goal - balance);
+  Amount balance(save.startingBalance);
+  const double missingAtFirst = std::abs(goal - balance.value);
   for (std::int16_t lines = 1;; ++lines) {
     balance = RoundToCents(balance * growth) + deposit;
-    if (lines == 1 && (IsUnknown(goal) || std::abs(goal - balance) > missingAtFirst - kLeastProgress)) {
+    if (lines == 1 && (IsUnknown(goal) || std::abs(goal - balance.value) > missingAtFirst - kLeastProgress)) {
       return TakeOutInterest(save, growth);
     }
-    const double missing = deposit < 0 ? balance - goal : goal - balance;
+    const double missing = deposit.value < 0 ? balance.value - goal : goal - balance.value;
     if (missing <= kNearEnough) return {lines, goal, save.deposit, save.withdrawal};
     if (lines == std::numeric_limits<std::int16_t>::max()) Raise(ErrorNumber::Overflow);
   }

@@ -72,29 +72,29 @@ class SavingsTrials {
 
  private:
   void CountDays() {
-    const SavingsDates dates(save_);
+    DateSteps dates = SavingsDates(save_, periods_.periods);
     Date previous = save_.startDate;
-    for (std::size_t i = 0; i < daysOfLines_.size(); ++i) {
-      const Date date = dates.OfLine(static_cast<std::int32_t>(i) + 1);
-      daysOfLines_[i] = date.serial - previous.serial;
+    for (std::int32_t& days : daysOfLines_) {
+      const Date date = dates.Next();
+      days = date.serial - previous.serial;
       previous = date;
     }
   }
 
   double EndingBalance(double annualPercent) const {
-    double balance = save_.startingBalance;
+    RunningSavings running(save_);
     try {
-      RunningSavings running(save_, annualPercent);
+      const SavingsGrowth growth(save_, annualPercent);
       for (const std::int32_t days : daysOfLines_) {
-        running.NextLine(days);
-        if (running.RanDry()) return -kInfinity;
-        balance = running.Balance();
+        running.NextLine(growth, days);
+        if (running.ranDry) return -kInfinity;
       }
-      if (periods_.days != 0) running.CreditDays(periods_.days);
-      return Finite(running.Balance());
+      const Amount balance = running.balance;
+      return Finite((periods_.days == 0 ? balance : balance + growth.OfDays(balance, periods_.days)).value);
     } catch (const AutomationError& error) {
       // A trial that overflows is an answer of the search, not its failure.
       if (error.Number() != ErrorNumber::Overflow) throw;
+      const double balance = running.balance.value;
       return std::copysign(kInfinity, balance == 0 ? NetDeposit(save_) : balance);
     }
   }

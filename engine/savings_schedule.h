@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "amortix2/engine/date_steps.h"
 #include "amortix2/engine/frequency.h"
 #include "amortix2/engine/records.h"
 
@@ -38,16 +39,7 @@ void BuildSavingsSchedule(tSavingsDesc& save);
 /// Whole periods and leftover days of a plan; none when its end is unknown. Raises as CountWholePeriods does.
 WholePeriods SavingsPeriods(const tSavingsDesc& save);
 
-/// Dates of a plan's regular lines, each stepped from the start.
-class SavingsDates {
- public:
-  explicit SavingsDates(const tSavingsDesc& save);
-  /// Raises as AdvanceDate does.
-  Date OfLine(std::int32_t line) const { return StepDate(start_, step_, line); }
-
- private:
-  CivilDate start_;
-  PeriodStep step_;
-};
+/// Dates of a plan's `count` regular lines, each stepped from the start. Raises as AdvanceDate does.
+DateSteps SavingsDates(const tSavingsDesc& save, std::int32_t count);
 
 }  // namespace amortix2

@@ -31,11 +31,11 @@ SavingsFactors SimpleFactors(double interestOfOne, std::int32_t count) {
 /// The lines' own factors, of their real days.
 SavingsFactors ContinuousFactors(const tSavingsDesc& save, double annualRate, std::int32_t count) {
   const std::array<double, 32> daily = BuildDailyFactorTable(annualRate);
-  const SavingsDates dates(save);
+  DateSteps dates = SavingsDates(save, count);
   SavingsFactors factors;
   Date previous = save.startDate;
   for (std::int32_t line = 1; line <= count; ++line) {
-    const Date date = dates.OfLine(line);
+    const Date date = dates.Next();
     const double growth = GrowthOfDays(daily, date.serial - previous.serial);
     factors.opening *= growth;
     factors.deposits = factors.deposits * growth + 1;

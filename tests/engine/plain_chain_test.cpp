@@ -12,10 +12,10 @@
 #include "amortix2/engine/adjustable_rate.h"
 #include "amortix2/engine/amount.h"
 #include "amortix2/engine/elementary.h"
+#include "amortix2/engine/frequency.h"
 #include "amortix2/engine/loan_schedule.h"
 #include "amortix2/engine/payment_factors.h"
 #include "amortix2/engine/running_savings.h"
-#include "amortix2/engine/savings_goal.h"
 #include "amortix2/engine/savings_schedule.h"
 #include "automation/raises.h"
 
@@ -194,6 +194,94 @@ TEST(PlainChain, LoansAgreeToTheBit) {
           << loan.intRate;
     }
   }
+}
+
+/// How many payments plain doubles take to pay a loan off; 0 for more than 32767.
+int PlainTerm(const tLoanDesc& loan) {
+  const double growth = MonthlyGrowth(loan.intRate);
+  const double payment = loan.payment;
+  double balance = loan.startingBalance;
+  for (int months = 1; months <= 32767; ++months) {
+    balance = loan.typ == creditCard && months >= 2
+                  ? RoundToCents((balance + payment / 2) * growth - payment - payment / 2)
+                  : RoundToCents(balance * growth) - payment;
+    if (balance >= loan.startingBalance) return 1;
+    if (payment * 0.25 >= balance) return months;
+  }
+  return 0;
+}
+
+TEST(PlainChain, TermsAgree) {
+  Random random(3);
+  for (std::int64_t left = LinesToCompare() / 4; left > 0;) {
+    tLoanDesc loan = RandomLoan(random);
+    int term = 0;
+    const auto plainError = ErrorOf([&] { term = PlainTerm(loan); });
+    left -= term + 1;
+    TermFound found{};
+    const auto error = ErrorOf([&] { found = FindTerm(loan); });
+    ASSERT_EQ(error, term == 0 ? ErrorNumber::Overflow : plainError);
+    ASSERT_EQ(term, found.payments) << loan.startingBalance << ' ' << loan.payment << ' ' << loan.intRate;
+  }
+}
+
+tSavingsDesc RandomPlan(Random& random) {
+  tSavingsDesc plan;
+  plan.startDate = Date{static_cast<std::int32_t>(36000 + random.Below(20000))};
+  plan.paymentMode = enumFrequencyType{static_cast<std::int32_t>(random.Below(11))};
+  plan.compoundingMode = enumFrequencyType{static_cast<std::int32_t>(random.Below(2) * random.Below(11))};
+  plan.endDate = AdvanceDate(plan.startDate, plan.paymentMode, static_cast<std::int32_t>(random.Below(200)));
+  if (random.Below(4) == 0) plan.endDate.serial += 5;
+  plan.startingBalance = random.Money(random.Below(4) == 0 ? 1e15 : 1e6) * (random.Below(20) == 0 ? -1 : 1);
+  plan.deposit = random.Money(1e4);
+  plan.withdrawal = random.Below(2) == 0 ? random.Money(1e4) : 0;
+  plan.intRate = random.Rate(PeriodsPerYear(CompoundingMode(plan)));
+  plan.taxRate = random.Below(3) == 0 ? static_cast<double>(random.Below(60)) : 0;
+  return plan;
+}
+
+/// The regular lines of a plan with a known end, on the dates and rate of its schedule.
+std::vector<tSchedule> PlainLines(const tSavingsDesc& plan) {
+  std::vector<tSchedule> lines = plan.schedule;
+  const double rate = (1 - plan.taxRate / 100) * plan.intRate;
+  const enumFrequencyType mode = CompoundingMode(plan);
+  const double growth = 1 + rate / (100 * PeriodsPerYear(mode));
+  const auto daily = mode == continuousMode ? BuildDailyFactorTable(rate) : std::array<double, 32>{};
+  double balance = plan.startingBalance;
+  double deposit = plan.deposit - plan.withdrawal;
+  for (std::size_t k = 1; k < lines.size() - (SavingsPeriods(plan).days != 0 ? 1 : 0); ++k) {
+    const int days = lines[k].lineDate.serial - lines[k - 1].lineDate.serial;
+    const double grown = mode == continuousMode
+                             ? RoundToCents(balance * (Power(daily[31], days / 31) *
+                                                       daily[static_cast<std::size_t>(days % 31)]))
+                         : mode == exactDaysMode
+                             ? balance + (RoundToCents(plan.startingBalance * growth) - plan.startingBalance)
+                             : RoundToCents(balance * growth);
+    if (deposit < 0 && grown + deposit < 0) deposit = grown > 0 ? -grown : 0;
+    lines[k].startingBalance = balance;
+    lines[k].payment = deposit;
+    lines[k].intCredited = RoundToCents(grown - balance);
+    lines[k].endingBalance = balance = grown + deposit;
+  }
+  return lines;
+}
+
+TEST(PlainChain, SavingsAgreeToTheBit) {
+  Random random(4);
+  int built = 0;
+  for (std::int64_t left = LinesToCompare() / 4; left > 0; --left) {
+    tSavingsDesc plan = RandomPlan(random);
+    if (ErrorOf([&] { BuildSavingsSchedule(plan); })) continue;
+    ++built;
+    left -= std::ssize(plan.schedule);
+    const std::vector<tSchedule> plain = PlainLines(plan);
+    for (std::size_t k = 1; k < plain.size(); ++k) {
+      ASSERT_NO_FATAL_FAILURE(ExpectSameLine(plain[k], plan.schedule[k]))
+          << k << ": " << plan.paymentMode << ' ' << plan.compoundingMode << ' ' << plan.startingBalance
+          << ' ' << plan.deposit - plan.withdrawal << ' ' << plan.intRate;
+    }
+  }
+  EXPECT_GT(built, 100);
 }
 
 }  // namespace
