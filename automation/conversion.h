@@ -17,6 +17,18 @@ namespace amortix2 {
 /// Double that is infinite or no number).
 double NumericOrZero(const Variant& value);
 
+/// A number as automation reads it: a parameter that takes any variant, and counts as 0 when that is none.
+class Number {
+ public:
+  // Implicit on purpose, both ways: a Number stands where a caller has a variant and a calculation a double.
+  Number(const Variant& value) : value_(NumericOrZero(value)) {}
+  Number(double value) noexcept : value_(value) {}
+  operator double() const noexcept { return value_; }
+
+ private:
+  double value_;
+};
+
 /// True for the types that NumericOrZero reads, for text that ParseNumber reads, and for Empty.
 bool IsNumeric(const Variant& value);
 

@@ -70,6 +70,13 @@ Date MakeDate(std::int64_t year, std::int64_t month, std::int64_t day) {
   return Checked((firstOfMonth - kDayZero).count() + day - 1);
 }
 
+Date::Date(const std::chrono::year_month_day& day) {
+  if (!day.ok()) Raise(ErrorNumber::InvalidProcedureCall);
+  *this = Checked((sys_days(day) - kDayZero).count());
+}
+
+Date::operator std::chrono::year_month_day() const noexcept { return kDayZero + days(serial); }
+
 Date AddDays(Date date, std::int64_t days) {
   if (!IsSane(days)) Raise(ErrorNumber::InvalidProcedureCall);
   return Checked(date.serial + days);

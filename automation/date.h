@@ -5,6 +5,7 @@
 // the host hands in; nothing else here depends on the machine.
 
 #include <array>
+#include <chrono>
 #include <compare>
 #include <cstdint>
 #include <string_view>
@@ -13,6 +14,12 @@ namespace amortix2 {
 
 struct Date {
   std::int32_t serial = 0;  ///< days since 30 December 1899, from kFirstDay to kLastDay
+
+  constexpr Date() noexcept = default;
+  constexpr explicit Date(std::int32_t days) noexcept : serial(days) {}
+  /// The standard library's date. Raises InvalidProcedureCall for 31 April, and outside the valid days.
+  Date(const std::chrono::year_month_day& day);
+  explicit operator std::chrono::year_month_day() const noexcept;
 
   friend constexpr auto operator<=>(Date, Date) = default;  // NOLINT(modernize-use-nullptr): its own zero
 };

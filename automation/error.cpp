@@ -52,6 +52,7 @@ std::string_view ErrorDescription(ErrorNumber number) noexcept {
 }
 
 void Raise(ErrorNumber number) { throw AutomationError(number); }
+void Raise(ErrorNumber number, const char* argument) { throw AutomationError(number, argument); }
 
 ErrorNumber CurrentErrorNumber() noexcept {
   try {

@@ -34,15 +34,22 @@ std::string_view ErrorDescription(ErrorNumber number) noexcept;
 
 class AutomationError : public std::exception {
  public:
-  explicit AutomationError(ErrorNumber number) noexcept : number_(number) {}
+  /// `argument` is a literal.
+  explicit AutomationError(ErrorNumber number, const char* argument = "") noexcept
+      : number_(number), argument_(argument) {}
   ErrorNumber Number() const noexcept { return number_; }
+  /// Which argument is at fault, where that is known; else "".
+  std::string_view Argument() const noexcept { return argument_; }
   const char* what() const noexcept override { return ErrorName(number_).data(); }
 
  private:
   ErrorNumber number_;
+  const char* argument_;
 };
 
 [[noreturn]] void Raise(ErrorNumber number);
+/// Names the argument at fault, a literal.
+[[noreturn]] void Raise(ErrorNumber number, const char* argument);
 
 /// Only while an exception is handled: the number that stands for it, the same in every host. An
 /// AutomationError's own; OutOfMemory for memory or a length that there is not; InternalError for anything

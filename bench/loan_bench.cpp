@@ -8,7 +8,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "amortix2/calculators/loans.h"
+#include "amortix2/calculators/calculator.h"
 #include "amortix2/engine/loan_solver.h"
 #include "amortix2/engine/rounding.h"
 
@@ -50,8 +50,8 @@ void WholeCalculator(benchmark::State& state) {
   const Variant amount(200000), months(360), rate(6.5), none;
   Variant purchase, payment, period, intRate, totPay, totInt, table;
   for (auto _ : state) {
-    calculators::SimpleLoanCalculator(clock, none, amount, none, months, rate, purchase, payment, period,
-                                      intRate, totPay, totInt, table);
+    Calculator(clock).SimpleLoanCalculator(none, amount, none, months, rate, purchase, payment, period,
+                                           intRate, totPay, totInt, table);
     benchmark::DoNotOptimize(table);
   }
 }
@@ -75,8 +75,8 @@ void PaymentGrid(benchmark::State& state) {
       stepsY(90);
   Variant grid;
   for (auto _ : state) {
-    calculators::PaymentGridCalculator(clock, price, down, rate, months, downStep, rateStep, stepsX, stepsY,
-                                       grid);
+    Calculator(clock).PaymentGridCalculator(price, down, rate, months, downStep, rateStep, stepsX, stepsY,
+                                            grid);
     benchmark::DoNotOptimize(grid);
   }
 }

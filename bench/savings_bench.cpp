@@ -2,7 +2,7 @@
 //
 //   BareLines     only the interest, the rounding and the deposit of each line
 //   Schedule      the plan's schedule with dates and totals
-//   Calculator    SimpleSavingsCalculator as a page calls it, from variants to the table
+//   WholeCalculator  SimpleSavingsCalculator as a page calls it, from variants to the table
 //   RateSearch    the rate that reaches a goal, without its schedule
 //   RandomPlans   100,000 rate searches, over plans as people make them and over plans of any kind; `most` is
 //                 the largest number of rounds, `slowest` the seconds of the slowest
@@ -13,7 +13,7 @@
 #include <chrono>
 
 #include "amortix2/automation/error.h"
-#include "amortix2/calculators/savings.h"
+#include "amortix2/calculators/calculator.h"
 #include "amortix2/engine/rounding.h"
 #include "amortix2/engine/savings_rate.h"
 #include "amortix2/engine/savings_schedule.h"
@@ -55,16 +55,22 @@ void Schedule(benchmark::State& state) {
 }
 BENCHMARK(Schedule);
 
-void Calculator(benchmark::State& state) {
+struct FixedClock : Clock {
+  Date Today() const override { return MakeDate(2026, 1, 31); }
+};
+
+void WholeCalculator(benchmark::State& state) {
+  const FixedClock clock;
+  const Calculator calculator(clock);
   const Variant start = MakeDate(2026, 1, 31);
   for (auto _ : state) {
     Variant balance, deposit, endingBalance, endDate, rate, detail;
-    calculators::SimpleSavingsCalculator(start, 1000, 100, monthlyMode, 0, kLines, 6, 0, balance, deposit,
-                                         endingBalance, endDate, rate, detail);
+    calculator.SimpleSavingsCalculator(start, 1000, 100, monthlyMode, 0, kLines, 6, 0, balance, deposit,
+                                       endingBalance, endDate, rate, detail);
     benchmark::DoNotOptimize(detail);
   }
 }
-BENCHMARK(Calculator);
+BENCHMARK(WholeCalculator);
 
 void RateSearch(benchmark::State& state) {
   const tSavingsDesc plan = Plan();

@@ -1,72 +1,103 @@
 #pragma once
 
-// The calculators that set two loans side by side. Each answers with a small table `vGrid` and one schedule
-// table a loan (as in loans.h). Row 0 and column 0 of the grid stay Empty; columns 1 and 2 are the two loans,
-// column 3 is their difference; its rows are
+// Plain answers that set two loans side by side: the loan that a borrower has against a new one, against
+// paying more and against paying every two weeks; and two offers for a purchase. Conventions and errors stand
+// in question.h. For example
 //
-//   1  monthly payment
-//   2  cash paid up front: points, interim interest and fees
-//   3  term in months
-//   4  present value of the loan's cost over the months that it is kept
-//   5  annual percentage rate (PointsAdvisor and ARMComparison only)
+//   Compare(PrepaymentQuestion{.current = {.balance = 100000, .payment = 843.86, .annualPercent = 6},
+//                              .extraPayment = 100})
 //
-// `vSellByDate` is the number of months that the loan is kept; a date is no number and counts as 0, which
-// stands for the whole term. Inputs that are no numbers count as 0. All raise as the calculators of loans.h,
-// and write nothing then but what is said below.
+// answers with current.months 180 and proposed.months 151.
 
-#include "amortix2/automation/date.h"
-#include "amortix2/automation/variant.h"
+#include "amortix2/calculators/loans.h"
+#include "amortix2/calculators/question.h"
 
-namespace amortix2::calculators {
+namespace amortix2 {
 
-/// The current loan (column 1) against a new one of the same balance (column 2); column 3 is current less
-/// new, so that a positive number is what the new loan saves. The current loan's remaining term is found from
-/// its payment.
-void RefinancingCalculator(const Clock& clock, const Variant& vCurrBal, const Variant& vCurrPay,
-                           const Variant& vCurrRate, const Variant& vNewRate, const Variant& vNewPoints,
-                           const Variant& vNewFees, const Variant& vNewTerm, const Variant& vIncTaxRate,
-                           const Variant& vInvGrowthRate, const Variant& vSellByDate, Variant& vGrid,
-                           Variant& vCurrDet, Variant& vNewDet);
+/// The loan that the borrower has; its remaining term is found.
+struct CurrentLoan {
+  double balance = 0;
+  double payment = 0;  ///< each month
+  double annualPercent = 0;
+};
 
-/// The current loan (column 1) against paying `vExtraPayment` more each month (column 2); column 3 is current
-/// less new.
-void PrePayCalculator(const Clock& clock, const Variant& vCurrBal, const Variant& vCurrPay,
-                      const Variant& vCurrRate, const Variant& vExtraPayment, const Variant& vIncTaxRate,
-                      const Variant& vInvGrowthRate, const Variant& vSellByDate, Variant& vGrid,
-                      Variant& vCurrDet, Variant& vNewDet);
+/// What decides what a loan costs in today's money.
+struct Outlook {
+  double taxPercent = 0;     ///< income tax that deductible interest saves
+  double growthPercent = 0;  ///< what money not spent earns, annual
+  double monthsKept = 0;     ///< months until the home is sold; below 1 or past the term: the whole term
+};
 
-/// PrePayCalculator with the extra payment that pays the loan off in `targetPeriod` months, never less than
-/// 0. `currPay` is written back as a number, before anything else is computed from it.
-void FastPrePayCalculator(const Clock& clock, Variant& currBal, Variant& currPay, Variant& currRate,
-                          Variant& targetPeriod, Variant& taxRate, Variant& invRate, Variant& keep,
-                          Variant& grid, Variant& currdet, Variant& newdet);
+/// One of two loans. Totals and cost run over the months kept.
+struct ComparedLoan {
+  double payment = 0;
+  double upFrontCost = 0;  ///< points, interim interest and fees
+  double months = 0;
+  double costInTodaysMoney = 0;     ///< present value of what is paid and owed, less tax saved
+  double annualPercentageRate = 0;  ///< APR, to three decimals; offers only
+  double totalPayments = 0;
+  double totalInterest = 0;
+  double totalTaxSaved = 0;
+  Schedule schedule = {};
+};
 
-/// The current monthly loan (column 1) against half payments every two weeks from `vSwitchDate` on, for a fee
-/// (column 2); column 3 is current less new. Dates that are none are today.
-void BiWeeklyComparison(const Clock& clock, const Variant& vCurrBal, const Variant& vCurrPay,
-                        const Variant& vCurrRate, const Variant& vPaymentDate, const Variant& vNewFees,
-                        const Variant& vSwitchDate, const Variant& vIncTaxRate, const Variant& vInvGrowthRate,
-                        const Variant& vSellByDate, Variant& vGrid, Variant& vCurrDet, Variant& vNewDet);
+struct LoanComparison {
+  ComparedLoan current = {};
+  ComparedLoan proposed = {};
+};
 
-/// Two fixed-rate offers for one purchase; column 3 is offer 2 less offer 1. `vNewDet` is offer 1's schedule,
-/// `vCurrDet` offer 2's.
-void PointsAdvisor(const Clock& clock, const Variant& vPurchaseAmt, const Variant& vIncTaxRate,
-                   const Variant& vSellByDate, const Variant& vDownpayment1, const Variant& vPeriod1,
-                   const Variant& vIntRate1, const Variant& vPoints1, const Variant& vFees1,
-                   const Variant& vDownpayment2, const Variant& vPeriod2, const Variant& vIntRate2,
-                   const Variant& vPoints2, const Variant& vFees2, Variant& vGrid, Variant& vCurrDet,
-                   Variant& vNewDet);
+/// A new loan of the current balance.
+struct NewLoan {
+  double months = 0;
+  double annualPercent = 0;
+  double points = 0;  ///< percent of the balance
+  double fees = 0;
+};
 
-/// Two adjustable-rate offers, whose rates change by `vRateInc` points every `vIncDelay` months up to
-/// `vRateCap`; column 3 is offer 1 less offer 2. `vNewDet` is offer 1's schedule, `vCurrDet` offer 2's, both
-/// with the line's rate in column 6.
-void ARMComparison(const Clock& clock, const Variant& vPurchaseAmt, const Variant& vIncTaxRate,
-                   const Variant& vSellByDate, const Variant& vDownpayment1, const Variant& vPeriod1,
-                   const Variant& vIntRate1, const Variant& vPoints1, const Variant& vFees1,
-                   const Variant& vRateInc1, const Variant& vIncDelay1, const Variant& vRateCap1,
-                   const Variant& vDownpayment2, const Variant& vPeriod2, const Variant& vIntRate2,
-                   const Variant& vPoints2, const Variant& vFees2, const Variant& vRateInc2,
-                   const Variant& vIncDelay2, const Variant& vRateCap2, Variant& vGrid, Variant& vCurrDet,
-                   Variant& vNewDet);
+struct RefinancingQuestion {
+  CurrentLoan current = {};
+  NewLoan proposed = {};
+  Outlook outlook = {};
+  Date startDate = kDefaultStart;
+};
 
-}  // namespace amortix2::calculators
+/// The current loan with `extraPayment` more each month.
+struct PrepaymentQuestion {
+  CurrentLoan current = {};
+  double extraPayment = 0;
+  Outlook outlook = {};
+  Date startDate = kDefaultStart;
+};
+
+/// The current loan with half payments every two weeks from a date on, for a fee.
+struct BiWeeklyQuestion {
+  CurrentLoan current = {};
+  Date switchDate = kDefaultStart;  ///< first half payment; by the start: 14 days after it
+  double fees = 0;
+  Outlook outlook = {};
+  Date startDate = kDefaultStart;
+};
+
+LoanComparison Compare(const RefinancingQuestion& question);
+LoanComparison Compare(const PrepaymentQuestion& question);
+LoanComparison Compare(const BiWeeklyQuestion& question);
+
+/// The extra payment that pays the current loan off in `months`, never less than 0.
+double ExtraPaymentFor(const CurrentLoan& current, double months);
+
+/// Two offers.
+struct OfferQuestion {
+  PurchaseLoan first = {};
+  PurchaseLoan second = {};
+  Outlook outlook = {};
+  Date startDate = kDefaultStart;
+};
+
+struct OfferComparison {
+  ComparedLoan first = {};
+  ComparedLoan second = {};
+};
+
+OfferComparison Compare(const OfferQuestion& question);
+
+}  // namespace amortix2

@@ -1,132 +1,200 @@
 #include "amortix2/calculators/leases.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "amortix2/calculators/savings.h"
-#include "amortix2/calculators/work.h"
+#include "amortix2/automation/checked.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/calculators/calculator.h"
+#include "amortix2/calculators/savings_results.h"
+#include "amortix2/calculators/tables.h"
 #include "amortix2/engine/elementary.h"
 #include "amortix2/engine/frequency.h"
-#include "amortix2/engine/rounding.h"
+#include "amortix2/engine/loan_solver.h"
 
-namespace amortix2::calculators {
+namespace amortix2 {
 namespace {
 
-/// Marks what is to be found; false when the inputs do not determine it.
-bool MarkUnknown(tLoanDesc& lease) {
-  if (lease.residualAmount == 0) {
-    lease.residualAmount = UNKNOWNLOANVALUE;
-    return lease.startingBalance != 0 && lease.payment != 0;
-  }
-  if (lease.startingBalance == 0) {
-    lease.startingBalance = UNKNOWNLOANVALUE;
-    return lease.payment != 0;
-  }
-  double& unknown = lease.intRate == 0 && lease.payment != 0 ? lease.intRate : lease.payment;
-  unknown = UNKNOWNLOANVALUE;
-  return true;
-}
+using namespace calculators;
 
 /// Interest may be compounded more often than payments are made where the one divides the other. Monthly
 /// payments take any frequency of interest, also a lower one.
-bool AcceptsInterest(std::int32_t payMode, std::int32_t intMode) {
-  switch (payMode) {
+bool AcceptsInterest(enumFrequencyType payments, enumFrequencyType interest) {
+  switch (payments) {
     case weeklyMode:
-      return intMode == dailymode;
+      return interest == dailymode;
     case biweeklyMode:
-      return intMode == dailymode || intMode == weeklyMode;
+      return interest == dailymode || interest == weeklyMode;
     case bimonthlyMode:
     case quarterlyMode:
-      return intMode == monthlyMode;
+      return interest == monthlyMode;
     case semiannualMode:
-      return intMode >= monthlyMode && intMode <= quarterlyMode;
+      return interest >= monthlyMode && interest <= quarterlyMode;
     case annualMode:
-      return intMode >= monthlyMode && intMode <= semiannualMode;
+      return interest >= monthlyMode && interest <= semiannualMode;
     default:
       return true;
   }
 }
 
-/// The rate whose monthly growth is the growth of one payment period.
-double RatePerPayment(double annualRate, enumFrequencyType payMode, enumFrequencyType intMode) {
-  if (payMode == monthlyMode && intMode == monthlyMode) return annualRate;
-  const double interestPeriods = PeriodsPerYear(intMode);
-  const double growth = 1 + annualRate / 100 / interestPeriods;
-  return Finite(1200 * (Power(growth, ToLong(interestPeriods / PeriodsPerYear(payMode))) - 1));
+/// The lease with one month of the engine for each payment, at a rate on that basis.
+LeaseAnswer SolveMonthly(const LeaseQuestion& question) {
+  RequireOneUnknown({{"amount", question.amount.has_value()},
+                     {"payment", question.payment.has_value()},
+                     {"annualPercent", question.annualPercent.has_value()},
+                     {"residual", question.residual.has_value()}});
+  tLoanDesc lease;
+  lease.typ = loanAsLease;
+  lease.startDate = question.startDate;
+  lease.startingBalance = OrUnknown(question.amount);
+  lease.payment = OrUnknown(question.payment);
+  lease.intRate = OrUnknown(question.annualPercent);
+  lease.residualAmount = OrUnknown(question.residual);
+  lease.period = std::max(question.payments, 1.0);
+  lease.numberPrepays = ToInteger(std::clamp(question.prepaid, 0.0, lease.period));
+  tCreditQualification household;
+  SolveLoan(lease, household, true);
+  return {.amount = lease.startingBalance,
+          .payment = lease.payment,
+          .payments = lease.period,
+          .annualPercent = lease.intRate,
+          .prepaid = lease.numberPrepays,
+          .residual = lease.residualAmount,
+          .totalPayments = lease.totPayments,
+          .totalInterest = lease.totIntCharged,
+          .schedule = std::move(lease.schedule)};
 }
 
-/// Replaces the dates of a lease's table from row 2 on by those of a plan's, whose row 1 is the first
-/// payment.
-void TakeDates(Array& lease, const Array& plan) {
-  constexpr int kDateColumn = 1;
-  const std::int32_t lastRow = lease.Dimension(1).upper;
-  const std::int32_t lastDate = plan.Dimension(1).upper;
-  for (std::int32_t i = 1; i < lastRow && i <= lastDate; ++i) {
-    lease.At(i + 1, kDateColumn) = plan.At(i, kDateColumn);
+/// The dates 1 to `payments` of a lease's payments, and how they fall on its lines: line 1 keeps its date,
+/// the line after payment k's own takes date k, and the last line the last date.
+class PaymentDates {
+ public:
+  /// A savings plan at the payments' frequency has the dates; its amounts do not matter.
+  PaymentDates(Date start, enumFrequencyType frequency, double payments) {
+    SavingsQuestion question{.balance = 0,
+                             .deposit = 1,
+                             .annualPercent = 3,
+                             .endDate = EndAfter(start, frequency, payments),
+                             .frequency = frequency,
+                             .startDate = start};
+    if (payments == 0) question.endingBalance = 0;
+    SavingsAnswer plan = Solve(question);
+    last_ = RowsWithLeftover(start, frequency, plan.endDate);
+    lines_ = std::move(plan.schedule);
+    if (static_cast<std::size_t>(last_) >= lines_.size()) Raise(ErrorNumber::SubscriptOutOfRange);
   }
-  lease.At(lastRow, kDateColumn) = plan.At(lastDate, kDateColumn);
+
+  /// Calls `assign(line, date)` for each of the lease's lines 0 to lastLine whose date changes.
+  template <class Assign>
+  void ForLines(std::int32_t lastLine, const Assign& assign) const {
+    for (std::int32_t i = 1; i < lastLine && i <= last_; ++i) assign(i + 1, DateOf(i));
+    assign(lastLine, DateOf(last_));
+  }
+
+ private:
+  Date DateOf(std::int32_t payment) const { return lines_[static_cast<std::size_t>(payment)].lineDate; }
+
+  Schedule lines_;
+  std::int32_t last_ = 0;
+};
+
+/// Leaves out what is to be found; false when the inputs do not determine it.
+bool LeaveOutZero(LeaseQuestion& question) {
+  if (question.residual == 0) {
+    question.residual.reset();
+    return question.amount != 0 && question.payment != 0;
+  }
+  if (question.amount == 0) {
+    question.amount.reset();
+    return question.payment != 0;
+  }
+  if (question.annualPercent == 0 && question.payment != 0) {
+    question.annualPercent.reset();
+  } else {
+    question.payment.reset();
+  }
+  return true;
 }
 
 }  // namespace
 
-void MonthlyLeaseCalculator(const Clock& clock, const Variant& vDummy, const Variant& vPrincipal,
-                            const Variant& vPayment, const Variant& vPeriod, const Variant& vIntRate,
-                            const Variant& vPrepays, const Variant& vEndingBal, const Variant& vStartDate,
-                            Variant& vResPrincipal, Variant& vResPayment, Variant& vResPeriod,
-                            Variant& vResIntRate, Variant& vResPrepays, Variant& vResEndingBal,
-                            Variant& vResTotPayments, Variant& vResTotInterest, Variant& vDetArr) {
+double RatePerPayment(double annualPercent, enumFrequencyType payments, enumFrequencyType interest) {
+  if (!AcceptsInterest(payments, interest)) interest = payments;
+  if (payments == monthlyMode && interest == monthlyMode) return annualPercent;
+  const double interestPeriods = PeriodsPerYear(interest);
+  const double growth = 1 + annualPercent / 100 / interestPeriods;
+  return Finite(1200 * (Power(growth, ToLong(interestPeriods / PeriodsPerYear(payments))) - 1));
+}
+
+LeaseAnswer Solve(const LeaseQuestion& question) {
+  LeaseQuestion monthly = question;
+  if (question.annualPercent) {
+    monthly.annualPercent =
+        RatePerPayment(*question.annualPercent, question.paymentFrequency, question.interestFrequency);
+  }
+  LeaseAnswer answer = SolveMonthly(monthly);
+  if (question.paymentFrequency == monthlyMode) return answer;
+  const PaymentDates dates(question.startDate, question.paymentFrequency, answer.payments);
+  dates.ForLines(static_cast<std::int32_t>(answer.schedule.size()) - 1, [&](std::int32_t line, Date date) {
+    answer.schedule[static_cast<std::size_t>(line)].lineDate = date;
+  });
+  return answer;
+}
+
+void Calculator::MonthlyLeaseCalculator(const Variant& vDummy, Number vPrincipal, Number vPayment,
+                                        Number vPeriod, Number vIntRate, Number vPrepays, Number vEndingBal,
+                                        const Variant& vStartDate, Variant& vResPrincipal,
+                                        Variant& vResPayment, Variant& vResPeriod, Variant& vResIntRate,
+                                        Variant& vResPrepays, Variant& vResEndingBal,
+                                        Variant& vResTotPayments, Variant& vResTotInterest,
+                                        Variant& vDetArr) const {
   static_cast<void>(vDummy);
-  Work work = Work::ForLoans(1);
-  tLoanDesc& lease = work.loans.At(1);
-  lease.typ = loanAsLease;
-  lease.startDate = DateOrToday(vStartDate, clock);
-  lease.startingBalance = NumericOrZero(vPrincipal);
-  lease.payment = NumericOrZero(vPayment);
-  lease.intRate = NumericOrZero(vIntRate);
-  lease.residualAmount = NumericOrZero(vEndingBal);
-  lease.period = std::max(NumericOrZero(vPeriod), 1.0);
-  if (!MarkUnknown(lease)) {
+  LeaseQuestion question{.amount = vPrincipal,
+                         .payment = vPayment,
+                         .annualPercent = vIntRate,
+                         .residual = vEndingBal,
+                         .payments = vPeriod,
+                         .prepaid = vPrepays,
+                         .startDate = DateOrToday(vStartDate, clock_)};
+  if (!LeaveOutZero(question)) {
     Array detail = Table(1);
     vResPrincipal = vResPayment = vResPeriod = vResIntRate = vResPrepays = vResEndingBal = 0.0;
     vResTotPayments = vResTotInterest = std::int16_t{0};
     vDetArr = std::move(detail);
     return;
   }
-  lease.numberPrepays = ToInteger(std::clamp(NumericOrZero(vPrepays), 0.0, lease.period));
-  work.Solve(LoanCalculator);
-  Array detail = Detail(lease, static_cast<std::int32_t>(lease.schedule.size()) - 1);
-  vResPrincipal = lease.startingBalance;
-  vResPayment = lease.payment;
-  vResPeriod = lease.period;
-  vResIntRate = lease.intRate;
-  vResPrepays = lease.numberPrepays;
-  vResEndingBal = lease.residualAmount;
-  vResTotPayments = lease.totPayments;
-  vResTotInterest = lease.totIntCharged;
+  const LeaseAnswer answer = Solve(question);
+  Array detail = LoanTable(answer.schedule, static_cast<std::int32_t>(answer.schedule.size()) - 1);
+  vResPrincipal = answer.amount;
+  vResPayment = answer.payment;
+  vResPeriod = answer.payments;
+  vResIntRate = answer.annualPercent;
+  vResPrepays = answer.prepaid;
+  vResEndingBal = answer.residual;
+  vResTotPayments = answer.totalPayments;
+  vResTotInterest = answer.totalInterest;
   vDetArr = std::move(detail);
 }
 
-void SimpleLeaseCalculator(const Clock& clock, const Variant& vDummy, const Variant& vPrincipal,
-                           const Variant& vPayment, const Variant& vPeriod, const Variant& vIntRate,
-                           const Variant& vPrepays, const Variant& vEndingBal, const Variant& vStartDate,
-                           const Variant& vPayMode, const Variant& vIntMode, Variant& vResPrincipal,
-                           Variant& vResPayment, Variant& vResPeriod, Variant& vResIntRate,
-                           Variant& vResPrepays, Variant& vResEndingBal, Variant& vResTotPayments,
-                           Variant& vResTotInterest, Variant& vDetArr) {
-  const Variant startDate = DateOrToday(vStartDate, clock);
-  const std::int32_t payMode = ToLong(NumericOrZero(vPayMode));
-  const std::int32_t askedIntMode = ToLong(NumericOrZero(vIntMode));
-  const std::int32_t intMode = AcceptsInterest(payMode, askedIntMode) ? askedIntMode : payMode;
-  const double rate =
-      RatePerPayment(NumericOrZero(vIntRate), enumFrequencyType{payMode}, enumFrequencyType{intMode});
-  MonthlyLeaseCalculator(clock, vDummy, vPrincipal, vPayment, vPeriod, rate, vPrepays, vEndingBal, startDate,
+void Calculator::SimpleLeaseCalculator(const Variant& vDummy, Number vPrincipal, Number vPayment,
+                                       Number vPeriod, Number vIntRate, Number vPrepays, Number vEndingBal,
+                                       const Variant& vStartDate, Number vPayMode, Number vIntMode,
+                                       Variant& vResPrincipal, Variant& vResPayment, Variant& vResPeriod,
+                                       Variant& vResIntRate, Variant& vResPrepays, Variant& vResEndingBal,
+                                       Variant& vResTotPayments, Variant& vResTotInterest,
+                                       Variant& vDetArr) const {
+  const Date startDate = DateOrToday(vStartDate, clock_);
+  const enumFrequencyType payments{ToLong(vPayMode)};
+  const double rate = RatePerPayment(vIntRate, payments, enumFrequencyType{ToLong(vIntMode)});
+  MonthlyLeaseCalculator(vDummy, vPrincipal, vPayment, vPeriod, rate, vPrepays, vEndingBal, startDate,
                          vResPrincipal, vResPayment, vResPeriod, vResIntRate, vResPrepays, vResEndingBal,
                          vResTotPayments, vResTotInterest, vDetArr);
 
-  // A savings plan at the payment frequency has the dates; its amounts do not matter.
-  Variant balance, deposit, endingBalance, endDate, planRate, plan;
-  SimpleSavingsCalculator(startDate, 0.0, 1.0, payMode, 0.0, vResPeriod, 3.0, 0.0, balance, deposit,
-                          endingBalance, endDate, planRate, plan);
-  TakeDates(vDetArr.GetArray(), plan.GetArray());
+  // The results stand when the dates fail.
+  const PaymentDates dates(startDate, enumFrequencyType{ToInteger(payments)}, vResPeriod.GetDouble());
+  Array& table = vDetArr.GetArray();
+  dates.ForLines(table.Dimension(1).upper,
+                 [&](std::int32_t row, Date date) { table.At(row, 1) = FormatMonthDayYear(date); });
 }
 
-}  // namespace amortix2::calculators
+}  // namespace amortix2

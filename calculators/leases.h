@@ -1,39 +1,46 @@
 #pragma once
 
-// The lease calculators. A lease is a loan whose first payments may be made in advance and which ends with a
-// residual value. Inputs that are no numbers count as 0. Tables are as those of loans.h, with the prepaid
-// payments in row 1 and the residual in the last row.
+// Plain answers about a lease: a loan whose first payments may be made in advance and which ends with a
+// residual value. Conventions and errors stand in question.h.
 
-#include "amortix2/automation/date.h"
-#include "amortix2/automation/variant.h"
+#include <cstdint>
+#include <optional>
 
-namespace amortix2::calculators {
+#include "amortix2/calculators/question.h"
 
-/// A lease with monthly payments. Finds the residual when it is 0 and principal and payment are given; else
-/// the principal when it is 0 and a payment is given; else, with principal and residual given, the rate when
-/// it is 0 and a payment is given, and otherwise the payment. Where nothing can be found all results are 0
-/// and the table has two empty rows. A period below 1 counts as 1, prepayments below 0 as 0 and
-/// those above the period as the period. `vDummy` is not read. Raises as the calculators of loans.h; no
-/// result is written then.
-void MonthlyLeaseCalculator(const Clock& clock, const Variant& vDummy, const Variant& vPrincipal,
-                            const Variant& vPayment, const Variant& vPeriod, const Variant& vIntRate,
-                            const Variant& vPrepays, const Variant& vEndingBal, const Variant& vStartDate,
-                            Variant& vResPrincipal, Variant& vResPayment, Variant& vResPeriod,
-                            Variant& vResIntRate, Variant& vResPrepays, Variant& vResEndingBal,
-                            Variant& vResTotPayments, Variant& vResTotInterest, Variant& vDetArr);
+namespace amortix2 {
 
-/// A lease with payments at frequency `vPayMode` and interest compounded at `vIntMode` (enumFrequencyType).
-/// The rate is restated for one payment period, on the monthly basis of MonthlyLeaseCalculator (1200 times
-/// the growth of a period), and so is a rate that is found; the table's dates are those of the payment
-/// frequency. An interest frequency that does not divide the payment's becomes the payment's, except with
-/// monthly payments. Raises as MonthlyLeaseCalculator and SimpleSavingsCalculator; when the dates fail, the
-/// results stand.
-void SimpleLeaseCalculator(const Clock& clock, const Variant& vDummy, const Variant& vPrincipal,
-                           const Variant& vPayment, const Variant& vPeriod, const Variant& vIntRate,
-                           const Variant& vPrepays, const Variant& vEndingBal, const Variant& vStartDate,
-                           const Variant& vPayMode, const Variant& vIntMode, Variant& vResPrincipal,
-                           Variant& vResPayment, Variant& vResPeriod, Variant& vResIntRate,
-                           Variant& vResPrepays, Variant& vResEndingBal, Variant& vResTotPayments,
-                           Variant& vResTotInterest, Variant& vDetArr);
+/// For example 20000 over 36 payments of 400 at 6 %, nothing in advance: a residual of 8199.16.
+struct LeaseQuestion {
+  std::optional<double> amount = {};         ///< what is leased is worth
+  std::optional<double> payment = {};        ///< each period
+  std::optional<double> annualPercent = {};  ///< see RatePerPayment for what is found of it
+  std::optional<double> residual = {};       ///< value left after the last payment
+  double payments = 1;                       ///< how many; below 1: one
+  double prepaid = 0;                        ///< of them in advance, from 0 to `payments`; cut to that
+  Date startDate = kDefaultStart;
+  enumFrequencyType paymentFrequency = monthlyMode;
+  enumFrequencyType interestFrequency = monthlyMode;  ///< the payments' where it does not divide them
+};
 
-}  // namespace amortix2::calculators
+struct LeaseAnswer {
+  double amount = 0;
+  double payment = 0;
+  double payments = 0;
+  double annualPercent = 0;  ///< 1200 times the growth of a payment period, which is the annual rate of a
+                             ///< monthly lease with monthly interest
+  std::int16_t prepaid = 0;
+  double residual = 0;
+  double totalPayments = 0;
+  double totalInterest = 0;
+  Schedule schedule = {};  ///< line 1 the payments in advance, the last line the residual
+};
+
+/// Finds what is left out, and the schedule.
+LeaseAnswer Solve(const LeaseQuestion& question);
+
+/// 1200 times the growth of one payment period at an annual rate whose interest is compounded at
+/// `interest`. Raises Overflow.
+double RatePerPayment(double annualPercent, enumFrequencyType payments, enumFrequencyType interest);
+
+}  // namespace amortix2

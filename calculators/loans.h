@@ -1,84 +1,149 @@
 #pragma once
 
-// The calculators of one loan: each describes it in the engine's record, has the engine solve it, and returns
-// the results with the schedule. Inputs that are no numbers count as 0; rates are annual percentages, terms
-// months. Tables have a row for every schedule line, row 0 the opening, and columns 1 to 5: date
-// ("mm-dd-yyyy"), payment, principal repaid, interest, ending balance; column 0 stays Empty.
-//
-// All raise Overflow, DivisionByZero, SubscriptOutOfRange, InvalidProcedureCall and OutOfMemory as the engine
-// and the arrays do. Where nothing else is said, no result is written then.
+// Plain answers about one loan: what is missing of amount, payment, term and rate; what a purchase costs a
+// month, at a fixed or an adjustable rate, with or without a balloon; and how large a mortgage a household
+// carries. Conventions and errors stand in question.h. The methods of Calculator read variants, ask here, and
+// write tables.
 
-#include "amortix2/automation/date.h"
-#include "amortix2/automation/variant.h"
+#include <optional>
 
-namespace amortix2::calculators {
+#include "amortix2/calculators/question.h"
 
-/// A loan that starts today: of amount, payment, term and rate the one that is 0 is found, looked for in this
-/// order; with none 0 the payment is found anew. A 0 rate is looked for only when the other three are given.
-/// Nothing is computed when too little is given. `vLoanType` "C" or "c" is a credit card, anything else a
-/// simple loan.
-///
-/// First the results echo the inputs, with totals of Integer 0 and an empty table; they stay so when nothing
-/// is computed and when the engine raises. 200000 over 360 months at 6.5 gives a payment of 1264.14.
-void SimpleLoanCalculator(const Clock& clock, const Variant& vLoanType, const Variant& vPurchaseAmt,
-                          const Variant& vPayment, const Variant& vPeriod, const Variant& vIntRate,
-                          Variant& vResPurchaseAmt, Variant& vResPayment, Variant& vResPeriod,
-                          Variant& vResIntRate, Variant& vTotPay, Variant& vTotInt, Variant& vDetArray);
+namespace amortix2 {
 
-/// The payment of a purchase price less a down payment. The loan starts one month before `vPayDate` (today
-/// without one); the days from `vCloseDate` to its start bear interim interest. `vLoanType` is not read.
-/// Results are written in two stages, as by SimpleLoanCalculator.
-void FixedPayment(const Clock& clock, const Variant& vLoanType, const Variant& vPurchaseAmt,
-                  const Variant& vDownPayment, const Variant& vPeriod, const Variant& vIntRate,
-                  const Variant& vCloseDate, const Variant& vPayDate, Variant& vResPurchaseAmt,
-                  Variant& vResPayment, Variant& vResPeriod, Variant& vResIntRate, Variant& vTotPay,
-                  Variant& vTotInt, Variant& vDetArray);
+// ---- Amount, payment, term, rate
 
-/// FixedPayment with a rate that changes by `vRateInc1` points at payment `vIncDelay1` and by `vRateInc2`
-/// points every `vIncDelay2` months after it, never above `vRateCap` nor below 0. The empty table of the
-/// first stage has one column more.
-void AdjustablePayment(const Clock& clock, const Variant& vLoanType, const Variant& vPurchaseAmt,
-                       const Variant& vDownPayment, const Variant& vPeriod, const Variant& vIntRate,
-                       const Variant& vCloseDate, const Variant& vPayDate, const Variant& vRateCap,
-                       const Variant& vRateInc1, const Variant& vRateInc2, const Variant& vIncDelay1,
-                       const Variant& vIncDelay2, Variant& vResPurchaseAmt, Variant& vResPayment,
-                       Variant& vResPeriod, Variant& vResIntRate, Variant& vTotPay, Variant& vTotInt,
-                       Variant& vDetArray);
+struct LoanQuestion {
+  std::optional<double> amount = {};         ///< amount borrowed
+  std::optional<double> payment = {};        ///< each month
+  std::optional<double> months = {};         ///< term
+  std::optional<double> annualPercent = {};  ///< 0 is an interest-free loan
+  Date startDate = kDefaultStart;            ///< the first payment falls due a month later
+  enumLoanType type = simpleLoan;  ///< or creditCard, whose payments fall in the middle of the month
+};
 
-/// A loan paid as over its full term and settled after `vBalloonAtPeriod` payments by one large payment, the
-/// balloon, in the table's last row. A balloon at the end of the term or after it is 0. The total counts
-/// payment 1 for every payment before the last, and leaves out the payment that the balloon replaces.
-void BalloonLoanPaymentCalculator(const Clock& clock, const Variant& vPurchaseAmt,
-                                  const Variant& vDownPayment, const Variant& vStartDate,
-                                  const Variant& vPeriod, const Variant& vBalloonAtPeriod,
-                                  const Variant& vIntRate, Variant& vPrincipal, Variant& vPayment,
-                                  Variant& vBalloonPayment, Variant& vTotalAmountFinanced,
-                                  Variant& vTotPayments, Variant& vTotIntCharged, Variant& vDetArray);
+struct LoanAnswer {
+  double amount = 0;         ///< amount borrowed
+  double payment = 0;        ///< each month; the last one may differ
+  double months = 0;         ///< term
+  double annualPercent = 0;  ///< to three decimals when it was found
+  double totalPayments = 0;
+  double totalInterest = 0;  ///< with up-front charges
+  Schedule schedule = {};
+};
 
-/// The mortgage that `vPayment` a month carries besides property tax (`vPropertyTax`, percent of the price a
-/// year), insurance and dues. Scalars are written before the table is made.
-void HomeAffordabilityCalculator(const Clock& clock, const Variant& vPayment, const Variant& vPropertyTax,
-                                 const Variant& vInsurance, const Variant& vDues, const Variant& vDownPayment,
-                                 const Variant& vPeriod, const Variant& vIntRate, Variant& vNewPrincipal,
-                                 Variant& vNewPayment, Variant& vNewTaxes, Variant& vNewFees,
-                                 Variant& vNewDet);
+/// Finds what is left out, and the schedule.
+LoanAnswer Solve(const LoanQuestion& question);
 
-/// The mortgage that an annual income and monthly debts qualify for, by the rules of 28 and 36 percent.
-/// Scalars are written before the table is made.
-void MortgageQualificationCalculator(const Clock& clock, const Variant& vAnnualIncome,
-                                     const Variant& vCreditCard, const Variant& vCarPayments,
-                                     const Variant& vChildSupport, const Variant& vOtherMonthly,
-                                     const Variant& vPropertyTax, const Variant& vInsurance,
-                                     const Variant& vDues, const Variant& vDownPayment,
-                                     const Variant& vPeriod, const Variant& vIntRate, Variant& vNewPrincipal,
-                                     Variant& vNewPayment, Variant& vNewTaxes, Variant& vNewFees,
-                                     Variant& vNewDet);
+/// The monthly payment alone, which `question` leaves out: no schedule is built. Raises as Solve.
+double PaymentOf(const LoanQuestion& question);
 
-/// Payments for rates from `vStepX` steps of `vRateChange` below `vIntRate` to as many above it (rows) and
-/// down payments from `vStepY` steps of `vDownChange` below `vDownPayment` to as many above it (columns). Row
-/// 0 and column 0 stay Empty. Only `vGrid` is written.
-void PaymentGridCalculator(const Clock& clock, Variant& vPrincipal, Variant& vDownPayment, Variant& vIntRate,
-                           Variant& vPeriod, Variant& vDownChange, Variant& vRateChange, Variant& vStepX,
-                           Variant& vStepY, Variant& vGrid);
+// ---- Purchases
 
-}  // namespace amortix2::calculators
+/// How an adjustable rate moves, in percentage points of the annual rate; without increases it is fixed.
+struct RateChanges {
+  double firstPayment = 0;   ///< payment number of the first change
+  double firstIncrease = 0;  ///< negative: a decrease
+  double everyMonths = 0;    ///< months between later changes
+  double laterIncrease = 0;
+  double cap = 0;  ///< highest annual percent that a change may reach; the lowest is 0
+};
+
+/// A loan for a purchase price less a down payment, whose payment is what is looked for.
+struct PurchaseLoan {
+  double price = 0;
+  double downPayment = 0;
+  double months = 0;
+  double annualPercent = 0;  ///< at the start
+  double points = 0;         ///< paid up front, percent of the amount
+  double fees = 0;           ///< paid up front, currency
+  RateChanges changes = {};
+};
+
+/// price - downPayment. Raises Overflow.
+double AmountFinanced(const PurchaseLoan& loan);
+
+/// The engine's record of the loan: everything but its dates.
+tLoanDesc RecordOf(const PurchaseLoan& loan);
+
+struct PurchaseQuestion {
+  PurchaseLoan loan = {};
+  Date startDate = kDefaultStart;        ///< the first payment falls due a month later
+  std::optional<Date> closingDate = {};  ///< interim interest runs from here to the start; at most 32767 days
+};
+
+LoanAnswer Solve(const PurchaseQuestion& question);
+
+/// The start of a loan whose first payment is due on a date: its day a month before. A day that month does
+/// not have rolls over into the next (31 March gives 3 March, 2 March in a leap year).
+Date StartBefore(Date firstPayment);
+
+/// A purchase paid as over its full term and settled early by one large payment, the balloon.
+struct BalloonQuestion {
+  PurchaseLoan loan = {};
+  double paymentsBefore = 0;  ///< level payments before the balloon, at least 1
+  Date startDate = kDefaultStart;
+};
+
+struct BalloonAnswer {
+  double amount = 0;
+  double payment = 0;
+  double balloon = 0;        ///< 0 where it would fall at the end of the term or later
+  double lastPrincipal = 0;  ///< what the balloon repays
+  double totalPayments = 0;  ///< line 1's payment for each but the last level one, and the balloon, less the
+                             ///< payment that it replaces
+  double totalInterest = 0;  ///< totalPayments - amount
+  Schedule schedule = {};    ///< ends with the balloon
+};
+
+/// Raises also SubscriptOutOfRange for a balloon before payment 1.
+BalloonAnswer Solve(const BalloonQuestion& question);
+
+// ---- Mortgages that a household carries
+
+/// What a home costs besides its loan.
+struct HomeCosts {
+  double propertyTaxPercent = 0;  ///< of the price a year
+  double insurance = 0;           ///< a month
+  double dues = 0;                ///< a month
+};
+
+/// The largest loan for a monthly budget that pays the home's costs too.
+struct AffordabilityQuestion {
+  double monthlyBudget = 0;
+  HomeCosts costs = {};
+  double downPayment = 0;
+  double months = 0;
+  double annualPercent = 0;
+  Date startDate = kDefaultStart;
+};
+
+/// Monthly payments that a household is bound to.
+struct Debts {
+  double creditCard = 0;
+  double car = 0;
+  double childSupport = 0;
+  double other = 0;
+};
+
+/// The largest loan that an income qualifies for: housing takes at most 28 % of it, housing and debts 36 %.
+struct QualificationQuestion {
+  double annualIncome = 0;
+  Debts debts = {};
+  HomeCosts costs = {};
+  double downPayment = 0;
+  double months = 0;
+  double annualPercent = 0;
+  Date startDate = kDefaultStart;
+};
+
+struct MortgageAnswer {
+  LoanAnswer loan = {};
+  double propertyTax = 0;  ///< a month
+  double fees = 0;         ///< insurance and dues, a month
+};
+
+MortgageAnswer Solve(const AffordabilityQuestion& question);
+MortgageAnswer Solve(const QualificationQuestion& question);
+
+}  // namespace amortix2

@@ -1,71 +1,122 @@
-// The four questions of a plan of whole years differ in what is given and what is marked unknown.
+// Plans of which one quantity is asked by name: plans of whole years, and a single sum between two dates.
 
 #include <utility>
 
-#include "amortix2/automation/conversion.h"
-#include "amortix2/calculators/savings.h"
-#include "amortix2/calculators/savings_plan.h"
+#include "amortix2/calculators/calculator.h"
+#include "amortix2/calculators/savings_results.h"
+#include "amortix2/calculators/tables.h"
 #include "amortix2/engine/frequency.h"
 
-namespace amortix2::calculators {
+namespace amortix2 {
 namespace {
 
-tSavingsDesc YearsPlan(const Variant& vStartDate, const Variant& vFreq, const Variant& vPeriod) {
-  tSavingsDesc plan = NewPlan(ToDate(vStartDate), vFreq);
-  plan.endDate = DateAfter(plan, annualMode, NumericOrZero(vPeriod));
-  return plan;
+using namespace calculators;
+
+SavingsQuestion YearsPlan(const Variant& vStartDate, double frequency, double years) {
+  SavingsQuestion question{.startDate = ToDate(vStartDate)};
+  question.frequency = FrequencyOf(frequency);
+  question.endDate = DateAfter(question.startDate, annualMode, years);
+  return question;
 }
 
-/// Solves the plan for `unknown`, one of its fields, and writes the two results.
-void Answer(tSavingsDesc& plan, double& unknown, Variant& result, Variant& vDetArray) {
-  unknown = UNKNOWNLOANVALUE;
-  const std::int32_t rows = CountWholePeriods(plan.startDate, plan.paymentMode, plan.endDate).periods;
-  Solve(plan);
-  Array detail = PlanDetail(plan, rows);
-  result = unknown;
+/// Writes the quantity that `question` leaves out, and a table with a row for each whole period.
+void AnswerYears(const SavingsQuestion& question, double SavingsAnswer::*found, Variant& result,
+                 Variant& vDetArray) {
+  const std::int32_t rows =
+      CountWholePeriods(question.startDate, question.frequency, *question.endDate).periods;
+  const SavingsAnswer answer = Solve(question);
+  Array detail = SavingsTable(answer.schedule, rows);
+  result = answer.*found;
   vDetArray = std::move(detail);
+}
+
+SavingsQuestion SingleSum(const Variant& vStartDate, const Variant& vEndingDate, double frequency,
+                          const Clock& clock) {
+  return {.deposit = 0,
+          .endDate = DateOrToday(vEndingDate, clock),
+          .frequency = FrequencyOf(frequency),
+          .startDate = DateOrToday(vStartDate, clock)};
+}
+
+/// Solves the sum; `vDetArray` receives its table.
+SavingsAnswer AnswerSum(const SavingsQuestion& question, Variant& vDetArray) {
+  const std::int32_t rows = RowsWithLeftover(question.startDate, question.frequency, *question.endDate);
+  SavingsAnswer answer = Solve(question);
+  vDetArray = SavingsTable(answer.schedule, rows);
+  return answer;
 }
 
 }  // namespace
 
-void AmountSavedCalculator(const Variant& vStartDate, const Variant& vCurrBal, const Variant& vPayment,
-                           const Variant& vFreq, const Variant& vPeriod, const Variant& vIntRate,
-                           Variant& vEndBal, Variant& vDetArray) {
-  tSavingsDesc plan = YearsPlan(vStartDate, vFreq, vPeriod);
-  plan.startingBalance = NumericOrZero(vCurrBal);
-  plan.deposit = NumericOrZero(vPayment);
-  plan.intRate = NumericOrZero(vIntRate);
-  Answer(plan, plan.endingBalance, vEndBal, vDetArray);
+void Calculator::AmountSavedCalculator(const Variant& vStartDate, Number vCurrBal, Number vPayment,
+                                       Number vFreq, Number vPeriod, Number vIntRate, Variant& vEndBal,
+                                       Variant& vDetArray) const {
+  SavingsQuestion question = YearsPlan(vStartDate, vFreq, vPeriod);
+  question.balance = vCurrBal;
+  question.deposit = vPayment;
+  question.annualPercent = vIntRate;
+  AnswerYears(question, &SavingsAnswer::endingBalance, vEndBal, vDetArray);
 }
 
-void SavingsRateCalculator(const Variant& vStartDate, const Variant& vCurrBal, const Variant& vPayment,
-                           const Variant& vFreq, const Variant& vPeriod, const Variant& vEndingBal,
-                           Variant& vIntRate, Variant& vDetArray) {
-  tSavingsDesc plan = YearsPlan(vStartDate, vFreq, vPeriod);
-  plan.startingBalance = NumericOrZero(vCurrBal);
-  plan.deposit = NumericOrZero(vPayment);
-  plan.endingBalance = NumericOrZero(vEndingBal);
-  Answer(plan, plan.intRate, vIntRate, vDetArray);
+void Calculator::SavingsRateCalculator(const Variant& vStartDate, Number vCurrBal, Number vPayment,
+                                       Number vFreq, Number vPeriod, Number vEndingBal, Variant& vIntRate,
+                                       Variant& vDetArray) const {
+  SavingsQuestion question = YearsPlan(vStartDate, vFreq, vPeriod);
+  question.balance = vCurrBal;
+  question.deposit = vPayment;
+  question.endingBalance = vEndingBal;
+  AnswerYears(question, &SavingsAnswer::annualPercent, vIntRate, vDetArray);
 }
 
-void StartingAmountCalculator(const Variant& vStartDate, const Variant& vPayment, const Variant& vFreq,
-                              const Variant& vPeriod, const Variant& vIntRate, const Variant& vEndingBal,
-                              Variant& vCurrBal, Variant& vDetArray) {
-  tSavingsDesc plan = YearsPlan(vStartDate, vFreq, vPeriod);
-  plan.deposit = NumericOrZero(vPayment);
-  plan.intRate = NumericOrZero(vIntRate);
-  plan.endingBalance = NumericOrZero(vEndingBal);
-  Answer(plan, plan.startingBalance, vCurrBal, vDetArray);
+void Calculator::StartingAmountCalculator(const Variant& vStartDate, Number vPayment, Number vFreq,
+                                          Number vPeriod, Number vIntRate, Number vEndingBal,
+                                          Variant& vCurrBal, Variant& vDetArray) const {
+  SavingsQuestion question = YearsPlan(vStartDate, vFreq, vPeriod);
+  question.deposit = vPayment;
+  question.annualPercent = vIntRate;
+  question.endingBalance = vEndingBal;
+  AnswerYears(question, &SavingsAnswer::balance, vCurrBal, vDetArray);
 }
 
-void DepositCalculator(const Variant& vStartDate, const Variant& vCurrBal, const Variant& vFreq,
-                       const Variant& vPeriod, const Variant& vIntRate, const Variant& vEndingBal,
-                       Variant& vPayment, Variant& vDetArray) {
-  tSavingsDesc plan = YearsPlan(vStartDate, vFreq, vPeriod);
-  plan.startingBalance = NumericOrZero(vCurrBal);
-  plan.intRate = NumericOrZero(vIntRate);
-  plan.endingBalance = NumericOrZero(vEndingBal);
-  Answer(plan, plan.deposit, vPayment, vDetArray);
+void Calculator::DepositCalculator(const Variant& vStartDate, Number vCurrBal, Number vFreq, Number vPeriod,
+                                   Number vIntRate, Number vEndingBal, Variant& vPayment,
+                                   Variant& vDetArray) const {
+  SavingsQuestion question = YearsPlan(vStartDate, vFreq, vPeriod);
+  question.balance = vCurrBal;
+  question.annualPercent = vIntRate;
+  question.endingBalance = vEndingBal;
+  AnswerYears(question, &SavingsAnswer::deposit, vPayment, vDetArray);
 }
 
-}  // namespace amortix2::calculators
+void Calculator::PresentValueCalculator(const Variant& vStartDate, const Variant& vEndingDate,
+                                        Number vEndingBal, Number vIntRate, Number vFreq, Variant& vCurrBal,
+                                        Variant& vDetArray) const {
+  SavingsQuestion question = SingleSum(vStartDate, vEndingDate, vFreq, clock_);
+  question.endingBalance = vEndingBal;
+  question.annualPercent = vIntRate;
+  vCurrBal = AnswerSum(question, vDetArray).balance;
+}
+
+void Calculator::FutureValueCalculator(const Variant& vStartDate, const Variant& vEndingDate, Number vCurrBal,
+                                       Number vIntRate, Number vFreq, Variant& vEndingBal,
+                                       Variant& vDetArray) const {
+  SavingsQuestion question = SingleSum(vStartDate, vEndingDate, vFreq, clock_);
+  question.balance = vCurrBal;
+  question.annualPercent = vIntRate;
+  Variant detail;
+  vEndingBal = AnswerSum(question, detail).endingBalance;
+  vDetArray = std::move(detail);
+}
+
+void Calculator::YieldCalculator(const Variant& vStartDate, const Variant& vEndingDate, Number vCurrBal,
+                                 Number vEndingBal, Number vFreq, Variant& vIntRate, Variant& vResEndingBal,
+                                 Variant& vDetArray) const {
+  SavingsQuestion question = SingleSum(vStartDate, vEndingDate, vFreq, clock_);
+  question.balance = vCurrBal;
+  question.endingBalance = vEndingBal;
+  const SavingsAnswer answer = AnswerSum(question, vDetArray);
+  vIntRate = answer.annualPercent;
+  vResEndingBal = answer.endingBalance;
+}
+
+}  // namespace amortix2

@@ -1,51 +1,81 @@
-#include "amortix2/calculators/savings.h"
-#include "amortix2/calculators/savings_plan.h"
-#include "amortix2/calculators/work.h"
+#include <utility>
+
+#include "amortix2/calculators/calculator.h"
+#include "amortix2/calculators/savings_results.h"
+#include "amortix2/calculators/tables.h"
 #include "amortix2/engine/frequency.h"
 
-namespace amortix2::calculators {
+namespace amortix2 {
 namespace {
 
-/// Marks what is to be found; without a term the engine finds that. False when nothing can be found.
-bool MarkUnknown(tSavingsDesc& plan, double periods) {
-  const bool hasBalance = plan.startingBalance != 0;
-  const bool hasWithdrawal = plan.withdrawal != 0;
+using namespace calculators;
+
+/// Leaves out what is to be found; without a term the engine finds that. False when nothing can be found.
+bool LeaveOutZero(SpendingQuestion& question, double periods) {
+  const bool hasBalance = question.balance != 0;
+  const bool hasWithdrawal = question.withdrawal != 0;
   if (periods == 0) return hasBalance && hasWithdrawal;
   if (!hasBalance && !hasWithdrawal) return false;
-  double& unknown = !hasBalance                          ? plan.startingBalance
-                    : hasWithdrawal && plan.intRate == 0 ? plan.intRate
-                                                         : plan.withdrawal;
-  unknown = UNKNOWNLOANVALUE;
+  if (!hasBalance) {
+    question.balance.reset();
+  } else if (hasWithdrawal && question.annualPercent == 0) {
+    question.annualPercent.reset();
+  } else {
+    question.withdrawal.reset();
+  }
   return true;
 }
 
 }  // namespace
 
-void SpendingCalculator(const Variant& vStartDate, const Variant& vCurrBal, const Variant& vPayment,
-                        const Variant& vIntRate, const Variant& vFreq, const Variant& vPeriod,
-                        Variant& vResCurrBal, Variant& vResPayment, Variant& vResIntRate, Variant& vResPeriod,
-                        Variant& vDetArray) {
-  tSavingsDesc plan = NewPlan(ToDate(vStartDate), vFreq);
-  plan.startingBalance = NumericOrZero(vCurrBal);
-  plan.withdrawal = NumericOrZero(vPayment);
-  plan.intRate = NumericOrZero(vIntRate);
-  const double periods = NumericOrZero(vPeriod);
-  if (!MarkUnknown(plan, periods)) {
-    vResCurrBal = plan.startingBalance;
-    vResPayment = plan.withdrawal;
-    vResIntRate = plan.intRate;
-    vResPeriod = periods;
-    vDetArray = Table(1);
-  }
-  if (periods > 0) plan.endDate = DateAfter(plan, plan.paymentMode, periods);
-  Solve(plan);
-  vResCurrBal = plan.startingBalance;
-  vResPayment = plan.withdrawal;
-  vResIntRate = plan.intRate;
-  const WholePeriods lasting = CountWholePeriods(plan.startDate, plan.paymentMode, plan.endDate);
-  const bool isForEver = plan.endingBalance == plan.startingBalance;
-  vResPeriod = isForEver ? std::int16_t{-1} : ToInteger(lasting.periods);
-  vDetArray = PlanDetail(plan, RowsWithLeftover(plan));
+SpendingAnswer Solve(const SpendingQuestion& question) {
+  RequireOneUnknown({{"balance", question.balance.has_value()},
+                     {"withdrawal", question.withdrawal.has_value()},
+                     {"annualPercent", question.annualPercent.has_value()},
+                     {"periods", question.periods || question.endDate}});
+  tSavingsDesc plan;
+  plan.typ = simpleSavings;
+  plan.startDate = question.startDate;
+  plan.paymentMode = question.frequency;
+  plan.startingBalance = OrUnknown(question.balance);
+  plan.withdrawal = OrUnknown(question.withdrawal);
+  plan.intRate = OrUnknown(question.annualPercent);
+  plan.endDate = EndOf(question.startDate, question.frequency, question.periods, question.endDate);
+  SolveRecord(plan);
+  return {.balance = plan.startingBalance,
+          .withdrawal = plan.withdrawal,
+          .annualPercent = plan.intRate,
+          .startDate = plan.startDate,
+          .endDate = plan.endDate,
+          .lastsForEver = plan.endingBalance == plan.startingBalance,
+          .totalInterest = plan.totIntCredited,
+          .schedule = std::move(plan.schedule)};
 }
 
-}  // namespace amortix2::calculators
+void Calculator::SpendingCalculator(const Variant& vStartDate, Number vCurrBal, Number vPayment,
+                                    Number vIntRate, Number vFreq, Number vPeriod, Variant& vResCurrBal,
+                                    Variant& vResPayment, Variant& vResIntRate, Variant& vResPeriod,
+                                    Variant& vDetArray) const {
+  SpendingQuestion question{.balance = vCurrBal,
+                            .withdrawal = vPayment,
+                            .annualPercent = vIntRate,
+                            .startDate = ToDate(vStartDate)};
+  question.frequency = FrequencyOf(vFreq);
+  if (!LeaveOutZero(question, vPeriod)) {
+    vResCurrBal = double{vCurrBal};
+    vResPayment = double{vPayment};
+    vResIntRate = double{vIntRate};
+    vResPeriod = double{vPeriod};
+    vDetArray = Table(1);
+  }
+  question.endDate = EndAfter(question.startDate, question.frequency, vPeriod);
+  const SpendingAnswer answer = Solve(question);
+  vResCurrBal = answer.balance;
+  vResPayment = answer.withdrawal;
+  vResIntRate = answer.annualPercent;
+  const WholePeriods lasting = CountWholePeriods(answer.startDate, question.frequency, answer.endDate);
+  vResPeriod = answer.lastsForEver ? std::int16_t{-1} : ToInteger(lasting.periods);
+  vDetArray = SavingsTable(answer.schedule, lasting.periods + (lasting.days != 0 ? 1 : 0));
+}
+
+}  // namespace amortix2

@@ -144,7 +144,7 @@ consteval auto MakeMember(MemberKind kind, const About& about, const Param (&par
   MemberDescription<F, N> member{about, kind, {}};
   [&]<std::size_t... I>(std::index_sequence<I...>) {
     ((member.parameters[I] = params[I], member.parameters[I].byReference = kIsReferenceOut<Argument<Type, I>>,
-      member.parameters[I].type = &kTypeInfo<std::remove_cvref_t<Argument<Type, I>>>),
+      member.parameters[I].type = &kTypeInfo<typename HeldType<Argument<Type, I>>::Type>),
      ...);
   }
   (std::make_index_sequence<N>{});

@@ -43,7 +43,7 @@ void CallWith(void* object, std::span<void* const> arguments, void* result, std:
   auto& self = *static_cast<typename Signature<Type>::Class*>(object);
   using Result = typename Signature<Type>::Result;
   const auto invoke = [&] {
-    return (self.*F)(*static_cast<std::remove_cvref_t<Argument<Type, I>>*>(arguments[I])...);
+    return (self.*F)(*static_cast<typename HeldType<Argument<Type, I>>::Type*>(arguments[I])...);
   };
   if constexpr (std::is_void_v<Result>) {
     invoke();

@@ -117,6 +117,17 @@ inline constexpr TypeInfo kTypeInfo = MakeTypeInfo<T>();
 
 }  // namespace describing
 
+/// What hosts hold for a parameter: its type without references, and a variant for a Number, which is read
+/// from one.
+template <class Parameter>
+struct HeldType {
+  using Type = std::remove_cvref_t<Parameter>;
+};
+template <>
+struct HeldType<Number> {
+  using Type = Variant;
+};
+
 /// The description of a record or an enumeration: specialised for each, in one place (describe_records.h).
 template <class T>
 inline constexpr int kDescribed = 0;

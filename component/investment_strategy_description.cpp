@@ -1,8 +1,8 @@
 #include "amortix2/component/classes.h"
 #include "amortix2/component/describe.h"
-#include "amortix2/component/investment_strategy.h"
 #include "amortix2/component/parameter_descriptions.h"
 #include "amortix2/component/survey_description.h"
+#include "amortix2/strategy/investment_strategy.h"
 
 namespace amortix2 {
 namespace {

@@ -2,7 +2,7 @@
 
 // The members of Calculator that work on one loan or lease, described in the order in which they are shown.
 
-#include "amortix2/component/calculator.h"
+#include "amortix2/calculators/calculator.h"
 #include "amortix2/component/describe.h"
 #include "amortix2/component/parameter_descriptions.h"
 

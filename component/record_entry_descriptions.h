@@ -2,7 +2,7 @@
 
 // The members of Calculator that work on records, described.
 
-#include "amortix2/component/calculator.h"
+#include "amortix2/calculators/calculator.h"
 #include "amortix2/component/describe.h"
 #include "amortix2/component/table_descriptions.h"
 

@@ -10,12 +10,17 @@ namespace amortix2 {
 
 void LoadDetArray(const tLoanDesc& loan, std::int16_t atCol, std::int16_t lastRow, Array& detArray) {
   const CivilDate start = ToCivil(loan.startDate);
-  const Date shown = MakeDate(start.year, start.month, start.day - loan.startDateDelay);
+  const Date opening = MakeDate(start.year, start.month, start.day - loan.startDateDelay);
+  LoadDetArray(loan.schedule, opening, atCol, lastRow, detArray);
+}
+
+void LoadDetArray(std::span<const tSchedule> lines, Date opening, std::int16_t atCol, std::int16_t lastRow,
+                  Array& detArray) {
   const bool hasRates = detArray.Dimension(2).upper > atCol + 4;
-  CivilWalk calendar(loan.startDate);
+  CivilWalk calendar(opening);
   for (std::int32_t row = 0; row <= lastRow; ++row) {
-    if (static_cast<std::size_t>(row) >= loan.schedule.size()) Raise(ErrorNumber::SubscriptOutOfRange);
-    const tSchedule& line = loan.schedule[static_cast<std::size_t>(row)];
+    if (static_cast<std::size_t>(row) >= lines.size()) Raise(ErrorNumber::SubscriptOutOfRange);
+    const tSchedule& line = lines[static_cast<std::size_t>(row)];
     const double principal = Finite(line.startingBalance - line.endingBalance);
     const std::span<Variant> cells = detArray.Run(row, atCol, hasRates ? 6 : 5);
     cells[0] = FormatMonthDayYear(calendar.At(line.lineDate));
@@ -25,7 +30,7 @@ void LoadDetArray(const tLoanDesc& loan, std::int16_t atCol, std::int16_t lastRo
     cells[4] = line.endingBalance;
     if (hasRates) cells[5] = line.intRate;
   }
-  detArray.At(0, atCol) = FormatMonthDayYear(shown);
+  detArray.At(0, atCol) = FormatMonthDayYear(opening);
 }
 
 }  // namespace amortix2

@@ -5,6 +5,7 @@
 // has a column for it.
 
 #include <cstdint>
+#include <span>
 
 #include "amortix2/automation/array.h"
 #include "amortix2/engine/records.h"
@@ -15,5 +16,9 @@ namespace amortix2 {
 /// `startDateDelay` days. Raises SubscriptOutOfRange at the first row, column or line that is not there; the
 /// rows before it stay written.
 void LoadDetArray(const tLoanDesc& loan, std::int16_t atCol, std::int16_t lastRow, Array& detArray);
+
+/// The same of lines alone, with `opening` as the date of row 0.
+void LoadDetArray(std::span<const tSchedule> lines, Date opening, std::int16_t atCol, std::int16_t lastRow,
+                  Array& detArray);
 
 }  // namespace amortix2

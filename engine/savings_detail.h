@@ -4,6 +4,7 @@
 // ("mm-dd-yyyy"), deposit, interest, growth (deposit and interest together), ending balance.
 
 #include <cstdint>
+#include <span>
 
 #include "amortix2/automation/array.h"
 #include "amortix2/engine/records.h"
@@ -14,5 +15,10 @@ namespace amortix2 {
 /// to lastRow into the rows of the same number. Raises SubscriptOutOfRange at the first row, column or line
 /// that is not there, Overflow for a growth beyond doubles; what was written before it stays.
 void LoadSaveDetArray(const tSavingsDesc& save, std::int16_t atCol, std::int16_t lastRow, Array& detArray);
+
+/// The same of lines alone; date and balance of row 0 are those of line 0. Raises SubscriptOutOfRange without
+/// lines.
+void LoadSaveDetArray(std::span<const tSchedule> lines, std::int16_t atCol, std::int16_t lastRow,
+                      Array& detArray);
 
 }  // namespace amortix2

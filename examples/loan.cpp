@@ -2,23 +2,18 @@
 
 #include <cstdio>
 
-#include "amortix2/automation/array.h"
-#include "amortix2/common/system_clock.h"
-#include "amortix2/component/calculator.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/calculators/loans.h"
 
 using namespace amortix2;
 
 int main() {
-  const SystemClock clock;
-  const Calculator calculator(clock);
-  Variant amount, payment, period, rate, totalPayments, totalInterest, schedule;
   try {
-    calculator.SimpleLoanCalculator("", 200000, 0, 360, 6.5, amount, payment, period, rate, totalPayments,
-                                    totalInterest, schedule);
+    const LoanAnswer loan = Solve(LoanQuestion{.amount = 200000, .months = 360, .annualPercent = 6.5});
+    std::printf("%.2f a month, %.2f interest in all\n", loan.payment, loan.totalInterest);
+    std::printf("after a year %.2f is owed\n", loan.schedule[12].endingBalance);
   } catch (const AutomationError& error) {
     std::fprintf(stderr, "%d %s\n", static_cast<int>(error.Number()), error.what());
     return 1;
   }
-  std::printf("%.2f a month, %.2f interest in all\n", payment.GetDouble(), totalInterest.GetDouble());
-  std::printf("after a year %.2f is owed\n", schedule.GetArray().At(12, 5).GetDouble());
 }

@@ -4,16 +4,9 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <cstdint>
-#include <string>
 #include <string_view>
-#include <utility>
 
-#include "amortix2/automation/array.h"
 #include "amortix2/automation/checked.h"
-#include "amortix2/automation/conversion.h"
-#include "amortix2/automation/error.h"
-#include "amortix2/strategy/ansi_code.h"
 
 namespace amortix2 {
 namespace {
@@ -62,53 +55,29 @@ constexpr std::array<Profile, 5> kProfiles{{
 
 constexpr double kFirstBoldAnswer = 4;  // answers below it are cautious and weigh double
 
-double ReadAnswer(const Variant& answer) {
-  const double number = NumericOrZero(answer);
-  if (number != 0) return number;
-  if (answer.Type() == VariantType::Null || answer.Type() == VariantType::Missing) {
-    Raise(ErrorNumber::InvalidProcedureCall);
-  }
-  const std::string text = ToText(answer);
-  if (text.empty()) Raise(ErrorNumber::InvalidProcedureCall);
-  return FirstAnsiCode(text) + 1 - 'A';
-}
-
 // The number of the profile, from 1. Without answers the average is 0/0, which overflows.
-double ChooseProfile(const Array& answers) {
+int ChooseProfile(std::span<const double> answers) {
   double total = 0;
   double weight = 0;
-  for (std::int32_t i = 1; i <= answers.Dimension(1).upper; ++i) {
-    const double answer = ReadAnswer(answers.At(i));
+  for (const double answer : answers) {
     weight += answer < kFirstBoldAnswer ? 2 : 1;
     total += answer;
   }
-  return std::clamp(std::floor(Finite(total / weight) + 0.5), 1.0, double{kProfiles.size()});
-}
-
-Array Split(double amount, const Profile& profile) {
-  Array split({0, static_cast<std::int32_t>(kClassCount)}, {0, 1});
-  for (std::size_t i = 0; i < kClassCount; ++i) {
-    const auto row = static_cast<std::int64_t>(i) + 1;
-    split.At(row, 0) = kClassNames[i];
-    split.At(row, 1) = Finite(profile.percentages[i] * amount) / 100;
-  }
-  return split;
+  return static_cast<int>(
+      std::clamp(std::floor(Finite(total / weight) + 0.5), 1.0, double{kProfiles.size()}));
 }
 
 }  // namespace
 
-void AllocateAssets(const Variant& amount, const Variant& survey, Variant& number, Variant& title,
-                    Variant& description, Variant& result) {
-  const double chosen = ChooseProfile(survey.GetArray());
+AllocationAnswer AllocateAssets(double amount, std::span<const double> answers) {
+  const int chosen = ChooseProfile(answers);
   const Profile& profile = kProfiles[static_cast<std::size_t>(chosen) - 1];
-  Variant split = Split(NumericOrZero(amount), profile);
-  Variant profileTitle = profile.title;
-  Variant profileDescription = profile.description;
-
-  number = chosen;
-  title = std::move(profileTitle);
-  description = std::move(profileDescription);
-  result = std::move(split);
+  AllocationAnswer answer{chosen, profile.title, profile.description, {}};
+  for (std::size_t i = 0; i < kClassCount; ++i) {
+    const int percent = profile.percentages[i];
+    answer.shares[i] = {kClassNames[i], percent, Finite(percent * amount) / 100};
+  }
+  return answer;
 }
 
 }  // namespace amortix2

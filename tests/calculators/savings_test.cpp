@@ -1,5 +1,3 @@
-#include "amortix2/calculators/savings.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,15 +5,17 @@
 
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
+#include "amortix2/calculators/calculator.h"
 #include "automation/raises.h"
 
-namespace amortix2::calculators {
+namespace amortix2 {
 namespace {
 
 struct FixedClock : Clock {
   Date Today() const override { return MakeDate(2026, 11, 21); }
 };
 const FixedClock kClock;
+const Calculator kCalculator(kClock);
 const Variant kStart = MakeDate(2026, 1, 31);
 const Variant kMonthly = 4;
 const Variant kAnnual = 8;
@@ -34,15 +34,15 @@ TEST(SavingsSolvers, CountWholeYearsAndPeriods) {
   for (const Row& row : rows) {
     Variant balance = std::int16_t{7};
     Variant detail;
-    AmountSavedCalculator(kStart, Variant(), 100, row.frequency, row.years, 6, balance, detail);
+    kCalculator.AmountSavedCalculator(kStart, Variant(), 100, row.frequency, row.years, 6, balance, detail);
     EXPECT_NEAR(balance.GetDouble(), row.balance, 1e-9);
     EXPECT_EQ(LastRow(detail), row.rows);
     EXPECT_EQ(detail.GetArray().At(0, 1), Variant("01-31-2026"));
     if (row.balance == 0) continue;
     Variant rate, opening, deposit;
-    SavingsRateCalculator(kStart, 0, 100, row.frequency, row.years, balance, rate, detail);
-    StartingAmountCalculator(kStart, 100, row.frequency, row.years, 6, balance, opening, detail);
-    DepositCalculator(kStart, 0, row.frequency, row.years, 6, balance, deposit, detail);
+    kCalculator.SavingsRateCalculator(kStart, 0, 100, row.frequency, row.years, balance, rate, detail);
+    kCalculator.StartingAmountCalculator(kStart, 100, row.frequency, row.years, 6, balance, opening, detail);
+    kCalculator.DepositCalculator(kStart, 0, row.frequency, row.years, 6, balance, deposit, detail);
     EXPECT_NEAR(rate.GetDouble(), 6, 0.0011);
     EXPECT_NEAR(opening.GetDouble(), 0, 0.05);
     EXPECT_NEAR(deposit.GetDouble(), 100, 0.005);
@@ -62,9 +62,11 @@ TEST(SavingsSolvers, ErrorsLeaveTheResults) {
   for (const Row& row : rows) {
     Variant deposit = "before";
     Variant detail = "before";
-    EXPECT_EQ(
-        ErrorOf([&] { DepositCalculator(row.start, 0, row.frequency, row.years, 6, 100, deposit, detail); }),
-        row.error);
+    EXPECT_EQ(ErrorOf([&] {
+                kCalculator.DepositCalculator(row.start, 0, row.frequency, row.years, 6, 100, deposit,
+                                              detail);
+              }),
+              row.error);
     EXPECT_TRUE(deposit == Variant("before") && detail == Variant("before"));
   }
 }
@@ -73,18 +75,18 @@ TEST(TimeValue, RoundTripsBetweenDates) {
   for (const auto& [end, rows] :
        {std::pair{"1/31/2026", 0}, {"3/31/2026", 2}, {"4/15/2026", 3}, {"1/31/2036", 120}}) {
     Variant future, present, rate, reached, detail;
-    FutureValueCalculator(kClock, kStart, end, 5000, 6, kMonthly, future, detail);
+    kCalculator.FutureValueCalculator(kStart, end, 5000, 6, kMonthly, future, detail);
     EXPECT_EQ(LastRow(detail), rows) << end;
     if (rows == 3) continue;  // leftover days are credited by the schedule, not by the formula
-    PresentValueCalculator(kClock, kStart, end, future, 6, kMonthly, present, detail);
+    kCalculator.PresentValueCalculator(kStart, end, future, 6, kMonthly, present, detail);
     EXPECT_NEAR(present.GetDouble(), 5000, 0.6) << end;
     rate = 99.0;
-    YieldCalculator(kClock, kStart, end, 5000, future, kMonthly, rate, reached, detail);
+    kCalculator.YieldCalculator(kStart, end, 5000, future, kMonthly, rate, reached, detail);
     EXPECT_NEAR(rate.GetDouble(), rows == 0 ? 0 : 6, 0.0015) << end;
     EXPECT_NEAR(reached.GetDouble(), future.GetDouble(), 0.5) << end;
   }
   Variant today, detail;
-  FutureValueCalculator(kClock, Variant(), "no date", 5000, 6, kMonthly, today, detail);
+  kCalculator.FutureValueCalculator(Variant(), "no date", 5000, 6, kMonthly, today, detail);
   EXPECT_EQ(today, Variant(5000.0));
   EXPECT_EQ(detail.GetArray().At(0, 1), Variant("11-21-2026"));
 }
@@ -96,8 +98,8 @@ struct Savings {
 std::optional<ErrorNumber> Plan(Savings& s, const Variant& balance, const Variant& deposit,
                                 const Variant& goal, const Variant& period, const Variant& rate) {
   return ErrorOf([&] {
-    SimpleSavingsCalculator(kStart, balance, deposit, kMonthly, goal, period, rate, 0, s.balance, s.deposit,
-                            s.endingBalance, s.endDate, s.rate, s.detail);
+    kCalculator.SimpleSavingsCalculator(kStart, balance, deposit, kMonthly, goal, period, rate, 0, s.balance,
+                                        s.deposit, s.endingBalance, s.endDate, s.rate, s.detail);
   });
 }
 
@@ -148,7 +150,7 @@ TEST(SimpleSavings, ListsDatesAndRefusesLongTerms) {
 
 TEST(Retirement, ReachesItsGoalAfterTax) {
   Variant grid, detail;
-  IRACalculator(kStart, "T", 0, 0, 75000, 20, 6, 25, grid, detail);
+  kCalculator.IRACalculator(kStart, "T", 0, 0, 75000, 20, 6, 25, grid, detail);
   const Array& taxed = grid.GetArray();
   EXPECT_EQ(taxed.Dimension(1), (Bounds{0, 6}));
   EXPECT_EQ(taxed.At(0), Variant());
@@ -158,13 +160,13 @@ TEST(Retirement, ReachesItsGoalAfterTax) {
   EXPECT_EQ(ToCivil(taxed.At(5).GetDate()), (CivilDate{2046, 1, 31}));
   EXPECT_EQ(LastRow(detail), 20);
   for (const char* untaxed : {"t", "TT", "", "R"}) {
-    IRACalculator(kStart, untaxed, 0, 0, 75000, 20, 6, 25, grid, detail);
+    kCalculator.IRACalculator(kStart, untaxed, 0, 0, 75000, 20, 6, 25, grid, detail);
     EXPECT_EQ(grid.GetArray().At(3), grid.GetArray().At(4));
     EXPECT_NEAR(grid.GetArray().At(3).GetDouble(), 75000, 0.2);
   }
   grid = detail = Variant();
   const auto taxedAt = [&](const Variant& rate) {
-    return ErrorOf([&] { IRACalculator(kStart, "T", 0, 0, 75000, 20, 6, rate, grid, detail); });
+    return ErrorOf([&] { kCalculator.IRACalculator(kStart, "T", 0, 0, 75000, 20, 6, rate, grid, detail); });
   };
   EXPECT_EQ(taxedAt(100), ErrorNumber::DivisionByZero);
   EXPECT_EQ(detail, Variant());
@@ -178,8 +180,8 @@ struct Spending {
 };
 
 void Spend(Spending& s, double balance, double withdrawal, double rate, double period) {
-  SpendingCalculator(kStart, balance, withdrawal, rate, 4, period, s.balance, s.withdrawal, s.rate, s.period,
-                     s.detail);
+  kCalculator.SpendingCalculator(kStart, balance, withdrawal, rate, 4, period, s.balance, s.withdrawal,
+                                 s.rate, s.period, s.detail);
 }
 
 // Every pattern of zero and non-zero inputs, in the order term, withdrawal, balance, rate. Figures computed
@@ -232,4 +234,4 @@ TEST(Spending, AnswersAtTheEdges) {
 }
 
 }  // namespace
-}  // namespace amortix2::calculators
+}  // namespace amortix2

@@ -12,7 +12,7 @@ namespace amortix2 {
 namespace {
 
 class SomeDay final : public Clock {
-  Date Today() const override { return {36922}; }
+  Date Today() const override { return Date{36922}; }
 };
 
 /// All arguments of a loan's calculation, or the number of the error that it raises.

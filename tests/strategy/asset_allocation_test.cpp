@@ -1,5 +1,3 @@
-#include "amortix2/strategy/asset_allocation.h"
-
 #include <gtest/gtest.h>
 
 #include <cstddef>
@@ -10,6 +8,7 @@
 
 #include "amortix2/automation/array.h"
 #include "amortix2/strategy/ansi_code.h"
+#include "amortix2/strategy/investment_strategy.h"
 #include "automation/raises.h"
 
 namespace amortix2 {
@@ -19,7 +18,7 @@ struct Advice {
   Variant number = "old", title = "old", description = "old", result = "old";
 
   void Ask(const Variant& amount, const Variant& survey) {
-    AllocateAssets(amount, survey, number, title, description, result);
+    InvestmentStrategy().AssetAllocation(amount, survey, number, title, description, result);
   }
 };
 

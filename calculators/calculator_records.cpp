@@ -1,5 +1,8 @@
-#include "amortix2/component/calculator.h"
+// The members of Calculator that work on the engine's records.
 
+#include <utility>
+
+#include "amortix2/calculators/calculator.h"
 #include "amortix2/engine/amortix.h"
 #include "amortix2/engine/detail_arrays.h"
 #include "amortix2/engine/savings_detail.h"
