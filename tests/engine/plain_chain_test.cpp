@@ -103,7 +103,7 @@ struct PlainLoan {
     tSchedule& line = lines.emplace_back();
     line.startingBalance = balance;
     line.intCharged = interest;
-    line.taxCredited = taxFraction * interest;
+    line.taxCredited = WithoutMinusZero(taxFraction * interest);
     balance = grown - payment;
     if (balance < 0) {
       payment += balance;
@@ -122,7 +122,7 @@ std::vector<tSchedule> PlainLines(const tLoanDesc& loan) {
   if (isLease) {
     tSchedule& prepaid = plain.lines.emplace_back();
     prepaid.startingBalance = plain.balance;
-    prepaid.payment = loan.payment * loan.numberPrepays;
+    prepaid.payment = WithoutMinusZero(loan.payment * loan.numberPrepays);
     prepaid.endingBalance = plain.balance -= prepaid.payment;
   }
   AdjustableRate rate(loan);
@@ -147,7 +147,7 @@ std::vector<tSchedule> PlainLines(const tLoanDesc& loan) {
       closing.payment = RoundToCents(closing.payment * growth);
     }
     closing.intCharged = RoundToCents(closing.payment - plain.balance);
-    closing.taxCredited = plain.taxFraction * closing.intCharged;
+    closing.taxCredited = WithoutMinusZero(plain.taxFraction * closing.intCharged);
   }
   return plain.lines;
 }
