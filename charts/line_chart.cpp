@@ -88,7 +88,10 @@ class LinePicture {
 AxisRange LineChartAxis(const Variant& columns) { return TableAxis(ReadNumbers(columns)); }
 
 Raster DrawLineChart(GraphSize size, const Variant& columns) {
-  const ChartTable table = ReadNumbers(columns);
+  return DrawLineChart(size, ReadNumbers(columns));
+}
+
+Raster DrawLineChart(GraphSize size, const ChartTable& table) {
   LinePicture picture(size, TableAxis(table));
   picture.DrawGrid();
   for (std::int32_t series = 1; series <= table.Series(); ++series) picture.DrawSeries(table, series);

@@ -5,6 +5,7 @@
 
 #include "amortix2/automation/variant.h"
 #include "amortix2/charts/axis_range.h"
+#include "amortix2/charts/chart_table.h"
 #include "amortix2/charts/graph_size.h"
 #include "amortix2/charts/raster.h"
 
@@ -20,6 +21,9 @@ namespace amortix2 {
 /// Raises SubscriptOutOfRange for a table that is not two-dimensional from (0, 0) or a negative size,
 /// Overflow for a value that is too large to draw or more than 255 lines, OutOfMemory above 2^26 pixels.
 Raster DrawLineChart(GraphSize size, const Variant& columns);
+
+/// The same of numbers: row 0 counts for the axis alone.
+Raster DrawLineChart(GraphSize size, const ChartTable& table);
 
 /// The axis of that chart. Raises SubscriptOutOfRange for the same tables, Overflow for values too large.
 AxisRange LineChartAxis(const Variant& columns);
