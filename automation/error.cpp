@@ -22,6 +22,8 @@ constexpr std::array kErrorTexts{
     ErrorText{ErrorNumber::OutOfMemory, "OutOfMemory", "The result would need more memory than there is."},
     ErrorText{ErrorNumber::SubscriptOutOfRange, "SubscriptOutOfRange",
               "An array has no element at this index."},
+    ErrorText{ErrorNumber::ArrayFixed, "ArrayFixed",
+              "An array of fixed size, or one that is in use, cannot be replaced."},
     ErrorText{ErrorNumber::DivisionByZero, "DivisionByZero", "A number was divided by zero."},
     ErrorText{ErrorNumber::TypeMismatch, "TypeMismatch", "A value is not of a type that can be used here."},
     ErrorText{ErrorNumber::InternalError, "InternalError", "The component failed for an unknown reason."},

@@ -1,7 +1,9 @@
 #include "amortix2/com/automation_object.h"
 
 #include <algorithm>
+#include <cstring>
 
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/com/guid.h"
 #include "amortix2/com/identity.h"
 #include "amortix2/com/text.h"
@@ -29,10 +31,30 @@ class Waiting {
   CRITICAL_SECTION* section_;
 };
 
+std::size_t PlaceOf(const ParameterInfo& parameter, const MemberInfo& member) noexcept {
+  return static_cast<std::size_t>(&parameter - member.parameters.data());
+}
+
+/// The argument of an early-bound call as a late-bound one would have it; still the caller's.
+VARIANT AsVariant(const ParameterInfo& parameter, void* argument) {
+  const TypeInfo& type = *parameter.type;
+  if (!parameter.byReference) return Peek({PlaceType(type), argument});
+  VARIANT reference;
+  VariantInit(&reference);
+  reference.vt = static_cast<VARTYPE>(VT_BYREF | PlaceType(type));
+  reference.byref = *static_cast<void**>(argument);
+  if (type.kind == TypeKind::Record) {
+    reference.pvRecord = reference.byref;
+    reference.pRecInfo = &TypeLibrary::Loaded().Layout(*type.record).Info();
+  }
+  return reference;
+}
+
 }  // namespace
 
 AutomationObject::AutomationObject(const ClassInfo& type)
     : object_(type, clock_),
+      interface_{VtableOf(type), this},
       origin_{ProgramId(type.name), ToGuid(IdentifierOf(InterfaceName(type.name)))},
       keepsState_(KeepsState(type)) {
   InitializeCriticalSection(&calls_);
@@ -47,9 +69,11 @@ HRESULT AutomationObject::QueryInterface(REFIID identifier, void** object) {
   *object = nullptr;
   if (identifier == IID_IMarshal && marshaler_) return marshaler_->QueryInterface(identifier, object);
   if (identifier == IID_IUnknown || identifier == IID_IDispatch || identifier == origin_.interfaceId) {
-    *object = static_cast<IDispatch*>(this);
+    *object = &interface_;
   } else if (identifier == IID_ISupportErrorInfo) {
     *object = static_cast<ISupportErrorInfo*>(this);
+  } else if (identifier == IID_IProvideClassInfo) {
+    *object = static_cast<IProvideClassInfo*>(this);
   } else {
     return E_NOINTERFACE;
   }
@@ -74,9 +98,18 @@ HRESULT AutomationObject::GetTypeInfoCount(UINT* count) {
 HRESULT AutomationObject::GetTypeInfo(UINT index, LCID, ITypeInfo** type) {
   if (type == nullptr) return E_POINTER;
   *type = nullptr;
-  if (index != 0) return DISP_E_BADINDEX;
+  return index == 0 ? TypeOf(InterfaceName(object_.Class().name), type) : DISP_E_BADINDEX;
+}
+
+HRESULT AutomationObject::GetClassInfo(ITypeInfo** type) {
+  if (type == nullptr) return E_POINTER;
+  *type = nullptr;
+  return TypeOf(std::string(object_.Class().name), type);
+}
+
+HRESULT AutomationObject::TypeOf(const std::string& name, ITypeInfo** type) {
   return Guarded([&] {
-    *type = TypeLibrary::Loaded().Type(InterfaceName(object_.Class().name)).Release();
+    *type = TypeLibrary::Loaded().Type(name).Release();
     return S_OK;
   });
 }
@@ -118,30 +151,65 @@ HRESULT AutomationObject::Invoke(DISPID number, REFIID reserved, LCID, WORD flag
   if (result != nullptr) VariantInit(result);
   const MemberInfo* member = MemberFor(number, flags);
   if (member == nullptr) return DISP_E_MEMBERNOTFOUND;
+  const StandardArithmetic standard;
+  Binding binding;
   try {
-    const Binding binding = Bind(*member, *parameters);
-    if (SUCCEEDED(binding.result)) CallMember(*member, binding, result);
+    binding = Bind(*member, *parameters);
     if (argument != nullptr) *argument = binding.argument;
-    return binding.result;
+    if (FAILED(binding.result)) return binding.result;
+    OwnedVariant made = CallMember(*member, binding.arguments);
+    if (result != nullptr) *result = made.Take();
+    return S_OK;
+  } catch (const ArgumentError& error) {
+    const VARIANT* const wrong = binding.arguments[PlaceOf(error.Parameter(), *member)];
+    if (argument != nullptr && wrong != nullptr) *argument = static_cast<UINT>(wrong - parameters->rgvarg);
+    return ReportCurrentFailure(origin_, details);
   } catch (...) {
     return ReportCurrentFailure(origin_, details);
   }
 }
 
-void AutomationObject::CallMember(const MemberInfo& member, const Binding& binding, VARIANT* result) {
-  Call call(member, binding);
+HRESULT AutomationObject::CallEarlyBound(std::size_t member, std::span<void* const> arguments) noexcept {
+  const StandardArithmetic standard;
+  try {
+    const MemberInfo& info = object_.Class().members[member];
+    std::vector<VARIANT> values;
+    std::vector<VARIANT*> places;
+    values.reserve(info.parameters.size());
+    places.reserve(info.parameters.size());
+    for (const ParameterInfo& parameter : info.parameters) {
+      places.push_back(&values.emplace_back(AsVariant(parameter, arguments[values.size()])));
+    }
+    void* const result = info.result != nullptr ? *static_cast<void**>(arguments.back()) : nullptr;
+    if (info.result != nullptr && result == nullptr) return E_POINTER;
+    OwnedVariant made = CallMember(info, places);
+    if (result != nullptr) {
+      const Place place{PlaceType(*info.result), result};
+      std::memset(result, 0, SizeOf(place.type));
+      Exchange(place, made.Get());
+    }
+    return S_OK;
+  } catch (...) {
+    return ReportCurrentFailure(origin_, nullptr);
+  }
+}
+
+OwnedVariant AutomationObject::CallMember(const MemberInfo& member, std::span<VARIANT* const> arguments) {
+  BoundCall call(member, arguments);
   try {
     const Waiting waiting(keepsState_ ? &calls_ : nullptr);
-    member.call(object_.Get(), call.Values(), call.Result());
+    call.Call(object_);
   } catch (...) {
     // What had been written by then is the caller's, whether or not it can be stored.
     try {
-      call.StoreResults(nullptr);
+      call.StoreResults();
     } catch (...) {
     }
     throw;
   }
-  call.StoreResults(result);
+  OwnedVariant result = call.Result();
+  call.StoreResults();
+  return result;
 }
 
 HRESULT AutomationObject::InterfaceSupportsErrorInfo(REFIID identifier) {

@@ -1,7 +1,8 @@
 #pragma once
 
-// An object of the component as its clients see it: a dispatch interface made from the class's description.
-// Names are found whatever their case; a member's dispatch number is its place in the description.
+// An object of the component as its clients see it: a dual interface made from the class's description. Names
+// are found whatever their case; a member's dispatch number is its place in the description. Calls compute in
+// the standard floating-point state, whatever the client's.
 //
 // Threads: an object of a class that keeps no state may be called by any number of threads at once, and is
 // handed to other apartments as it is. Calls on an object that keeps settings wait for each other.
@@ -10,6 +11,7 @@
 
 #include "amortix2/com/bound_call.h"
 #include "amortix2/com/com_pointer.h"
+#include "amortix2/com/dual_interface.h"
 #include "amortix2/com/module.h"
 #include "amortix2/com/platform.h"
 #include "amortix2/com/result_code.h"
@@ -18,7 +20,7 @@
 
 namespace amortix2::com {
 
-class AutomationObject final : public IDispatch, public ISupportErrorInfo {
+class AutomationObject final : public DualObject, public ISupportErrorInfo, public IProvideClassInfo {
  public:
   /// Starts with one reference, the caller's. Raises what the class's constructor raises.
   explicit AutomationObject(const ClassInfo& type);
@@ -37,17 +39,23 @@ class AutomationObject final : public IDispatch, public ISupportErrorInfo {
                                    DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* details,
                                    UINT* argument) override;
 
+  HRESULT CallEarlyBound(std::size_t member, std::span<void* const> arguments) noexcept override;
+
   HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID identifier) override;
+
+  HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** type) override;
 
  private:
   ~AutomationObject();
 
   const MemberInfo* MemberFor(DISPID number, WORD flags) const noexcept;
-  void CallMember(const MemberInfo& member, const Binding& binding, VARIANT* result);
+  OwnedVariant CallMember(const MemberInfo& member, std::span<VARIANT* const> arguments);
+  HRESULT TypeOf(const std::string& name, ITypeInfo** type);
 
   ModuleUse use_;
   SystemClock clock_;
   Object object_;
+  DualInterface interface_;  // what clients see of IDispatch and of the class's interface
   ErrorOrigin origin_;
   bool keepsState_;
   CRITICAL_SECTION calls_;  // re-entrant: a page may call the chart again from within BinaryWrite

@@ -1,10 +1,23 @@
 #include "amortix2/com/bound_call.h"
 
+#include <memory>
+
 #include "amortix2/com/page_context.h"
+#include "amortix2/com/result_code.h"
 #include "amortix2/com/values.h"
 
 namespace amortix2::com {
 namespace {
+
+/// Says which argument the errors of a step are about.
+template <class Step>
+void NamingArgument(const MemberInfo& member, std::size_t parameter, const Step& step) {
+  try {
+    step();
+  } catch (const AutomationError& error) {
+    throw ArgumentError(error.Number(), member.parameters[parameter]);
+  }
+}
 
 HRESULT BindNamed(Binding& binding, const DISPPARAMS& parameters, UINT index) {
   const DISPID name = parameters.rgdispidNamedArgs[index];
@@ -50,77 +63,85 @@ Binding Bind(const MemberInfo& member, const DISPPARAMS& parameters) {
   return binding;
 }
 
-Argument::Argument(const ParameterInfo& parameter, VARIANT* source)
-    : parameter_(&parameter), source_(source), value_(*parameter.type) {
+Argument::Argument(const ParameterInfo& parameter, VARIANT* source, Value& value)
+    : parameter_(&parameter), source_(source), value_(&value) {
   if (!IsLeftOut(source)) {
     Read(*source);
-  } else if (parameter.optional) {
-    parameter.type->write(value_.Get(), kMissing);
-  } else {
+  } else if (!parameter.optional) {
     Raise(ErrorNumber::ArgumentNotOptional);
   }
 }
 
 void Argument::Read(VARIANT& source) {
-  const TypeInfo& type = *parameter_->type;
+  const TypeInfo& type = value_->Type();
   if (type.kind == TypeKind::ScriptingContext) {
-    *static_cast<std::shared_ptr<ScriptingContext>*>(value_.Get()) = ReadContext(source);
+    *static_cast<std::shared_ptr<ScriptingContext>*>(value_->Get()) = ReadContext(source);
     return;
   }
   if (parameter_->byReference) before_.emplace(type);
   if (type.record != nullptr) {
     library_ = &TypeLibrary::Loaded();
     records_ = FindRecords(*library_, type, source);
-    ReadRecordsInto(value_.Get());
+    if (before_ && type.kind == TypeKind::RecordArray) {
+      type.resize(before_->Get(), type.bounds(value_->Get()));
+    }
+    ReadRecordsInto(value_->Get());
     if (before_) ReadRecordsInto(before_->Get());
+  } else if (type.kind == TypeKind::Variant) {
+    auto& value = *static_cast<Variant*>(value_->Get());
+    value = ReadValue(source);
+    if (before_) *static_cast<Variant*>(before_->Get()) = value;
   } else {
-    type.write(value_.Get(), ReadValue(source));
-    if (before_) type.write(before_->Get(), type.read(value_.Get()));
+    const Variant value = ReadValue(source);
+    type.write(value_->Get(), value);
+    if (before_) type.write(before_->Get(), value);
   }
 }
 
-void Argument::ReadRecordsInto(void* value) {
-  const TypeInfo& type = *parameter_->type;
-  if (records_.array != nullptr) ReadRecords(*library_, type, *records_.array, value);
-  if (records_.record != nullptr) ReadRecord(*library_, *type.record, records_.record, value);
+void Argument::ReadRecordsInto(void* records) const {
+  if (records_.array != nullptr) ReadRecords(*library_, value_->Type(), *records_.array, records);
+  if (records_.record != nullptr) ReadRecord(*library_, *value_->Type().record, records_.record, records);
 }
 
-void Argument::AddTo(Changes& changes) {
+void Argument::AddTo(Changes& changes) const {
   if (!before_) return;
-  const TypeInfo& type = *parameter_->type;
+  const TypeInfo& type = value_->Type();
+  const void* const before = before_->Get();
+  const void* const after = value_->Get();
   if (type.record == nullptr) {
     if ((source_->vt & VT_BYREF) == 0) return;
-    changes.Add({static_cast<VARTYPE>(source_->vt & ~VT_BYREF), source_->byref}, type.read(before_->Get()),
-                type.read(value_.Get()));
+    const Place place{static_cast<VARTYPE>(source_->vt & ~VT_BYREF), source_->byref};
+    WithVariant(type, before, [&](const Variant& was) {
+      WithVariant(type, after, [&](const Variant& is) { changes.Add(place, was, is); });
+    });
   } else if (records_.byReference && records_.array != nullptr) {
-    changes.AddRecords(*library_, type, *records_.array, before_->Get(), value_.Get());
+    changes.AddRecords(*library_, type, *records_.array, before, after);
   } else if (records_.byReference && records_.record != nullptr) {
-    changes.AddRecord(*library_, *type.record, records_.record, before_->Get(), value_.Get());
+    changes.AddRecord(*library_, *type.record, records_.record, before, after);
   }
 }
 
-Call::Call(const MemberInfo& member, const Binding& binding) {
-  arguments_.reserve(member.parameters.size());
-  for (std::size_t i = 0; i < member.parameters.size(); ++i) {
-    arguments_.emplace_back(member.parameters[i], binding.arguments[i]);
+BoundCall::BoundCall(const MemberInfo& member, std::span<VARIANT* const> arguments) : invocation_(member) {
+  arguments_.reserve(arguments.size());
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    NamingArgument(member, i, [&] {
+      arguments_.emplace_back(member.parameters[i], arguments[i], invocation_.Arguments()[i]);
+    });
   }
-  if (member.result != nullptr) result_.emplace(*member.result);
 }
 
-std::vector<void*> Call::Values() {
-  std::vector<void*> values;
-  values.reserve(arguments_.size());
-  for (Argument& argument : arguments_) values.push_back(argument.Value());
-  return values;
-}
-
-void Call::StoreResults(VARIANT* result) {
+void BoundCall::StoreResults() const {
   Changes changes;
-  for (Argument& argument : arguments_) argument.AddTo(changes);
-  OwnedVariant own;
-  if (result_) own = MakeValue(result_->Type().read(result_->Get()));
+  for (std::size_t i = 0; i < arguments_.size(); ++i) {
+    NamingArgument(invocation_.Member(), i, [&] { arguments_[i].AddTo(changes); });
+  }
   changes.Commit();
-  if (result != nullptr) *result = own.Take();
+}
+
+OwnedVariant BoundCall::Result() const {
+  const Value* const result = invocation_.Result();
+  if (result == nullptr) return {};
+  return WithVariant(result->Type(), result->Get(), [](const Variant& value) { return MakeValue(value); });
 }
 
 }  // namespace amortix2::com

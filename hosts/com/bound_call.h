@@ -1,20 +1,21 @@
 #pragma once
 
-// One late-bound call: the caller's arguments, by place and by name, become one value per parameter of the
-// component's member; afterwards its results go back into the caller's variables.
+// One call, however it came: the caller's arguments become one value per parameter of the component's member;
+// afterwards its results go back into the caller's variables.
 
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "amortix2/com/changes.h"
 #include "amortix2/com/platform.h"
 #include "amortix2/com/platform_records.h"
 #include "amortix2/com/type_library.h"
-#include "amortix2/component/description.h"
+#include "amortix2/component/invocation.h"
 
 namespace amortix2::com {
 
-/// Which argument belongs to which parameter; null where there is none.
+/// Which argument of a late-bound call belongs to which parameter; null where there is none.
 struct Binding {
   std::vector<VARIANT*> arguments;
   HRESULT result = S_OK;  ///< why the arguments do not fit, in the platform's terms
@@ -25,42 +26,43 @@ Binding Bind(const MemberInfo& member, const DISPPARAMS& parameters);
 /// One parameter's value, before and after the call.
 class Argument {
  public:
-  /// `source` is the caller's argument, null when it is left out. Raises ArgumentNotOptional then unless the
-  /// parameter is optional, and what reading the value raises.
-  Argument(const ParameterInfo& parameter, VARIANT* source);
-
-  void* Value() noexcept { return value_.Get(); }
+  /// `source` is the caller's argument, null when it is left out; `value` is what a call has that leaves it
+  /// out. Raises ArgumentNotOptional when it may not be left out, and what reading the source raises.
+  Argument(const ParameterInfo& parameter, VARIANT* source, Value& value);
 
   /// Adds what the call changed, if the caller can see it.
-  void AddTo(Changes& changes);
+  void AddTo(Changes& changes) const;
 
  private:
   void Read(VARIANT& source);
-  void ReadRecordsInto(void* value);
+  void ReadRecordsInto(void* records) const;
 
   const ParameterInfo* parameter_;
   VARIANT* source_;
-  amortix2::Value value_;
-  std::optional<amortix2::Value> before_;  // only of by-reference parameters
-  const TypeLibrary* library_ = nullptr;   // only for records
+  Value* value_;
+  std::optional<Value> before_;           // only of by-reference parameters
+  const TypeLibrary* library_ = nullptr;  // only for records
   RecordArgument records_;
 };
 
-/// The caller's side of the call in the order of its steps: construct, call the member with Values(),
-/// StoreResults.
-class Call {
+class BoundCall {
  public:
-  Call(const MemberInfo& member, const Binding& binding);
+  /// One argument, or null, per parameter of the member. What is wrong with one raises ArgumentError.
+  BoundCall(const MemberInfo& member, std::span<VARIANT* const> arguments);
 
-  std::vector<void*> Values();
-  void* Result() noexcept { return result_ ? result_->Get() : nullptr; }
+  /// Raises what the member raises; StoreResults then stores what had been written.
+  void Call(Object& object) { invocation_.Call(object); }
 
-  /// Writes back the by-reference results, and the member's own result unless `result` is null.
-  void StoreResults(VARIANT* result);
+  /// Writes back the by-reference results. What does not fit its place raises ArgumentError, and nothing is
+  /// written.
+  void StoreResults() const;
+
+  /// What the member returned; Empty when it returns nothing.
+  OwnedVariant Result() const;
 
  private:
+  Invocation invocation_;
   std::vector<Argument> arguments_;
-  std::optional<Value> result_;
 };
 
 }  // namespace amortix2::com

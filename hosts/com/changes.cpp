@@ -4,6 +4,7 @@
 #include "amortix2/com/column_order.h"
 #include "amortix2/com/platform_records.h"
 #include "amortix2/com/values.h"
+#include "amortix2/component/invocation.h"
 
 namespace amortix2::com {
 namespace {
@@ -18,10 +19,11 @@ bool BothOfSameShape(const Variant& a, const Variant& b) {
          SameShape(a.GetArray(), b.GetArray());
 }
 
-/// A variable declared with its bounds cannot take another array.
+/// A variable declared with its bounds cannot take another array, nor one that is in use.
 void RequireReplaceable(const SAFEARRAY* array) {
-  if (array != nullptr && (array->fFeatures & (FADF_STATIC | FADF_FIXEDSIZE | FADF_EMBEDDED)) != 0) {
-    Raise(ErrorNumber::SubscriptOutOfRange);
+  constexpr USHORT kFixed = FADF_STATIC | FADF_FIXEDSIZE | FADF_EMBEDDED;
+  if (array != nullptr && ((array->fFeatures & kFixed) != 0 || array->cLocks != 0)) {
+    Raise(ErrorNumber::ArrayFixed);
   }
 }
 
@@ -51,30 +53,30 @@ void Changes::AddCells(SAFEARRAY* array, VARTYPE elementType, const Array& befor
   });
 }
 
-void Changes::AddRecord(const TypeLibrary& library, const RecordInfo& record, void* place, void* before,
-                        void* after) {
+void Changes::AddRecord(const TypeLibrary& library, const RecordInfo& record, void* place, const void* before,
+                        const void* after) {
   const RecordLayout& layout = library.Layout(record);
   for (std::size_t i = 0; i < record.fields.size(); ++i) {
     const FieldInfo& field = record.fields[i];
     const Place fieldPlace = layout.Field(place, i);
     if (field.type->kind == TypeKind::RecordArray) {
-      AddRecords(library, *field.type, *static_cast<SAFEARRAY**>(fieldPlace.data), field.in(before),
-                 field.in(after));
+      AddRecords(library, *field.type, *static_cast<SAFEARRAY**>(fieldPlace.data), PlaceOf(field, before),
+                 PlaceOf(field, after));
     } else {
-      Add(fieldPlace, field.type->read(field.in(before)), field.type->read(field.in(after)));
+      Add(fieldPlace, field.type->read(PlaceOf(field, before)), field.type->read(PlaceOf(field, after)));
     }
   }
 }
 
-void Changes::AddRecords(const TypeLibrary& library, const TypeInfo& type, SAFEARRAY*& place, void* before,
-                         void* after) {
+void Changes::AddRecords(const TypeLibrary& library, const TypeInfo& type, SAFEARRAY*& place,
+                         const void* before, const void* after) {
   const Bounds bounds = type.bounds(after);
   if (type.bounds(before) == bounds) {
     if (place == nullptr) return;
     const SafeArrayData data(place);
     for (std::int64_t i = 0; i < bounds.Count(); ++i) {
       AddRecord(library, *type.record, data.At(static_cast<std::size_t>(i)),
-                type.at(before, bounds.lower + i), type.at(after, bounds.lower + i));
+                PlaceAt(type, before, bounds.lower + i), PlaceAt(type, after, bounds.lower + i));
     }
     return;
   }

@@ -16,17 +16,17 @@ namespace amortix2::com {
 class Changes {
  public:
   /// The value that a place held before the call, and after it. Raises TypeMismatch or Overflow when the
-  /// place's type cannot hold it, SubscriptOutOfRange for another shape of an array of fixed size, or
+  /// place's type cannot hold it, ArrayFixed for another shape of an array of fixed size, or
   /// std::bad_alloc.
   void Add(Place place, const Variant& before, const Variant& after);
 
   /// The same for a record of the component; `place` is the record in memory.
-  void AddRecord(const TypeLibrary& library, const RecordInfo& record, void* place, void* before,
-                 void* after);
+  void AddRecord(const TypeLibrary& library, const RecordInfo& record, void* place, const void* before,
+                 const void* after);
 
   /// The same for an array of records; `type` describes it.
-  void AddRecords(const TypeLibrary& library, const TypeInfo& type, SAFEARRAY*& place, void* before,
-                  void* after);
+  void AddRecords(const TypeLibrary& library, const TypeInfo& type, SAFEARRAY*& place, const void* before,
+                  const void* after);
 
   /// Stores everything, then frees what was there.
   void Commit() noexcept;

@@ -29,6 +29,7 @@ add_library(com_binding STATIC
   bound_call.cpp
   changes.cpp
   class_factory.cpp
+  dual_interface.cpp
   result_code.cpp
   late_bound.cpp
   make_value.cpp
@@ -43,6 +44,7 @@ add_library(com_binding STATIC
   type_library.cpp
 )
 target_compile_definitions(com_binding PUBLIC UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
+target_include_directories(com_binding SYSTEM PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/include)
 target_link_libraries(com_binding PUBLIC amortix2_com amortix2_common ole32 oleaut32 advapi32 uuid)
 
 add_library(amortix2_dll SHARED exports.cpp Amortix2.def ${CMAKE_CURRENT_BINARY_DIR}/resources.rc)
@@ -57,4 +59,5 @@ add_custom_command(TARGET amortix2_dll POST_BUILD
 add_library(com_interface INTERFACE)
 add_custom_target(com_interface_header DEPENDS ${CMAKE_CURRENT_BINARY_DIR}/include/amortix2.h)
 add_dependencies(com_interface com_interface_header)
+add_dependencies(com_binding com_interface_header)
 target_include_directories(com_interface SYSTEM INTERFACE ${CMAKE_CURRENT_BINARY_DIR}/include)

@@ -28,6 +28,9 @@ std::string VersionedProgramId(std::string_view className);
 /// characters without braces. Empty when the name has none: such a thing is not published.
 std::string_view IdentifierOf(std::string_view name) noexcept;
 
+/// The platform's own marshaler of dual interfaces, which reads the type library.
+inline constexpr std::string_view kTypeLibraryProxy = "00020424-0000-0000-C000-000000000046";
+
 /// Names the custom data in which the type library keeps the help of a parameter.
 inline constexpr std::string_view kParameterHelp = "parameter help";
 

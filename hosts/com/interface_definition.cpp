@@ -24,8 +24,9 @@ std::string Quoted(std::string_view text) {
   return quoted + '"';
 }
 
-std::string Attributes(std::string_view name, std::string_view help) {
-  return "[uuid(" + std::string(Identifier(name)) + "), helpstring(" + Quoted(help) + ")]";
+std::string Attributes(std::string_view name, std::string_view help, std::string_view more = "") {
+  return "[uuid(" + std::string(Identifier(name)) + ")" + std::string(more) + ", helpstring(" + Quoted(help) +
+         ")]";
 }
 
 std::string TypeName(const TypeInfo& type) {
@@ -80,25 +81,27 @@ void WriteParameter(std::ostream& out, const ParameterInfo& parameter) {
 
 void WriteMember(std::ostream& out, const MemberInfo& member, std::size_t number) {
   out << "      [id(" << number << (member.kind == MemberKind::PropertyPut ? "), propput" : ")")
-      << ", helpstring(" << Quoted(member.help) << ")]\n      "
-      << (member.result != nullptr ? TypeName(*member.result) : "void") << ' ' << member.name << '(';
+      << ", helpstring(" << Quoted(member.help) << ")]\n      HRESULT " << member.name << '(';
   std::string_view separator;
   for (const ParameterInfo& parameter : member.parameters) {
     out << separator;
     WriteParameter(out, parameter);
     separator = ",";
   }
+  if (member.result != nullptr) {
+    out << separator << "\n        [out, retval] " << TypeName(*member.result) << "* result";
+  }
   out << ");\n";
 }
 
 void WriteClass(std::ostream& out, const ClassInfo& type) {
   const std::string interfaceName = InterfaceName(type.name);
-  out << "\n  " << Attributes(interfaceName, type.help) << "\n  dispinterface " << interfaceName
-      << " {\n    properties:\n    methods:\n";
+  out << "\n  " << Attributes(interfaceName, type.help, ", dual, oleautomation, nonextensible")
+      << "\n  interface " << interfaceName << " : IDispatch {\n";
   std::size_t number = 0;
   for (const MemberInfo& member : type.members) WriteMember(out, member, ++number);
   out << "  };\n\n  " << Attributes(type.name, type.help) << "\n  coclass " << type.name
-      << " {\n    [default] dispinterface " << interfaceName << ";\n  };\n";
+      << " {\n    [default] interface " << interfaceName << ";\n  };\n";
 }
 
 }  // namespace
@@ -133,7 +136,39 @@ std::string AssemblyManifest(std::string_view productVersion) {
         << "\" threadingModel=\"Both\">\n      <progid>" << VersionedProgramId(type->name)
         << "</progid>\n    </comClass>\n";
   }
-  out << "  </file>\n</assembly>\n";
+  out << "  </file>\n";
+  for (const ClassInfo* type : Classes()) {
+    const std::string name = InterfaceName(type->name);
+    out << "  <comInterfaceExternalProxyStub name=\"" << name << "\" iid=\"{" << Identifier(name)
+        << "}\"\n      tlbid=\"{" << Identifier(kLibraryName) << "}\" proxyStubClsid32=\"{"
+        << kTypeLibraryProxy << "}\"/>\n";
+  }
+  out << "</assembly>\n";
+  return out.str();
+}
+
+std::string InterfaceMembers() {
+  std::ostringstream out;
+  out << "// Made from the component's description; change that, and make this text anew.\n\n"
+         "#pragma once\n\n#include <amortix2.h>\n\n#include <tuple>\n\n"
+         "#include \"amortix2/com/dual_interface.h\"\n\n"
+         "namespace amortix2::com {\n\n"
+         "/// The members of each interface in the order of its vtable, as widl declares them.\n"
+         "// clang-format off\n"
+         "using InterfaceMembers = std::tuple<";
+  std::string_view classSeparator;
+  for (const ClassInfo* type : Classes()) {
+    out << classSeparator << "\n    MemberList<";
+    std::string_view separator;
+    for (const MemberInfo& member : type->members) {
+      out << separator << "\n        &::" << InterfaceName(type->name)
+          << (member.kind == MemberKind::PropertyPut ? "::put_" : "::") << member.name;
+      separator = ",";
+    }
+    out << '>';
+    classSeparator = ",";
+  }
+  out << ">;\n// clang-format on\n\n}  // namespace amortix2::com\n";
   return out.str();
 }
 

@@ -33,6 +33,11 @@ struct Details : EXCEPINFO {
   }
 };
 
+void RequireMember(HRESULT result) {
+  if (result == DISP_E_UNKNOWNNAME || result == DISP_E_MEMBERNOTFOUND) Raise(ErrorNumber::NoSuchMember);
+  Check(result);
+}
+
 /// Objects of script engines answer the later of the two interfaces better, some only that one.
 DISPID NumberOf(IDispatch& object, const wchar_t* name) {
   DISPID number = DISPID_UNKNOWN;
@@ -40,10 +45,10 @@ DISPID NumberOf(IDispatch& object, const wchar_t* name) {
     BSTR text = MakeBstr(std::wstring_view(name));
     const HRESULT result = extended->GetDispID(text, fdexNameCaseInsensitive, &number);
     SysFreeString(text);
-    Check(result);
+    RequireMember(result);
   } else {
     auto* text = const_cast<wchar_t*>(name);
-    Check(object.GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &number));
+    RequireMember(object.GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &number));
   }
   return number;
 }

@@ -13,68 +13,82 @@ SAFEARRAYBOUND ToBound(Bounds bounds) noexcept {
   return {static_cast<ULONG>(bounds.Count()), static_cast<LONG>(bounds.lower)};
 }
 
-SAFEARRAY* MakeSafeArray(const Array& array, VARTYPE elementType) {
+OwnedSafeArray NewSafeArray(const Array& array, VARTYPE elementType) {
   const auto rank = static_cast<UINT>(array.Rank());
   std::array<SAFEARRAYBOUND, 2> bounds{};
   for (UINT i = 0; i < rank; ++i) bounds[i] = ToBound(array.Dimension(static_cast<int>(i) + 1));
-  OwnedSafeArray result(SafeArrayCreate(elementType, rank, bounds.data()));
-  if (!result) throw std::bad_alloc();
+  OwnedSafeArray made(SafeArrayCreate(elementType, rank, bounds.data()));
+  if (!made) throw std::bad_alloc();
+  return made;
+}
 
-  const SafeArrayData data(result.get());
+void PutValue(VARIANT& place, const Variant& value);
+
+/// An array of variants, each made where it stays.
+SAFEARRAY* MakeVariants(const Array& array) {
+  OwnedSafeArray made = NewSafeArray(array, VT_VARIANT);
+  const SafeArrayData data(made.get());
+  auto* const places = static_cast<VARIANT*>(data.At(0));
+  const std::span<const Variant> cells = array.Cells();
+  ForEachCell(array, [&](std::size_t index, std::size_t platformIndex) {
+    PutValue(places[platformIndex], cells[index]);
+  });
+  return made.release();
+}
+
+SAFEARRAY* MakeTyped(const Array& array, VARTYPE elementType) {
+  OwnedSafeArray made = NewSafeArray(array, elementType);
+  const SafeArrayData data(made.get());
   const std::span<const Variant> cells = array.Cells();
   ForEachCell(array, [&](std::size_t index, std::size_t platformIndex) {
     OwnedVariant cell = MakeValue(cells[index], elementType);
     Exchange({elementType, data.At(platformIndex)}, cell.Get());
   });
-  return result.release();
+  return made.release();
+}
+
+template <class Member, class Content>
+void Put(VARIANT& place, VARTYPE type, Member& member, Content content) {
+  member = content;
+  place.vt = type;  // last: a content that could not be made leaves the place Empty
+}
+
+/// Makes the value in an Empty place.
+void PutValue(VARIANT& place, const Variant& value) {
+  switch (value.Type()) {
+    case VariantType::Empty:
+      break;
+    case VariantType::Null:
+      place.vt = VT_NULL;
+      break;
+    case VariantType::Missing:
+      return Put(place, VT_ERROR, place.scode, DISP_E_PARAMNOTFOUND);
+    case VariantType::Boolean:
+      return Put(place, VT_BOOL, place.boolVal, value.GetBoolean() ? VARIANT_TRUE : VARIANT_FALSE);
+    case VariantType::Byte:
+      return Put(place, VT_UI1, place.bVal, value.GetByte());
+    case VariantType::Integer:
+      return Put(place, VT_I2, place.iVal, value.GetInteger());
+    case VariantType::Long:
+      return Put(place, VT_I4, place.lVal, value.GetLong());
+    case VariantType::Double:
+      return Put(place, VT_R8, place.dblVal, value.GetDouble());
+    case VariantType::Currency:
+      return Put(place, VT_CY, place.cyVal.int64, value.GetCurrency().scaled);
+    case VariantType::Date:
+      return Put(place, VT_DATE, place.date, value.GetDate().serial);
+    case VariantType::String:
+      return Put(place, VT_BSTR, place.bstrVal, MakeBstr(value.GetString()));
+    case VariantType::Array:
+      return Put(place, VT_ARRAY | VT_VARIANT, place.parray, MakeVariants(value.GetArray()));
+  }
 }
 
 }  // namespace
 
 OwnedVariant MakeValue(const Variant& value) {
   OwnedVariant made;
-  VARIANT& result = made.Get();
-  const auto put = [&result](VARTYPE type, auto& member, auto content) {
-    member = content;
-    result.vt = type;  // last: a content that could not be made leaves the value empty
-  };
-  switch (value.Type()) {
-    case VariantType::Empty:
-      break;
-    case VariantType::Null:
-      result.vt = VT_NULL;
-      break;
-    case VariantType::Missing:
-      put(VT_ERROR, result.scode, DISP_E_PARAMNOTFOUND);
-      break;
-    case VariantType::Boolean:
-      put(VT_BOOL, result.boolVal, value.GetBoolean() ? VARIANT_TRUE : VARIANT_FALSE);
-      break;
-    case VariantType::Byte:
-      put(VT_UI1, result.bVal, value.GetByte());
-      break;
-    case VariantType::Integer:
-      put(VT_I2, result.iVal, value.GetInteger());
-      break;
-    case VariantType::Long:
-      put(VT_I4, result.lVal, value.GetLong());
-      break;
-    case VariantType::Double:
-      put(VT_R8, result.dblVal, value.GetDouble());
-      break;
-    case VariantType::Currency:
-      put(VT_CY, result.cyVal.int64, value.GetCurrency().scaled);
-      break;
-    case VariantType::Date:
-      put(VT_DATE, result.date, value.GetDate().serial);
-      break;
-    case VariantType::String:
-      put(VT_BSTR, result.bstrVal, MakeBstr(value.GetString()));
-      break;
-    case VariantType::Array:
-      put(VT_ARRAY | VT_VARIANT, result.parray, MakeSafeArray(value.GetArray(), VT_VARIANT));
-      break;
-  }
+  PutValue(made.Get(), value);
   return made;
 }
 
@@ -82,8 +96,9 @@ OwnedVariant MakeValue(const Variant& value, VARTYPE type) {
   if ((type & VT_ARRAY) != 0) {
     const auto elementType = static_cast<VARTYPE>(type & VT_TYPEMASK);
     OwnedVariant array;
-    array.Get().parray = MakeSafeArray(value.GetArray(), elementType);
-    array.Get().vt = type;
+    Put(array.Get(), type, array.Get().parray,
+        elementType == VT_VARIANT ? MakeVariants(value.GetArray())
+                                  : MakeTyped(value.GetArray(), elementType));
     return array;
   }
   OwnedVariant made = MakeValue(value);

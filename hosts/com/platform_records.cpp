@@ -3,6 +3,7 @@
 #include <new>
 
 #include "amortix2/com/values.h"
+#include "amortix2/component/invocation.h"
 
 namespace amortix2::com {
 namespace {
@@ -22,16 +23,16 @@ void RequireRecordArray(const RecordLayout& layout, SAFEARRAY* array) {
 bool IsNothing(VARTYPE type) noexcept { return type == VT_EMPTY || type == VT_NULL || type == VT_ERROR; }
 
 /// Fills a record whose memory is all zero.
-void FillRecord(const TypeLibrary& library, const RecordInfo& info, void* place, void* record) {
+void FillRecord(const TypeLibrary& library, const RecordInfo& info, void* place, const void* record) {
   const RecordLayout& layout = library.Layout(info);
   for (std::size_t i = 0; i < info.fields.size(); ++i) {
     const FieldInfo& field = info.fields[i];
     const Place fieldPlace = layout.Field(place, i);
     if (field.type->kind == TypeKind::RecordArray) {
       *static_cast<SAFEARRAY**>(fieldPlace.data) =
-          MakeRecordArray(library, *field.type, field.in(record)).release();
+          MakeRecordArray(library, *field.type, PlaceOf(field, record)).release();
     } else {
-      OwnedVariant value = MakeValue(field.type->read(field.in(record)), fieldPlace.type);
+      OwnedVariant value = MakeValue(field.type->read(PlaceOf(field, record)), fieldPlace.type);
       Exchange(fieldPlace, value.Get());
     }
   }
@@ -89,7 +90,7 @@ void ReadRecords(const TypeLibrary& library, const TypeInfo& type, SAFEARRAY* ar
   }
 }
 
-OwnedSafeArray MakeRecordArray(const TypeLibrary& library, const TypeInfo& type, void* records) {
+OwnedSafeArray MakeRecordArray(const TypeLibrary& library, const TypeInfo& type, const void* records) {
   const Bounds bounds = type.bounds(records);
   SAFEARRAYBOUND bound{static_cast<ULONG>(bounds.Count()), bounds.lower};
   OwnedSafeArray array(SafeArrayCreateEx(VT_RECORD, 1, &bound, &library.Layout(*type.record).Info()));
@@ -97,7 +98,7 @@ OwnedSafeArray MakeRecordArray(const TypeLibrary& library, const TypeInfo& type,
   const SafeArrayData data(array.get());
   for (std::int64_t i = 0; i < bounds.Count(); ++i) {
     FillRecord(library, *type.record, data.At(static_cast<std::size_t>(i)),
-               type.at(records, bounds.lower + i));
+               PlaceAt(type, records, bounds.lower + i));
   }
   return array;
 }

@@ -28,6 +28,6 @@ void ReadRecord(const TypeLibrary& library, const RecordInfo& info, void* place,
 void ReadRecords(const TypeLibrary& library, const TypeInfo& type, SAFEARRAY* array, void* records);
 
 /// A new array with the records that `type` describes. Raises std::bad_alloc.
-OwnedSafeArray MakeRecordArray(const TypeLibrary& library, const TypeInfo& type, void* records);
+OwnedSafeArray MakeRecordArray(const TypeLibrary& library, const TypeInfo& type, const void* records);
 
 }  // namespace amortix2::com

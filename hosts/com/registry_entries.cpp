@@ -9,9 +9,6 @@
 namespace amortix2::com {
 namespace {
 
-/// The platform's own marshaler of dispatch interfaces.
-constexpr const wchar_t* kDispatchProxy = L"{00020420-0000-0000-C000-000000000046}";
-
 constexpr const wchar_t* kPlatform = sizeof(void*) == 8 ? L"win64" : L"win32";
 
 std::wstring Braced(std::string_view name) { return L"{" + ToWide(IdentifierOf(name)) + L"}"; }
@@ -44,11 +41,11 @@ class EntryList {
     const std::wstring identifier = Braced(type.name);
     const std::wstring plain = ToWide(ProgramId(type.name));
     const std::wstring versioned = ToWide(VersionedProgramId(type.name));
-    const std::wstring help = ToWide(type.help);
+    const std::wstring friendly = ToWide(kLibraryName) + L" " + ToWide(type.name);
 
     const std::wstring key = L"CLSID\\" + identifier;
     entries_.ownKeys.push_back(key);
-    Put(key, help);
+    Put(key, friendly);
     Put(key + L"\\InprocServer32", dllPath_);
     Put(key + L"\\InprocServer32", L"Both", L"ThreadingModel");
     Put(key + L"\\ProgID", versioned);
@@ -58,19 +55,19 @@ class EntryList {
     Put(key + L"\\Programmable", L"");
 
     entries_.sharedKeys.push_back(plain);
-    Put(plain, help);
+    Put(plain, friendly);
     Put(plain + L"\\CLSID", identifier);
     Put(plain + L"\\CurVer", versioned);
 
     entries_.sharedKeys.push_back(versioned);
-    Put(versioned, help);
+    Put(versioned, friendly);
     Put(versioned + L"\\CLSID", identifier);
 
     const std::string interfaceName = InterfaceName(type.name);
     const std::wstring interfaceKey = L"Interface\\" + Braced(interfaceName);
     entries_.ownKeys.push_back(interfaceKey);
     Put(interfaceKey, ToWide(interfaceName));
-    Put(interfaceKey + L"\\ProxyStubClsid32", kDispatchProxy);
+    Put(interfaceKey + L"\\ProxyStubClsid32", L"{" + ToWide(kTypeLibraryProxy) + L"}");
     Put(interfaceKey + L"\\TypeLib", library_);
     Put(interfaceKey + L"\\TypeLib", version_, L"Version");
   }

@@ -8,9 +8,6 @@
 namespace amortix2::com {
 namespace {
 
-/// The runtime's "Internal error", for what nothing else explains.
-constexpr auto kInternalError = static_cast<ErrorNumber>(51);
-
 /// A failure in the platform's terms. Texts that no memory is left for stay null; callers then show their
 /// own.
 class Report {
@@ -33,9 +30,13 @@ class Report {
       } catch (const ForeignError& error) {
         source_ = MakeBstr(error.Source());
         description_ = MakeBstr(error.Description());
-      } catch (const AutomationError& error) {
+      } catch (const ArgumentError& error) {
         source_ = MakeBstr(origin.programId);
-        description_ = MakeBstr(ErrorDescription(error.Number()));
+        description_ = MakeBstr(std::string(error.Parameter().name) + ": " +
+                                std::string(ErrorDescription(error.Number())));
+      } catch (...) {
+        source_ = MakeBstr(origin.programId);
+        description_ = MakeBstr(ErrorDescription(CurrentErrorNumber()));
       }
     } catch (...) {
       // No text then: the code says it.
@@ -64,7 +65,7 @@ class Report {
   }
 
  private:
-  HRESULT code_ = ResultCode(kInternalError);
+  HRESULT code_ = ResultCode(ErrorNumber::InternalError);
   BSTR source_ = nullptr;
   BSTR description_ = nullptr;
 };
@@ -81,12 +82,8 @@ HRESULT CurrentResultCode() noexcept {
     throw;
   } catch (const ForeignError& error) {
     return error.Code();
-  } catch (const AutomationError& error) {
-    return ResultCode(error.Number());
-  } catch (const std::bad_alloc&) {
-    return ResultCode(ErrorNumber::OutOfMemory);
   } catch (...) {
-    return ResultCode(kInternalError);
+    return ResultCode(CurrentErrorNumber());
   }
 }
 

@@ -10,6 +10,7 @@
 
 #include "amortix2/automation/error.h"
 #include "amortix2/com/platform.h"
+#include "amortix2/component/description.h"
 
 namespace amortix2::com {
 
@@ -26,6 +27,17 @@ class ForeignError : public std::exception {
   HRESULT code_;
   std::wstring source_;
   std::wstring description_;
+};
+
+/// An error that lies in one argument of a call.
+class ArgumentError : public AutomationError {
+ public:
+  ArgumentError(ErrorNumber number, const ParameterInfo& parameter) noexcept
+      : AutomationError(number), parameter_(&parameter) {}
+  const ParameterInfo& Parameter() const noexcept { return *parameter_; }
+
+ private:
+  const ParameterInfo* parameter_;
 };
 
 /// Raises ForeignError (std::bad_alloc for E_OUTOFMEMORY) unless `result` says success.

@@ -23,6 +23,16 @@ ComPointer<ITypeInfo> FindType(ITypeLib& library, std::string_view name) {
   return type;
 }
 
+ULONG OffsetOf(ITypeInfo& type, std::size_t field) {
+  VARDESC* description = nullptr;
+  Check(type.GetVarDesc(static_cast<UINT>(field), &description));
+  const ULONG offset = description->oInst;
+  type.ReleaseVarDesc(description);
+  return offset;
+}
+
+}  // namespace
+
 VARTYPE PlaceType(const TypeInfo& type) noexcept {
   switch (type.kind) {
     case TypeKind::Double:
@@ -38,22 +48,17 @@ VARTYPE PlaceType(const TypeInfo& type) noexcept {
       return VT_BSTR;
     case TypeKind::Date:
       return VT_DATE;
+    case TypeKind::Record:
+      return VT_RECORD;
+    case TypeKind::ScriptingContext:
+      return VT_DISPATCH;
     case TypeKind::RecordArray:
       return VT_ARRAY | VT_RECORD;
-    default:
-      return VT_VARIANT;
+    case TypeKind::Variant:
+      break;
   }
+  return VT_VARIANT;
 }
-
-ULONG OffsetOf(ITypeInfo& type, std::size_t field) {
-  VARDESC* description = nullptr;
-  Check(type.GetVarDesc(static_cast<UINT>(field), &description));
-  const ULONG offset = description->oInst;
-  type.ReleaseVarDesc(description);
-  return offset;
-}
-
-}  // namespace
 
 RecordLayout::RecordLayout(ITypeLib& library, const RecordInfo& record) : record_(&record) {
   const ComPointer<ITypeInfo> type = FindType(library, record.name);

@@ -14,6 +14,9 @@
 
 namespace amortix2::com {
 
+/// The platform's type of a place for a value of the described type, as the interface definition has it.
+VARTYPE PlaceType(const TypeInfo& type) noexcept;
+
 /// How the records of one kind lie in memory.
 class RecordLayout {
  public:

@@ -69,6 +69,8 @@ inline int NumberOfFailure(IDispatch& object, const wchar_t* name, std::span<con
     return 0;
   } catch (const ForeignError& error) {
     return HRESULT_FACILITY(error.Code()) == 10 ? HRESULT_CODE(error.Code()) : error.Code();
+  } catch (const AutomationError& error) {
+    return static_cast<int>(error.Number());
   }
 }
 

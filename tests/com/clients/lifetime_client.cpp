@@ -193,27 +193,30 @@ std::string Taken(BSTR text) {
 }
 
 void CheckMember(ITypeInfo& type, UINT index, const MemberInfo& member) {
+  const auto number = static_cast<MEMBERID>(index) + 1;
+  const bool put = member.kind == MemberKind::PropertyPut;
   FUNCDESC* function = nullptr;
   if (!CHECK_FOR(std::string(member.name), SUCCEEDED(type.GetFuncDesc(index, &function)))) return;
-  CHECK(function->memid == static_cast<MEMBERID>(index) + 1);
-  CHECK((function->invkind == INVOKE_PROPERTYPUT) == (member.kind == MemberKind::PropertyPut));
+  CHECK(function->memid == number && function->invkind == (put ? INVOKE_PROPERTYPUT : INVOKE_FUNC));
+  CHECK(function->oVft == static_cast<SHORT>((number + 6) * static_cast<MEMBERID>(sizeof(void*))));
   BSTR name = nullptr;
   BSTR help = nullptr;
-  type.GetDocumentation(function->memid, &name, &help, nullptr, nullptr);
+  type.GetDocumentation(number, &name, &help, nullptr, nullptr);
   CHECK(SameName(Taken(name), member.name) && Taken(help) == member.help);
-  CHECK(static_cast<std::size_t>(function->cParams) == member.parameters.size());
+  const std::size_t results = member.result != nullptr ? 1 : 0;
+  CHECK(static_cast<std::size_t>(function->cParams) == member.parameters.size() + results);
   BSTR names[32] = {};
   UINT count = 0;
-  type.GetNames(function->memid, names, 32, &count);
+  type.GetNames(number, names, 32, &count);
   const auto custom = ComPointer<ITypeInfo>::Shared(&type).As<ITypeInfo2>(IID_ITypeInfo2);
   for (UINT i = 0; i < count; ++i) {
     const std::string parameter = Taken(names[i]);
-    if (i == 0) continue;
+    if (i == 0 || i > member.parameters.size()) continue;
     const ParameterInfo& info = member.parameters[i - 1];
     const USHORT flags = function->lprgelemdescParam[i - 1].paramdesc.wParamFlags;
     OwnedVariant parameterHelp;
     custom->GetParamCustData(index, i - 1, ToGuid(IdentifierOf(kParameterHelp)), &parameterHelp.Get());
-    CHECK(SameName(parameter, info.name) && ReadValue(parameterHelp.Get()) == Variant(info.help));
+    CHECK((put || SameName(parameter, info.name)) && ReadValue(parameterHelp.Get()) == Variant(info.help));
     CHECK(((flags & PARAMFLAG_FOPT) != 0) == info.optional);
     CHECK(((flags & PARAMFLAG_FOUT) != 0) == info.byReference);
   }
@@ -223,10 +226,16 @@ void CheckMember(ITypeInfo& type, UINT index, const MemberInfo& member) {
 void TypeLibrarySaysWhatTheDescriptionSays() {
   for (const ClassInfo* described : Classes()) {
     const auto object = Create(ToWide(ProgramId(described->name)).c_str());
-    ComPointer<ITypeInfo> type;
-    if (!CHECK(SUCCEEDED(object->GetTypeInfo(0, 0, type.Receive())))) continue;
+    ComPointer<ITypeInfo> dispatch;
+    ComPointer<ITypeInfo> dual;
+    HREFTYPE reference = 0;
+    if (!CHECK(SUCCEEDED(object->GetTypeInfo(0, 0, dispatch.Receive())) &&
+               SUCCEEDED(dispatch->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference)) &&
+               SUCCEEDED(dispatch->GetRefTypeInfo(reference, dual.Receive())))) {
+      continue;
+    }
     UINT index = 0;
-    for (const MemberInfo& member : described->members) CheckMember(*type.Get(), index++, member);
+    for (const MemberInfo& member : described->members) CheckMember(*dual.Get(), index++, member);
   }
 }
 
