@@ -22,8 +22,11 @@ inline constexpr ChoiceInfo kLoanKinds[] = {
     {"S", "Loan", "Payments at the end of each month"},
     {"C", "Credit card", "Payments in the middle of the month"},
 };
-inline constexpr ChoicesInfo kLoanKind{
-    .title = "Kind of loan", .choices = kLoanKinds, .otherwise = "a loan", .enumeration = nullptr};
+inline constexpr ChoicesInfo kLoanKind{.title = "Kind of loan",
+                                       .choices = kLoanKinds,
+                                       .otherwise = "a loan",
+                                       .enumeration = nullptr,
+                                       .anyCase = true};
 
 inline constexpr ChoiceInfo kAccountKinds[] = {
     {"T", "Taxed on withdrawal", "Income tax is due on what is taken out at the end"},

@@ -39,7 +39,8 @@ inline constexpr Param kPrepaidDet = kDetArray.Named("vNewDet")
 inline constexpr ShortList<FindInfo, 5> kSoonerFinds{
     {.figure = "vGrid(3,3)",
      .sentences =
-         {{.text = "The loan is paid off after {vGrid(3,2)} instead of {vGrid(3,1)}, {vGrid(3,3)} sooner.",
+         {NeverPaidOff("vGrid(1,1)", "vCurrPay"),
+          {.text = "The loan is paid off after {vGrid(3,2)} instead of {vGrid(3,1)}, {vGrid(3,3)} sooner.",
            .when = When::Above,
            .figure = "vGrid(3,3)"},
           {"The loan is paid off after {vGrid(3,2)}, no sooner than now."}}},
@@ -77,7 +78,8 @@ inline constexpr auto kComparisonMembers = std::tuple{
             .help = "The current loan against a new one.",
             .finds =
                 {{.figure = "vGrid(4,3)",
-                  .sentences = {{.text = "The payment goes from {vGrid(1,1)} to {vGrid(1,2)} a month; in "
+                  .sentences = {NeverPaidOff("vGrid(1,1)", "vCurrPay"),
+                                {.text = "The payment goes from {vGrid(1,1)} to {vGrid(1,2)} a month; in "
                                          "today's money the new loan costs {vGrid(4,3)} less.",
                                  .when = When::Above,
                                  .figure = "vGrid(4,3)"},
@@ -121,7 +123,8 @@ inline constexpr auto kComparisonMembers = std::tuple{
             .help = "The current loan against paying it off by a target term.",
             .finds = {{.figure = "grid(1,2)",
                        .sentences =
-                           {{.text = "Paying {grid(1,2)} a month, {grid(1,3):size} more than now, pays the "
+                           {NeverPaidOff("grid(1,1)", "currPay"),
+                            {.text = "Paying {grid(1,2)} a month, {grid(1,3):size} more than now, pays the "
                                      "loan off after {grid(3,2)} instead of {grid(3,1)}.",
                              .when = When::Below,
                              .figure = "grid(1,3)"},

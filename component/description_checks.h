@@ -14,11 +14,6 @@
 
 namespace amortix2::describing {
 
-constexpr bool IsNumber(Unit unit) {
-  return unit != Unit::None && unit != Unit::Text && unit != Unit::Date && unit != Unit::Table &&
-         unit != Unit::List;
-}
-
 /// The value of a plain decimal number ("-12.5"). Throws when it is none.
 constexpr double PlainNumber(std::string_view text) {
   const bool negative = text.starts_with('-');
@@ -197,6 +192,7 @@ class MemberChecks {
       ForEachPart(
           sentence.text, [](std::string_view) {}, [&](const Figure& figure) { CheckFigure(figure); });
       if (sentence.when != SentenceInfo::When::Always) CheckFigure(ParseFigure(sentence.figure));
+      if (!sentence.input.empty()) NeedInput(sentence.input);
     }
     const SentenceInfo& last = *(find.sentences.end() - 1);
     if (last.when != SentenceInfo::When::Always) throw "the last sentence of an answer has a condition";

@@ -24,7 +24,8 @@ inline constexpr auto kLoanMembers = std::tuple{
                 {
                     {.input = "vPurchaseAmt",
                      .figure = "vResPurchaseAmt",
-                     .sentences = {{"{vResPayment} a month for {vResPeriod} pays back a loan of "
+                     .sentences = {NeverPaidOff("vResPayment", "vPayment"),
+                                   {"{vResPayment} a month for {vResPeriod} pays back a loan of "
                                     "{vResPurchaseAmt}; interest comes to {vTotInt}."}},
                      .needs = {"vPayment", "vPeriod"}},
                     {.input = "vPayment",
@@ -127,7 +128,7 @@ inline constexpr ShortList<FindInfo, 5> kLeaseFinds{
      .needs = {"vPayment"}},
     {.input = "vPayment",
      .figure = "vResPayment",
-     .sentences = {{"The lease costs {vResPayment} each period; interest comes to {vResTotInterest}."}},
+     .sentences = {{"The lease costs {vResPayment} each time; interest comes to {vResTotInterest}."}},
      .whenAllGiven = true},
     {.input = "vIntRate",
      .figure = "vResIntRate",
@@ -162,14 +163,14 @@ inline constexpr auto kLeaseMembers = std::tuple{
             .charts = {BalanceChart("vDetArr")},
         },
         {Ignored("vDummy"), kPrincipal, kLeasePayment,
-         kPeriod.In(Unit::Periods).Says("Number of payments").Example("12"), kLeaseRate, kPrepays, kEndingBal,
-         kStartDate.Required(),
+         kPeriod.In(Unit::Count).Says("Number of payments").Example("12"), kLeaseRate, kPrepays, kEndingBal,
+         kStartDate,
          kFreq.Named("vPayMode").Titled("Payment frequency").Says("How often a payment is made").Example("6"),
          kFreq.Named("vIntMode")
              .Titled("Interest frequency")
              .Says("How often interest is charged; what does not fit the payments counts as their frequency"),
          kResPrincipal, kResLeasePayment,
-         kResPeriod.In(Unit::Periods).Says("Number of payments").Echoes("vPeriod"),
+         kResPeriod.In(Unit::Count).Says("Number of payments").Echoes("vPeriod"),
          kResIntRate.Says("1200 times the growth of one payment period").Echoes("vIntRate"), kResPrepays,
          kResEndingBal, kResTotPayments, kResTotInterest, kDetArr}),
 };

@@ -41,6 +41,12 @@ enum class Unit : std::uint8_t {
 /// The unit in words ("annual percent").
 std::string_view UnitName(Unit unit) noexcept;
 
+/// True for the units of single numbers (codes and flags too), not of dates and texts.
+constexpr bool IsNumber(Unit unit) {
+  return unit != Unit::None && unit != Unit::Text && unit != Unit::Date && unit != Unit::Table &&
+         unit != Unit::List;
+}
+
 /// What a member is about, in the order in which a person looks through them.
 enum class Group : std::uint8_t {
   Loans,
@@ -94,6 +100,7 @@ struct ChoicesInfo {
   std::span<const ChoiceInfo> choices;
   std::string_view otherwise;          ///< what any other value counts as, in words; empty: it has no meaning
   const EnumerationInfo* enumeration;  ///< whose constants these are; null for letters and flags
+  bool anyCase = false;                ///< a letter may be given in either case
 };
 
 /// A question of a survey; its answers are given one after the other, from the list's index 1 on.
@@ -185,6 +192,7 @@ struct SentenceInfo {
   When when = When::Always;  ///< Above, Below, Equal: only when `figure` is so compared with `value`
   std::string_view figure{};
   double value = 0;
+  std::string_view input{};  ///< compared with this input instead of `value`
 };
 
 /// A quantity that a member finds. A member that always finds the same has one, without an input; others list
@@ -193,7 +201,7 @@ struct SentenceInfo {
 struct FindInfo {
   std::string_view input{};                   ///< the input whose 0 asks for it; empty: it is always found
   std::string_view figure;                    ///< where it stands in the results
-  ShortList<SentenceInfo, 3> sentences;       ///< the first whose condition holds gives the answer
+  ShortList<SentenceInfo, 4> sentences;       ///< the first whose condition holds gives the answer
   ShortList<std::string_view, 3> needs{};     ///< inputs that must not be 0 then
   ShortList<std::string_view, 2> needsOne{};  ///< inputs of which one must not be 0 then
   bool whenAllGiven = false;                  ///< found anew when no input is 0

@@ -127,6 +127,16 @@ inline constexpr Param kDetArray =
     Result("vDetArray", "Schedule", Unit::Table, "Date, payment, principal, interest, balance")
         .Of(kLoanSchedule);
 
+// ---- Sentences
+
+/// Of a loan whose payment came back larger than it was given: the engine's sign that it covers no interest.
+constexpr SentenceInfo NeverPaidOff(std::string_view figure, std::string_view payment) {
+  return {.text = "At this payment the loan is never paid off.",
+          .when = SentenceInfo::When::Above,
+          .figure = figure,
+          .input = payment};
+}
+
 // ---- Charts of a schedule
 
 constexpr ChartInfo BalanceChart(std::string_view table) {

@@ -58,6 +58,14 @@ constexpr About Plan(int number, std::string_view title, std::string_view addres
           .charts = kCharts};
 }
 
+/// Of a plan whose deposit came back smaller: the engine's sign that no term brings it to its goal.
+constexpr SentenceInfo NotReached(std::string_view deposit) {
+  return {.text = "No number of deposits leads to the goal.",
+          .when = SentenceInfo::When::Below,
+          .figure = deposit,
+          .input = "vPayment"};
+}
+
 /// What SimpleSavingsCalculator and IRACalculator find, in the order in which they look.
 constexpr ShortList<FindInfo, 5> Finds(const std::array<FindInfo, 5>& found) {
   auto finds = found;
@@ -76,7 +84,7 @@ inline constexpr auto kMembers = std::tuple{
 
     method<&Calculator::DepositCalculator>(
         Plan(21, "Deposit for a goal", "deposit", "The deposit that a savings plan needs to reach its goal.",
-             {.figure = "vPayment", .sentences = {{"Depositing {vPayment} each period reaches the goal."}}}),
+             {.figure = "vPayment", .sentences = {{"Depositing {vPayment} each time reaches the goal."}}}),
         {kStart, kBalance, kFreq, kYears, kRate, kGoal,
          kResDeposit.Named("vPayment").Says("Deposit needed each period").Echoes({}), kDetail}),
 
@@ -103,25 +111,25 @@ inline constexpr auto kMembers = std::tuple{
             .help =
                 "Of balance, deposit, goal, term and rate of a savings plan, finds the one that is 0; the "
                 "goal when none is.",
-            .finds =
-                Finds({{{.input = "vPeriod",
-                         .figure = "vResEndDate",
-                         .sentences = {{"The goal of {vResEndingBal} is reached on {vResEndDate}."}}},
-                        {.input = "vEndingBal",
-                         .figure = "vResEndingBal",
-                         .sentences = {{"The plan comes to {vResEndingBal} on {vResEndDate}."}}},
-                        {.input = "vPayment",
-                         .figure = "vResPayment",
-                         .sentences = {{"Depositing {vResPayment} each period reaches {vResEndingBal} on "
-                                        "{vResEndDate}."}}},
-                        {.input = "vCurrBal",
-                         .figure = "vResCurrBal",
-                         .sentences = {{"Starting with {vResCurrBal} reaches {vResEndingBal} on "
-                                        "{vResEndDate}."}}},
-                        {.input = "vIntRate",
-                         .figure = "vResIntRate",
-                         .sentences = {{"A rate of {vResIntRate} reaches {vResEndingBal} on "
-                                        "{vResEndDate}."}}}}}),
+            .finds = Finds({{{.input = "vPeriod",
+                              .figure = "vResEndDate",
+                              .sentences = {NotReached("vResPayment"),
+                                            {"The goal of {vResEndingBal} is reached on {vResEndDate}."}}},
+                             {.input = "vEndingBal",
+                              .figure = "vResEndingBal",
+                              .sentences = {{"The plan comes to {vResEndingBal} on {vResEndDate}."}}},
+                             {.input = "vPayment",
+                              .figure = "vResPayment",
+                              .sentences = {{"Depositing {vResPayment} each time reaches {vResEndingBal} on "
+                                             "{vResEndDate}."}}},
+                             {.input = "vCurrBal",
+                              .figure = "vResCurrBal",
+                              .sentences = {{"Starting with {vResCurrBal} reaches {vResEndingBal} on "
+                                             "{vResEndDate}."}}},
+                             {.input = "vIntRate",
+                              .figure = "vResIntRate",
+                              .sentences = {{"A rate of {vResIntRate} reaches {vResEndingBal} on "
+                                             "{vResEndDate}."}}}}}),
             .charts = kCharts,
         },
         {kStart, kBalance.Says("What is there at the start; 0 may be found").Find(),
@@ -172,7 +180,8 @@ inline constexpr auto kRetirementMembers = std::tuple{
             .finds =
                 Finds({{{.input = "vPeriod",
                          .figure = "vGrid(5)",
-                         .sentences = {{"The account reaches {vGrid(4)} after tax on {vGrid(5)}."}}},
+                         .sentences = {NotReached("vGrid(2)"),
+                                       {"The account reaches {vGrid(4)} after tax on {vGrid(5)}."}}},
                         {.input = "vEndingBal",
                          .figure = "vGrid(4)",
                          .sentences = {{"The account comes to {vGrid(4)} after tax, {vGrid(3)} before."}}},
@@ -216,7 +225,11 @@ inline constexpr auto kRetirementMembers = std::tuple{
                 {
                     {.input = "vPeriod",
                      .figure = "vResPeriod",
-                     .sentences = {{.text =
+                     .sentences = {{.text = "The first withdrawal takes more than there is.",
+                                    .when = SentenceInfo::When::Below,
+                                    .figure = "vResPayment",
+                                    .input = "vPayment"},
+                                   {.text =
                                         "The interest covers the withdrawals: the balance lasts for ever.",
                                     .when = SentenceInfo::When::Equal,
                                     .figure = "vResPeriod",
@@ -225,7 +238,7 @@ inline constexpr auto kRetirementMembers = std::tuple{
                      .needs = {"vPayment", "vCurrBal"}},
                     {.input = "vPayment",
                      .figure = "vResPayment",
-                     .sentences = {{"{vResPayment} can be withdrawn each period for {vResPeriod}."}},
+                     .sentences = {{"{vResPayment} can be withdrawn each time for {vResPeriod}."}},
                      .needs = {"vCurrBal"},
                      .whenAllGiven = true},
                     {.input = "vCurrBal",
