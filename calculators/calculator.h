@@ -132,6 +132,21 @@ class Calculator {
                      Number vIntRate2, Number vPoints2, Number vFees2, Number vRateInc2, Number vIncDelay2,
                      Number vRateCap2, Variant& vGrid, Variant& vCurrDet, Variant& vNewDet) const;
 
+  /// Several current loans against one new loan for all of them.
+  void LoanConsolidationCalculator(const Variant& vCurrBal, const Variant& vCurrPay, const Variant& vCurrRate,
+                                   Number vNewRate, Number vNewPoints, Number vNewFees, Number vNewTerm,
+                                   Number vIncTaxRate, Number vInvGrowthRate, Number vSellByDate,
+                                   Variant& vGrid, Variant& vCurrGrid, Variant& vCurrDet,
+                                   Variant& vNewDet) const;
+
+  /// Renting a home against buying one.
+  void RentVsBuyComparison(Number vRent, Number vRentInc, Number vRentInsurance, Number vPurchaseAmt,
+                           Number vDownPayment, Number vPeriod, Number vIntRate, Number vPoints, Number vFees,
+                           Number vPropertyTax, Number vInsurance, Number vDues, Number vMaintenance,
+                           Number vHomeGrowthRate, Number vSellCost, Number vIncTaxRate,
+                           Number vInvGrowthRate, Number vSellByDate, Variant& vGrid, Variant& vRentDet,
+                           Variant& vBuyDet) const;
+
   // ---- Savings and the time value of money
 
   /// What a savings plan comes to.

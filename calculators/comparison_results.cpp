@@ -7,6 +7,31 @@
 
 namespace amortix2::calculators {
 
+tLoanDesc RecordOf(const CurrentLoan& current, const Outlook& outlook, Date startDate) {
+  tLoanDesc loan;
+  loan.typ = simpleLoan;
+  loan.startDate = startDate;
+  loan.startingBalance = current.balance;
+  loan.payment = current.payment;
+  loan.intRate = current.annualPercent;
+  loan.period = UNKNOWNLOANVALUE;
+  loan.taxRate = outlook.taxPercent;
+  return loan;
+}
+
+tLoanDesc RecordOf(const NewLoan& proposed, const Outlook& outlook, Date startDate) {
+  tLoanDesc loan;
+  loan.typ = simpleLoan;
+  loan.startDate = startDate;
+  loan.payment = UNKNOWNLOANVALUE;
+  loan.intRate = proposed.annualPercent;
+  loan.points = proposed.points;
+  loan.flatFee = proposed.fees;
+  loan.period = proposed.months;
+  loan.taxRate = outlook.taxPercent;
+  return loan;
+}
+
 ComparedLoan Figures(tLoanDesc loan) {
   return {.payment = loan.payment,
           .upFrontCost = loan.schedule.front().intCharged,

@@ -17,6 +17,11 @@
 
 namespace amortix2::calculators {
 
+/// The engine's records of the loan that the borrower has, with the term unknown, and of a new one, with the
+/// payment unknown and no amount yet.
+tLoanDesc RecordOf(const CurrentLoan& current, const Outlook& outlook, Date startDate);
+tLoanDesc RecordOf(const NewLoan& proposed, const Outlook& outlook, Date startDate);
+
 /// The figures of a loan that has its schedule.
 ComparedLoan Figures(tLoanDesc loan);
 

@@ -15,18 +15,6 @@ namespace {
 
 using namespace calculators;
 
-tLoanDesc RecordOf(const CurrentLoan& current, const Outlook& outlook, Date startDate) {
-  tLoanDesc loan;
-  loan.typ = simpleLoan;
-  loan.startDate = startDate;
-  loan.startingBalance = current.balance;
-  loan.payment = current.payment;
-  loan.intRate = current.annualPercent;
-  loan.period = UNKNOWNLOANVALUE;
-  loan.taxRate = outlook.taxPercent;
-  return loan;
-}
-
 /// Solves the current loan, then a proposed one of the same balance.
 LoanComparison Replaced(tLoanDesc current, tLoanDesc proposed, const Outlook& outlook) {
   tCreditQualification household = HouseholdOf(outlook);
@@ -60,12 +48,7 @@ struct Results {
 
 LoanComparison Compare(const RefinancingQuestion& question) {
   const tLoanDesc current = RecordOf(question.current, question.outlook, question.startDate);
-  tLoanDesc proposed = current;
-  proposed.payment = UNKNOWNLOANVALUE;
-  proposed.intRate = question.proposed.annualPercent;
-  proposed.points = question.proposed.points;
-  proposed.flatFee = question.proposed.fees;
-  proposed.period = question.proposed.months;
+  const tLoanDesc proposed = RecordOf(question.proposed, question.outlook, question.startDate);
   return Replaced(current, proposed, question.outlook);
 }
 

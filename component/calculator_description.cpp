@@ -3,6 +3,7 @@
 
 #include "amortix2/component/classes.h"
 #include "amortix2/component/comparison_descriptions.h"
+#include "amortix2/component/household_descriptions.h"
 #include "amortix2/component/mortgage_descriptions.h"
 #include "amortix2/component/record_entry_descriptions.h"
 #include "amortix2/component/savings_descriptions.h"
@@ -14,8 +15,9 @@ constexpr auto kDescription = describe<Calculator>(
     "Calculator",
     "Answers personal-finance questions: loans, leases, mortgages, refinancing, savings and retirement.",
     std::tuple_cat(describing::kLoanMembers, describing::kLeaseMembers, describing::kMortgageMembers,
-                   describing::kComparisonMembers, describing::savings::kMembers,
-                   describing::savings::kRetirementMembers, describing::kRecordMembers));
+                   describing::kComparisonMembers, describing::kHouseholdMembers,
+                   describing::savings::kMembers, describing::savings::kRetirementMembers,
+                   describing::kRecordMembers));
 
 }  // namespace
 

@@ -6,6 +6,7 @@
 #include "amortix2/automation/error.h"
 #include "amortix2/engine/elementary.h"
 #include "amortix2/engine/frequency.h"
+#include "amortix2/engine/loan_schedule.h"
 #include "amortix2/engine/payment_factors.h"
 #include "amortix2/engine/schedule_parts.h"
 
@@ -122,9 +123,8 @@ class BiWeeklySchedule {
 CostTotals SumLines(const tLoanDesc& loan, const tCreditQualification& qualification) {
   const double discountGrowth = MonthlyGrowth(qualification.investmentGrowthRate);
   const double homeGrowthAYear = 1 + qualification.homeValueGrowthRate / 100;
-  const bool isShorter = qualification.monthsToKeep >= 1 && qualification.monthsToKeep <= loan.period;
-  const Date horizon =
-      isShorter ? MonthsAfter(loan.startDate, ToInteger(qualification.monthsToKeep)) : kLastDay;
+  const std::optional<int> sold = SaleMonth(qualification.monthsToKeep, loan.period);
+  const Date horizon = sold ? MonthsAfter(loan.startDate, *sold) : kLastDay;
   CostTotals totals(qualification);
   double discount = 1;
   double homeGrowth = 1;

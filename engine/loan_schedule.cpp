@@ -124,8 +124,7 @@ class MonthlyLines {
 /// Sums the lines up to the sale into the loan's totals and present values.
 [[gnu::noinline]] void SumCost(tLoanDesc& loan, const tCreditQualification& qualification,
                                const Layout& layout) {
-  const bool isShorter = qualification.monthsToKeep >= 1 && qualification.monthsToKeep <= layout.payments;
-  const int horizon = isShorter ? ToInteger(qualification.monthsToKeep) : layout.last;
+  const int horizon = SaleMonth(qualification.monthsToKeep, layout.payments).value_or(layout.last);
   const double discountGrowth = MonthlyGrowth(qualification.investmentGrowthRate);
   const double homeGrowthAYear = 1 + qualification.homeValueGrowthRate / 100;
   double discount = 1;
@@ -151,6 +150,11 @@ class MonthlyLines {
 }
 
 }  // namespace
+
+std::optional<int> SaleMonth(double monthsToKeep, double term) {
+  if (monthsToKeep >= 1 && monthsToKeep <= term) return ToInteger(monthsToKeep);
+  return std::nullopt;
+}
 
 TermFound FindTerm(const tLoanDesc& loan) {
   const double growth = MonthlyGrowth(loan.intRate);

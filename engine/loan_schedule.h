@@ -14,6 +14,7 @@
 // balance.
 
 #include <cstdint>
+#include <optional>
 
 #include "amortix2/engine/records.h"
 
@@ -29,6 +30,10 @@ namespace amortix2 {
 /// Raises Overflow (a term beyond 16 bits; an amount beyond doubles), DivisionByZero, SubscriptOutOfRange (a
 /// negative term, or more prepayments than the term has room for), InvalidProcedureCall (a date past 9999).
 void BuildLoanSchedule(tLoanDesc& loan, const tCreditQualification& qualification);
+
+/// The month in which a home that is kept for `monthsToKeep` is sold, rounded; none when that is below 1 or
+/// past the term: it is then kept as long as the loan runs.
+std::optional<int> SaleMonth(double monthsToKeep, double term);
 
 struct TermFound {
   std::int16_t payments;
