@@ -64,4 +64,14 @@ class Clock {
   virtual Date Today() const = 0;
 };
 
+/// A clock that stands still.
+class FixedClock final : public Clock {
+ public:
+  explicit FixedClock(Date today) noexcept : today_(today) {}
+  Date Today() const override { return today_; }
+
+ private:
+  Date today_;
+};
+
 }  // namespace amortix2

@@ -3,46 +3,16 @@
 #include <algorithm>
 #include <vector>
 
-#include "amortix2/cli/names.h"
 #include "amortix2/cli/text_table.h"
+#include "amortix2/json/description_json.h"
+#include "amortix2/json/lookup.h"
 
 namespace amortix2::cli {
 namespace {
 
 constexpr std::string_view kIndent = "      ";
 
-std::string TypeText(const TypeInfo& type) {
-  switch (type.kind) {
-    case TypeKind::Variant:
-      return "Variant";
-    case TypeKind::Double:
-      return "Double";
-    case TypeKind::Byte:
-      return "Byte";
-    case TypeKind::Integer:
-      return "Integer";
-    case TypeKind::Long:
-      return "Long";
-    case TypeKind::String:
-      return "String";
-    case TypeKind::Date:
-      return "Date";
-    case TypeKind::Enumeration:
-      return std::string(type.enumeration->name);
-    case TypeKind::Record:
-      return std::string(type.record->name);
-    case TypeKind::RecordArray:
-      return "array of " + std::string(type.record->name);
-    case TypeKind::ScriptingContext:
-      break;
-  }
-  return "page context";
-}
-
-std::string_view Direction(const ParameterInfo& parameter) {
-  if (parameter.byReference) return "in/out";
-  return parameter.optional ? "in, optional" : "in";
-}
+using Rows = std::vector<std::vector<TextCell>>;
 
 /// The names of the parameters of one direction after a label, broken into lines.
 void AppendNames(std::string& out, std::string_view label, const MemberInfo& member, bool byReference) {
@@ -77,14 +47,8 @@ void AppendClass(std::string& out, const ClassInfo& type) {
   for (const MemberInfo& member : type.members) AppendMember(out, member);
 }
 
-/// Rows of texts as a table without a header.
-void AppendRows(std::string& out, const std::vector<std::vector<std::string>>& rows) {
-  const auto cell = [&](std::int64_t row, std::size_t column) {
-    return Variant(std::string_view(rows[static_cast<std::size_t>(row)][column]));
-  };
-  const Bounds bounds{0, static_cast<std::int32_t>(rows.size()) - 1};
-  AppendTable(out, {std::vector<std::string>(rows.empty() ? 0 : rows.front().size()), bounds, false, cell});
-}
+/// A row of texts, indented.
+std::vector<TextCell> Row(const auto&... texts) { return {TextCell{}, TextCell{std::string(texts)}...}; }
 
 /// The records and enumerations that a member's parameters are made of, each once, in the order met.
 struct Types {
@@ -109,19 +73,17 @@ struct Types {
 void AppendTypes(std::string& out, const Types& types) {
   for (const RecordInfo* record : types.records) {
     out.append("\n").append(record->name).append("  ").append(record->help).append("\n");
-    std::vector<std::vector<std::string>> rows;
+    Rows rows;
     for (const FieldInfo& field : record->fields) {
-      rows.push_back({std::string(field.name), TypeText(*field.type), std::string(UnitName(field.unit)),
-                      std::string(field.help)});
+      rows.push_back(Row(field.name, json::TypeText(*field.type), UnitName(field.unit), field.help));
     }
     AppendRows(out, rows);
   }
   for (const EnumerationInfo* enumeration : types.enumerations) {
     out.append("\n").append(enumeration->name).append("  ").append(enumeration->help).append("\n");
-    std::vector<std::vector<std::string>> rows;
+    Rows rows;
     for (const ConstantInfo& constant : enumeration->constants) {
-      rows.push_back(
-          {std::to_string(constant.value), std::string(constant.name), std::string(constant.help)});
+      rows.push_back(Row(std::to_string(constant.value), constant.name, constant.help));
     }
     AppendRows(out, rows);
   }
@@ -130,15 +92,15 @@ void AppendTypes(std::string& out, const Types& types) {
 std::string MemberListing(const ClassInfo& type, const MemberInfo& member) {
   std::string out(type.name);
   out.append(".").append(member.name).append("\n  ").append(member.help).append("\n\n");
-  std::vector<std::vector<std::string>> rows;
+  Rows rows;
   Types types;
   for (const ParameterInfo& parameter : member.parameters) {
-    rows.push_back({std::string(parameter.name), std::string(Direction(parameter)), TypeText(*parameter.type),
-                    std::string(UnitName(parameter.unit)), std::string(parameter.help)});
+    rows.push_back(Row(parameter.name, json::Direction(parameter), json::TypeText(*parameter.type),
+                       UnitName(parameter.unit), parameter.help));
     types.Add(*parameter.type);
   }
   AppendRows(out, rows);
-  if (member.result) out += "  returns " + TypeText(*member.result) + "\n";
+  if (member.result) out += "  returns " + json::TypeText(*member.result) + "\n";
   AppendTypes(out, types);
   return out;
 }
@@ -151,10 +113,10 @@ std::string Listing(std::string_view name) {
   if (name.empty()) {
     for (const ClassInfo* type : Classes()) AppendClass(out, *type);
   } else if (dot == std::string_view::npos) {
-    AppendClass(out, NeedClass(name));
+    AppendClass(out, json::NeedClass(name));
   } else {
-    const ClassInfo& type = NeedClass(name.substr(0, dot));
-    out = MemberListing(type, NeedMember(type, name.substr(dot + 1)));
+    const ClassInfo& type = json::NeedClass(name.substr(0, dot));
+    out = MemberListing(type, json::NeedMember(type, name.substr(dot + 1)));
   }
   return out;
 }

@@ -3,108 +3,98 @@
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <csignal>
-#include <iterator>
 #include <memory>
 #include <system_error>
+#include <utility>
 
-#include "amortix2/automation/error.h"
 #include "amortix2/automation/whole_file.h"
 #include "amortix2/cli/arguments.h"
-#include "amortix2/cli/batch.h"
-#include "amortix2/cli/call.h"
+#include "amortix2/cli/command_line.h"
+#include "amortix2/cli/lines.h"
 #include "amortix2/cli/listing.h"
-#include "amortix2/cli/names.h"
-#include "amortix2/cli/options.h"
-#include "amortix2/cli/output.h"
 #include "amortix2/cli/readable.h"
-#include "amortix2/cli/reply.h"
-#include "amortix2/cli/request.h"
-#include "amortix2/cli/request_error.h"
 #include "amortix2/common/system_clock.h"
+#include "amortix2/json/answer.h"
+#include "amortix2/json/description_json.h"
+#include "amortix2/json/execution.h"
+#include "amortix2/json/lookup.h"
 
 namespace amortix2::cli {
 namespace {
 
-class FixedClock final : public Clock {
- public:
-  explicit FixedClock(Date today) : today_(today) {}
-  Date Today() const override { return today_; }
-
- private:
-  Date today_;
-};
-
-std::unique_ptr<Clock> ClockOf(const Options& options) {
-  if (options.today) return std::make_unique<FixedClock>(*options.today);
+std::unique_ptr<Clock> ClockOf(const CommandLine& line) {
+  if (line.today) return std::make_unique<FixedClock>(*line.today);
   return std::make_unique<SystemClock>();
+}
+
+json::Options ReplyOptions(const CommandLine& line) {
+  return {line.types ? json::Form::WithTypes : json::Form::Plain};
 }
 
 void Complain(const std::string& what) { WriteAll(STDERR_FILENO, "amortix2: " + what + "\n"); }
 
 /// Says what went wrong and returns the exit status that belongs to it.
-int Report(const Failure& failure) {
+int Report(const json::Failure& failure) {
   const std::string number = std::to_string(static_cast<std::int32_t>(failure.number));
   Complain(failure.ofRequest ? failure.message : number + " " + std::string(failure.name));
   return failure.ofRequest ? kBadRequest : kComponentError;
 }
 
-/// One --with may be followed by several settings, which are no arguments of the method.
-void TakeSettings(const Target& target, Json::Fields& arguments, Json::Fields& settings) {
-  const auto isArgument = [&](const Json::Field& field) {
-    return FindParameter(target.method, field.name) || !FindMember(target.type, field.name);
-  };
-  const auto others = std::stable_partition(arguments.begin(), arguments.end(), isArgument);
-  std::move(others, arguments.end(), std::back_inserter(settings));
-  arguments.erase(others, arguments.end());
-}
-
-Json RequestOf(const Options& options) {
-  Json::Fields arguments = ReadArguments(options.arguments);
-  Json::Fields settings = ReadArguments(options.settings);
-  if (!settings.empty()) TakeSettings(FindTarget(options.target), arguments, settings);
-  Json::Fields request;
-  request.push_back({"call", Json(options.target)});
-  request.push_back({"args", Json(std::move(arguments))});
-  request.push_back({"with", Json(std::move(settings))});
-  return Json(std::move(request));
-}
-
-void SaveResponse(const Call& call, const std::string& path) {
-  if (path.empty()) throw RequestError("--out names no file");
-  if (call.Response().empty()) throw RequestError("nothing was sent to the page, so there is no " + path);
-  WriteWholeFile(path, call.Response());
-}
-
-int RunCall(const Options& options) {
-  const Json json = RequestOf(options);
-  const Request request = ReadRequest(json);
-  const auto clock = ClockOf(options);
-  const Call call(request, *clock);
-  const JsonForm form = options.types ? JsonForm::WithTypes : JsonForm::Plain;
-  if (options.json || options.types) {
-    WriteAll(STDOUT_FILENO, ReplyTo(call, nullptr, form) + "\n");
-  } else if (!call.Error()) {
-    WriteAll(STDOUT_FILENO, ReadableAnswer(call, request));
+/// One --with may be followed by several settings, which are no arguments of the method: moves them.
+void TakeSettings(const json::Target& target, json::Fields& arguments, json::Fields& settings) {
+  json::Fields own;
+  for (auto& [name, value] : arguments) {
+    const bool isArgument = FindParameter(target.method, name) || !FindMember(target.type, name);
+    (isArgument ? own : settings).emplace_back(name, std::move(value));
   }
-  if (call.Error()) return Report(*call.Error());
-  if (options.out) SaveResponse(call, *options.out);
+  arguments = std::move(own);
+}
+
+void SaveResponse(const json::Execution& execution, const std::string& path) {
+  if (path.empty()) throw json::RequestError("--out names no file");
+  if (execution.Response().empty()) {
+    throw json::RequestError("nothing was sent to the page, so there is no " + path);
+  }
+  WriteWholeFile(path, execution.Response());
+}
+
+int RunCall(const CommandLine& line) {
+  json::Fields arguments = ReadArguments(line.arguments);
+  json::Fields settings = ReadArguments(line.settings);
+  if (!settings.empty()) TakeSettings(json::FindTarget(line.target), arguments, settings);
+  const auto clock = ClockOf(line);
+  const json::Execution execution({line.target, arguments, settings}, *clock, json::Keep::GivenToo);
+  if (line.json || line.types) {
+    WriteAll(STDOUT_FILENO, json::ReplyTo(execution, ReplyOptions(line)) + "\n");
+  } else if (!execution.Error()) {
+    WriteAll(STDOUT_FILENO, ReadableAnswer(execution));
+  }
+  if (execution.Error()) return Report(*execution.Error());
+  if (line.out) SaveResponse(execution, *line.out);
   return kSuccess;
 }
 
-int Run(const Options& options) {
-  switch (options.command) {
-    case Command::List:
-      WriteAll(STDOUT_FILENO, Listing(options.target));
-      return kSuccess;
-    case Command::Call:
-      return RunCall(options);
-    case Command::Batch:
-      break;
+/// Answers until the input ends. Replies are sent at the latest when no complete line is waiting.
+int RunBatch(const CommandLine& line) {
+  const auto clock = ClockOf(line);
+  LineReader requests(STDIN_FILENO, json::kLongestRequest);
+  LineWriter replies(STDOUT_FILENO);
+  while (true) {
+    if (!requests.HasLine()) replies.Flush();
+    const auto request = requests.Next();
+    if (!request) break;
+    const std::string reply = json::Answer(*request, ReplyOptions(line), *clock);
+    replies.WriteLine(reply.empty() ? json::kNoMemoryReply : reply);
   }
-  RunBatch(STDIN_FILENO, STDOUT_FILENO, *ClockOf(options),
-           options.types ? JsonForm::WithTypes : JsonForm::Plain);
+  replies.Flush();
+  return kSuccess;
+}
+
+int Run(const CommandLine& line) {
+  if (line.command == Command::Call) return RunCall(line);
+  if (line.command == Command::Batch) return RunBatch(line);
+  WriteAll(STDOUT_FILENO, line.json ? json::DescriptionJson() + "\n" : Listing(line.target));
   return kSuccess;
 }
 
@@ -112,15 +102,15 @@ int Main(int argc, char** argv) {
   // A reader that goes away is an error of writing, not the end of the process.
   std::signal(SIGPIPE, SIG_IGN);
   int status = kSuccess;
-  const auto options = ReadOptions(argc, argv, status);
-  if (!options) return status;
+  const auto line = ReadCommandLine(argc, argv, status);
+  if (!line) return status;
   try {
-    return Run(*options);
+    return Run(*line);
   } catch (const std::system_error& error) {
     Complain(error.what());
     return kInputOutput;
   } catch (...) {
-    return Report(CurrentFailure());
+    return Report(json::CurrentFailure());
   }
 }
 

@@ -5,22 +5,63 @@
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
 #include "amortix2/cli/text_table.h"
-#include "amortix2/cli/typed_json.h"
-#include "amortix2/cli/value_lines.h"
 
 namespace amortix2::cli {
 namespace {
 
+/// A single value: its name, the value, and what that is.
+struct Line {
+  std::string_view name;
+  Variant value;
+  Unit unit;
+  std::string_view title;
+  const EnumerationInfo* enumeration = nullptr;  ///< of a value that is a code
+};
+
+/// What stands in parentheses behind the title: the unit, or the name that a code has.
+std::string_view Note(const Line& line) {
+  if (line.enumeration) {
+    const auto constant =
+        std::ranges::find(line.enumeration->constants, line.value.GetLong(), &ConstantInfo::value);
+    return constant == line.enumeration->constants.end() ? std::string_view{} : constant->name;
+  }
+  const bool plain = line.unit == Unit::Text || line.unit == Unit::Currency || line.unit == Unit::Date;
+  return plain ? std::string_view{} : UnitName(line.unit);
+}
+
+std::string About(const Line& line) {
+  std::string about(line.title);
+  if (const auto note = Note(line); !note.empty()) about.append(" (").append(note).append(")");
+  return about;
+}
+
+/// A text may be long and is its own meaning, so that nothing stands behind it.
+void AppendLines(std::string& out, const std::vector<Line>& lines) {
+  std::vector<std::vector<TextCell>> rows;
+  for (const Line& line : lines) {
+    const bool money = line.unit == Unit::Currency || line.unit == Unit::MonthlyCurrency;
+    auto& row = rows.emplace_back();
+    row.push_back({std::string(line.name)});
+    if (line.value.Type() == VariantType::String) {
+      row.push_back({PlainText(line.value), Align::Free});
+    } else {
+      row.push_back({PlainText(line.value, money ? 2 : 0), Align::Right});
+      row.push_back({About(line)});
+    }
+  }
+  AppendRows(out, rows);
+}
+
 /// What a block shows: a name, and what that is.
 struct Title {
   std::string name;
-  std::string_view help;
+  std::string_view words;
 };
 
 void AppendHeading(std::string& out, const Title& title, const std::string& extent) {
   if (!out.empty()) out += '\n';
   out += title.name;
-  if (!title.help.empty()) out.append(": ").append(title.help);
+  if (!title.words.empty()) out.append(": ").append(title.words);
   out += " (" + extent + ")\n";
 }
 
@@ -50,7 +91,7 @@ void AppendGrid(std::string& out, const Title& title, const Array& array) {
   };
   if (columns.Count() > 1 && emptyColumn()) ++columns.lower;
   if (rows.Count() > 1 && emptyRow()) ++rows.lower;
-  TextTable table{{}, rows, true, [&](std::int64_t row, std::size_t column) {
+  TextTable table{{}, rows, [&](std::int64_t row, std::size_t column) {
                     return array.At(row, columns.lower + static_cast<std::int64_t>(column));
                   }};
   for (std::int64_t column = columns.lower; column <= columns.upper; ++column) {
@@ -72,7 +113,7 @@ void AppendList(std::string& out, const Title& title, const Array& array) {
       if (cell.Type() == VariantType::String) out.append(cell.GetString()).append("\n");
     }
   } else {
-    AppendTable(out, {{""}, bounds, true, [&](std::int64_t row, std::size_t) { return array.At(row); }});
+    AppendTable(out, {{""}, bounds, [&](std::int64_t row, std::size_t) { return array.At(row); }});
   }
 }
 
@@ -86,18 +127,15 @@ void AppendArray(std::string& out, const Title& title, const Array& array) {
 
 bool IsRecords(const TypeInfo& type) noexcept { return type.kind == TypeKind::RecordArray; }
 
-/// A record's fields are read only; the description has one way in for both.
-void* FieldOf(const FieldInfo& field, const void* record) { return field.in(const_cast<void*>(record)); }
-
 /// A list of lines: one row a record, one column a field.
 void AppendSchedule(std::string& out, const Title& title, const TypeInfo& type, const void* records) {
   const Bounds bounds = type.bounds(records);
   AppendHeading(out, title, bounds.Count() == 0 ? "none" : "lines " + Range(bounds));
   if (bounds.Count() == 0) return;
   const auto fields = type.record->fields;
-  TextTable table{{}, bounds, true, [&](std::int64_t row, std::size_t column) {
-                    const void* record = type.at(const_cast<void*>(records), row);
-                    return fields[column].type->read(FieldOf(fields[column], record));
+  TextTable table{{}, bounds, [&](std::int64_t row, std::size_t column) {
+                    const FieldInfo& field = fields[column];
+                    return field.type->read(PlaceOf(field, PlaceAt(type, records, row)));
                   }};
   for (const FieldInfo& field : fields) table.header.emplace_back(field.name);
   AppendTable(out, table);
@@ -106,12 +144,12 @@ void AppendSchedule(std::string& out, const Title& title, const TypeInfo& type, 
 /// The fields that are not zero.
 std::vector<Line> FieldLines(const RecordInfo& record, const void* value) {
   std::vector<Line> lines;
-  for (const FieldInfo& field : record.fields) {
-    if (IsRecords(*field.type)) continue;
-    Variant single = field.type->read(FieldOf(field, value));
-    if (ToDouble(single) == 0) continue;
+  ForEachField(record, value, [&](const FieldInfo& field, const void* place) {
+    if (IsRecords(*field.type)) return;
+    Variant single = field.type->read(place);
+    if (ToDouble(single) == 0) return;
     lines.push_back({field.name, std::move(single), field.unit, field.title, field.type->enumeration});
-  }
+  });
   return lines;
 }
 
@@ -119,20 +157,18 @@ void AppendRecord(std::string& out, const Title& title, const RecordInfo& record
   const std::vector<Line> lines = FieldLines(record, value);
   AppendHeading(out, title, std::string(record.name) + (lines.empty() ? ", all zero" : ""));
   AppendLines(out, lines);
-  for (const FieldInfo& field : record.fields) {
-    if (!IsRecords(*field.type)) continue;
-    const Title list{title.name + "." + std::string(field.name), field.title};
-    AppendSchedule(out, list, *field.type, FieldOf(field, value));
-  }
+  ForEachField(record, value, [&](const FieldInfo& field, const void* place) {
+    if (!IsRecords(*field.type)) return;
+    AppendSchedule(out, {title.name + "." + std::string(field.name), field.title}, *field.type, place);
+  });
 }
 
 void AppendRecords(std::string& out, const Title& title, const Value& value) {
   const Bounds bounds = value.Type().bounds(value.Get());
   if (bounds.Count() == 0) AppendHeading(out, title, "none");
-  for (std::int64_t index = bounds.lower; index <= bounds.upper; ++index) {
-    const void* record = value.Type().at(const_cast<void*>(value.Get()), index);
+  ForEachRecord(value.Type(), value.Get(), [&](std::int64_t index, const void* record) {
     AppendRecord(out, {title.name + "(" + std::to_string(index) + ")", {}}, *value.Type().record, record);
-  }
+  });
 }
 
 const Array* ArrayIn(const Variant& value) {
@@ -155,19 +191,10 @@ void AppendBlock(std::string& out, const Title& title, const Value& value) {
   }
 }
 
-/// True for a variant that is as the caller gave it, or left it: nothing came back in it.
-bool IsUnchanged(const ParameterInfo& parameter, const Value& value, const Json::Fields& given) {
-  if (value.Type().kind != TypeKind::Variant) return false;
-  Value before = NewArgument(parameter);
-  for (const Json::Field& field : given) {
-    if (SameName(field.name, parameter.name)) ReadArgument(field.value, before);
-  }
-  return *static_cast<const Variant*>(before.Get()) == *static_cast<const Variant*>(value.Get());
-}
-
 }  // namespace
 
-std::string ReadableAnswer(const Call& call, const Request& request) {
+std::string ReadableAnswer(const json::Execution& execution) {
+  const Invocation& call = *execution.Call();
   std::vector<Line> lines;
   std::string blocks;
   const auto add = [&](const ParameterInfo& info, const Value& value) {
@@ -178,9 +205,8 @@ std::string ReadableAnswer(const Call& call, const Request& request) {
     lines.push_back({info.name, std::move(single), info.unit, info.title, value.Type().enumeration});
   };
   for (std::size_t i = 0; i < call.Arguments().size(); ++i) {
-    const ParameterInfo& parameter = call.Method()->parameters[i];
-    const Value& value = call.Arguments()[i];
-    if (parameter.byReference && !IsUnchanged(parameter, value, request.arguments)) add(parameter, value);
+    const ParameterInfo& parameter = call.Member().parameters[i];
+    if (parameter.byReference && !execution.IsUnchanged(i)) add(parameter, call.Arguments()[i]);
   }
   ParameterInfo result;
   result.name = "returns";
@@ -190,7 +216,7 @@ std::string ReadableAnswer(const Call& call, const Request& request) {
   AppendLines(out, lines);
   if (!out.empty() && !blocks.empty()) out += '\n';
   out += blocks;
-  if (const std::size_t bytes = call.Response().size(); bytes > 0) {
+  if (const std::size_t bytes = execution.Response().size(); bytes > 0) {
     AppendHeading(out, {"page response", {}}, std::to_string(bytes) + " bytes");
   }
   return out;

@@ -5,13 +5,12 @@
 
 #include <string>
 
-#include "amortix2/cli/call.h"
-#include "amortix2/cli/request.h"
+#include "amortix2/json/execution.h"
 
 namespace amortix2::cli {
 
-/// The by-reference results that have changed and what the method returned, of a call that succeeded. What
-/// went to the page's response is only mentioned.
-std::string ReadableAnswer(const Call& call, const Request& request);
+/// The by-reference results that have changed and what the method returned, of a request that was carried
+/// out with Keep::GivenToo and did not fail. What went to the page's response is only mentioned.
+std::string ReadableAnswer(const json::Execution& execution);
 
 }  // namespace amortix2::cli

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "amortix2/cli/json_text.h"
-#include "amortix2/cli/variant_to_json.h"
+#include "amortix2/json/json_text.h"
+#include "amortix2/json/variant_writer.h"
 
 namespace amortix2::cli {
 namespace {
@@ -26,7 +26,7 @@ void AppendRounded(std::string& out, double value) {
   constexpr double kLarge = 1e9;
   const double size = std::abs(value);
   const bool rounded = size >= kSmall && size < kLarge;
-  AppendNumber(out, rounded ? std::nearbyint(value * 1e6) / 1e6 : value);
+  json::AppendNumber(out, rounded ? std::nearbyint(value * 1e6) / 1e6 : value);
 }
 
 /// The decimals of a number's text; nothing for "1e+20", which is left as it is.
@@ -42,43 +42,27 @@ void Pad(std::string& number, std::size_t decimals) {
   number.append(decimals - std::min(decimals, DecimalsOf(number)), '0');
 }
 
-struct Column {
-  std::size_t decimals = 0;
-  std::size_t width = 0;
-  bool numbers = true;  // texts stand to the left
-};
-
-Column Measure(const TextTable& table, std::size_t index) {
-  Column column;
-  for (std::int64_t row = table.rows.lower; row <= table.rows.upper; ++row) {
-    const Variant value = table.cell(row, index);
-    column.decimals = std::max(column.decimals, Decimals(value));
-    if (!IsNumber(value.Type()) && value.Type() != VariantType::Empty) column.numbers = false;
-  }
-  column.width = Width(table.header[index]);
-  for (std::int64_t row = table.rows.lower; row <= table.rows.upper; ++row) {
-    column.width = std::max(column.width, Width(PlainText(table.cell(row, index), column.decimals)));
-  }
-  return column;
-}
-
-void AppendAligned(std::string& out, std::string_view text, std::size_t width, bool right) {
-  const std::size_t blanks = width - std::min(width, Width(text));
-  if (right) out.append(blanks, ' ');
-  out += text;
-  if (!right) out.append(blanks, ' ');
-}
-
-void EndLine(std::string& out) {
-  out.erase(out.find_last_not_of(' ') + 1);
-  out += '\n';
-}
-
-}  // namespace
-
 std::size_t Decimals(const Variant& value) {
   return IsNumber(value.Type()) ? DecimalsOf(PlainText(value)) : 0;
 }
+
+/// Appends a cell to each row, the first of which is the header.
+void AddColumn(std::vector<std::vector<TextCell>>& rows, const TextTable& table, std::size_t column) {
+  std::size_t decimals = 0;
+  Align align = Align::Right;
+  for (std::int64_t row = table.rows.lower; row <= table.rows.upper; ++row) {
+    const Variant value = table.cell(row, column);
+    decimals = std::max(decimals, Decimals(value));
+    if (!IsNumber(value.Type()) && value.Type() != VariantType::Empty) align = Align::Left;
+  }
+  rows.front().push_back({table.header[column], align});
+  for (std::int64_t row = table.rows.lower; row <= table.rows.upper; ++row) {
+    auto& cells = rows[static_cast<std::size_t>(row - table.rows.lower) + 1];
+    cells.push_back({PlainText(table.cell(row, column), decimals), align});
+  }
+}
+
+}  // namespace
 
 std::string PlainText(const Variant& value, std::size_t decimals) {
   std::string text;
@@ -105,33 +89,42 @@ std::string PlainText(const Variant& value, std::size_t decimals) {
       Pad(text, decimals);
       break;
     default:
-      AppendVariant(text, value, JsonForm::Plain);
+      json::AppendVariant(text, value, json::Form::Plain);
       if (IsNumber(value.Type())) Pad(text, decimals);
   }
   return text;
 }
 
-void AppendTable(std::string& out, const TextTable& table) {
-  std::vector<Column> columns;
-  for (std::size_t i = 0; i < table.header.size(); ++i) columns.push_back(Measure(table, i));
-  const std::size_t labels =
-      std::max(std::to_string(table.rows.lower).size(), std::to_string(table.rows.upper).size());
-
-  const auto appendLine = [&](const std::string& label, const auto& text) {
-    if (table.rowNumbers) AppendAligned(out, label, labels, true);
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-      out += "  ";
-      AppendAligned(out, text(i), columns[i].width, columns[i].numbers);
+void AppendRows(std::string& out, const std::vector<std::vector<TextCell>>& rows) {
+  std::vector<std::size_t> widths;
+  for (const auto& row : rows) {
+    widths.resize(std::max(widths.size(), row.size()));
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      if (row[i].align != Align::Free) widths[i] = std::max(widths[i], Width(row[i].text));
     }
-    EndLine(out);
-  };
-  if (std::ranges::any_of(table.header, [](const std::string& name) { return !name.empty(); })) {
-    appendLine("", [&](std::size_t i) { return table.header[i]; });
   }
+  for (const auto& row : rows) {
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      const auto& [text, align] = row[i];
+      const std::size_t blanks = widths[i] - std::min(widths[i], Width(text));
+      if (i > 0) out += "  ";
+      if (align == Align::Right) out.append(blanks, ' ');
+      out += text;
+      if (align != Align::Right) out.append(blanks, ' ');
+    }
+    out.erase(out.find_last_not_of(' ') + 1);
+    out += '\n';
+  }
+}
+
+void AppendTable(std::string& out, const TextTable& table) {
+  std::vector<std::vector<TextCell>> rows{{{}}};
   for (std::int64_t row = table.rows.lower; row <= table.rows.upper; ++row) {
-    appendLine(std::to_string(row),
-               [&](std::size_t i) { return PlainText(table.cell(row, i), columns[i].decimals); });
+    rows.push_back({{std::to_string(row), Align::Right}});
   }
+  for (std::size_t column = 0; column < table.header.size(); ++column) AddColumn(rows, table, column);
+  if (std::ranges::all_of(table.header, &std::string::empty)) rows.erase(rows.begin());
+  AppendRows(out, rows);
 }
 
 }  // namespace amortix2::cli

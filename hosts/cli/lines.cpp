@@ -1,0 +1,92 @@
+#include "amortix2/cli/lines.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <system_error>
+
+namespace amortix2::cli {
+namespace {
+
+constexpr std::size_t kReadSize = std::size_t{1} << 16;
+
+std::size_t ReadSome(int descriptor, char* place) {
+  while (true) {
+    const ssize_t count = read(descriptor, place, kReadSize);
+    if (count >= 0) return static_cast<std::size_t>(count);
+    if (errno != EINTR) throw std::system_error(errno, std::generic_category(), "cannot read");
+  }
+}
+
+}  // namespace
+
+void WriteAll(int descriptor, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t count = write(descriptor, bytes.data(), bytes.size());
+    if (count >= 0) {
+      bytes.remove_prefix(static_cast<std::size_t>(count));
+    } else if (errno != EINTR) {
+      throw std::system_error(errno, std::generic_category(), "cannot write");
+    }
+  }
+}
+
+bool LineReader::HasLine() noexcept {
+  const auto first = buffer_.begin() + static_cast<std::ptrdiff_t>(scanned_);
+  const auto last = buffer_.begin() + static_cast<std::ptrdiff_t>(end_);
+  const auto found = std::find(first, last, '\n');
+  scanned_ = static_cast<std::size_t>(found - buffer_.begin());
+  return found != last;
+}
+
+std::optional<std::string_view> LineReader::Next() {
+  while (!HasLine() && !atEnd_) {
+    DropExcess();
+    ReadMore();
+  }
+  if (begin_ == end_) return std::nullopt;
+  const std::string_view line(buffer_.data() + begin_, scanned_ - begin_);
+  // At the end of the input there may be no LF to step over.
+  begin_ = scanned_ = std::min(scanned_ + 1, end_);
+  return line;
+}
+
+/// Of a line that is too long already, only one byte over the limit is kept.
+void LineReader::DropExcess() noexcept {
+  const std::size_t kept = begin_ + longest_ + 1;
+  if (end_ > kept) scanned_ = end_ = kept;
+}
+
+void LineReader::ReadMore() {
+  if (begin_ > 0) {
+    std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
+    scanned_ -= begin_;
+    end_ -= begin_;
+    begin_ = 0;
+  }
+  if (buffer_.size() < end_ + kReadSize) buffer_.resize(std::max(2 * buffer_.size(), end_ + kReadSize));
+  const std::size_t count = ReadSome(descriptor_, buffer_.data() + end_);
+  end_ += count;
+  atEnd_ = count == 0;
+}
+
+void LineWriter::WriteLine(std::string_view line) {
+  constexpr std::size_t kPiece = std::size_t{1} << 16;
+  if (waiting_.size() + line.size() >= kPiece) Flush();
+  // A long line goes out as it is: it is not copied, and takes no memory here.
+  if (line.size() >= kPiece) {
+    WriteAll(descriptor_, line);
+    line = {};
+  }
+  waiting_ += line;
+  waiting_ += '\n';
+}
+
+void LineWriter::Flush() {
+  WriteAll(descriptor_, waiting_);
+  waiting_.clear();
+}
+
+}  // namespace amortix2::cli

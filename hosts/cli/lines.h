@@ -1,0 +1,56 @@
+#pragma once
+
+// Lines from and to file descriptors, in large pieces.
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace amortix2::cli {
+
+/// Writes all bytes. Raises std::system_error when that fails.
+void WriteAll(int descriptor, std::string_view bytes);
+
+/// Lines of bounded length whatever comes: what a line has beyond the limit is read over. A line ends in LF
+/// or at the end of the input.
+class LineReader {
+ public:
+  /// Lines of up to `longest` bytes are kept whole; of a longer one, the first `longest` + 1 bytes.
+  LineReader(int descriptor, std::size_t longest) : descriptor_(descriptor), longest_(longest) {}
+
+  /// True when the next line can be had without waiting for input.
+  bool HasLine() noexcept;
+
+  /// The next line without its LF, valid until the next call; nothing at the end. Raises std::system_error
+  /// when reading fails.
+  std::optional<std::string_view> Next();
+
+ private:
+  void ReadMore();
+  void DropExcess() noexcept;
+
+  int descriptor_;
+  std::size_t longest_;
+  std::vector<char> buffer_;
+  std::size_t begin_ = 0;    // of the line that comes next
+  std::size_t scanned_ = 0;  // no LF from begin_ up to here
+  std::size_t end_ = 0;      // of what has been read
+  bool atEnd_ = false;
+};
+
+class LineWriter {
+ public:
+  explicit LineWriter(int descriptor) : descriptor_(descriptor) {}
+
+  /// Both raise std::system_error when writing fails.
+  void WriteLine(std::string_view line);
+  void Flush();
+
+ private:
+  int descriptor_;
+  std::string waiting_;
+};
+
+}  // namespace amortix2::cli

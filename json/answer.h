@@ -1,0 +1,35 @@
+#pragma once
+
+// The door to the component for everything that speaks JSON: one request text in, one reply text out. A
+// reply is one JSON object on one line: {"id": ..., "results": {...}, "return": ..., "response": "<base64>"},
+// or {"id": ..., "error": {"number": ..., "name": ...}, "results": {...}}. A caller that has a request
+// already carries it out (execution.h) and asks for the reply alone. Nothing here reads or writes anything
+// but its arguments; any number of threads may ask at once.
+
+#include <string>
+#include <string_view>
+
+#include "amortix2/automation/date.h"
+#include "amortix2/json/variant_writer.h"
+
+namespace amortix2::json {
+
+class Execution;
+
+/// A text longer than this is no request.
+inline constexpr std::size_t kLongestRequest = std::size_t{16} << 20;
+
+/// The reply when there is no memory even for an error.
+inline constexpr std::string_view kNoMemoryReply = R"({"error":{"number":7,"name":"OutOfMemory"}})";
+
+struct Options {
+  Form form = Form::Plain;
+};
+
+/// Answers a request, whatever is in the text. An empty text stands for kNoMemoryReply.
+std::string Answer(std::string_view requestText, const Options& options, const Clock& clock) noexcept;
+
+/// The reply to a request that was carried out. A result that cannot be written makes it an error.
+std::string ReplyTo(const Execution& execution, const Options& options);
+
+}  // namespace amortix2::json

@@ -1,0 +1,249 @@
+// The executable as other programs run it.
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace amortix2::cli {
+namespace {
+
+constexpr const char* kLoan =
+    R"("call":"Calculator.SimpleLoanCalculator","args":{"vPurchaseAmt":200000,"vPeriod":360,"vIntRate":6.5}})";
+
+class Program : public ::testing::Test {
+ protected:
+  Program()
+      : folder_(std::filesystem::temp_directory_path() / ("amortix2_test_" + std::to_string(getpid()))) {
+    std::filesystem::create_directory(folder_);
+  }
+  ~Program() override { std::filesystem::remove_all(folder_); }
+
+  std::string Path(const char* name) const { return (folder_ / name).string(); }
+
+  std::string Read(const char* name) const {
+    std::ostringstream text;
+    text << std::ifstream(Path(name), std::ios::binary).rdbuf();
+    return text.str();
+  }
+
+  /// Runs the program by a shell line; its output and error text are the files "out" and "err".
+  int Run(const std::string& arguments, const std::string& input = "", const std::string& before = "") {
+    std::ofstream(Path("in"), std::ios::binary) << input;
+    const std::string line = before + " '" AMORTIX2_PROGRAM "' " + arguments + " <'" + Path("in") + "' >'" +
+                             Path("out") + "' 2>'" + Path("err") + "'";
+    return WEXITSTATUS(std::system(line.c_str()));
+  }
+
+  std::vector<std::string> Lines() const {
+    std::istringstream text(Read("out"));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);) lines.push_back(line);
+    return lines;
+  }
+
+ private:
+  std::filesystem::path folder_;
+};
+
+std::string MixedRequests(int count) {
+  static constexpr const char* kBad[] = {"", "{", "\"\xFF\"", "[[[[", "{\"call\":\"Calculator.None\"}"};
+  std::string input;
+  for (int i = 0; i < count; ++i) {
+    if (i % 10 == 9) {
+      input += kBad[i / 10 % 5];
+    } else {
+      input += "{\"id\":" + std::to_string(i) + "," + kLoan;
+    }
+    input += i % 3 == 0 ? " \t\r\n" : "\n";
+  }
+  return input;
+}
+
+TEST_F(Program, AnswersEveryLineInOrderAndInConstantMemory) {
+  const auto peak = [] {
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    return usage.ru_maxrss;
+  };
+  ASSERT_EQ(Run("batch", MixedRequests(500)), 0);
+  [[maybe_unused]] const long little = peak();
+  constexpr int kCount = 10000;
+  ASSERT_EQ(Run("batch", MixedRequests(kCount)), 0);
+#ifdef NDEBUG  // debug builds carry the sanitizers, which keep what is freed
+  EXPECT_LT(peak(), little + 4096);
+#endif
+  const auto lines = Lines();
+  ASSERT_EQ(lines.size(), std::size_t{kCount});
+  for (int i = 0; i < kCount; ++i) {
+    const std::string& line = lines[static_cast<std::size_t>(i)];
+    const std::string expected =
+        i % 10 == 9 ? R"({"error":{"number":)" : "{\"id\":" + std::to_string(i) + R"(,"results":{)";
+    ASSERT_TRUE(line.starts_with(expected)) << i << ": " << line.substr(0, 200);
+    ASSERT_TRUE(i % 10 == 9 || line.find("\"vResPayment\":1264.14,") != std::string::npos) << i;
+  }
+}
+
+TEST_F(Program, AnswersAsSoonAsNoCompleteLineWaits) {
+  int in[2];
+  int out[2];
+  ASSERT_EQ(pipe(in) + pipe(out), 0);
+  const pid_t child = fork();
+  if (child == 0) {
+    dup2(in[0], 0);
+    dup2(out[1], 1);
+    for (const int end : {in[0], in[1], out[0], out[1]}) close(end);
+    execl(AMORTIX2_PROGRAM, "amortix2", "batch", nullptr);
+    _exit(127);
+  }
+  close(in[0]);
+  close(out[1]);
+  const auto receive = [&] {
+    std::string line;
+    for (char c; read(out[0], &c, 1) == 1 && c != '\n';) line += c;
+    return line;
+  };
+  const auto send = [&](std::string_view text) {
+    ASSERT_EQ(write(in[1], text.data(), text.size()), std::ssize(text));
+  };
+  send("{}\n[]\n{\"id\"");
+  EXPECT_NE(receive().find("BadRequest"), std::string::npos);
+  EXPECT_NE(receive().find("BadRequest"), std::string::npos);
+  send(":1," + std::string(kLoan) + "\n");
+  EXPECT_TRUE(receive().starts_with("{\"id\":1,\"results\""));
+  // The last line needs no end.
+  send("{\"id\":2," + std::string(kLoan));
+  close(in[1]);
+  EXPECT_TRUE(receive().starts_with("{\"id\":2,\"results\""));
+  EXPECT_EQ(receive(), "");
+  close(out[0]);
+  int status = -1;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+}
+
+TEST_F(Program, ALineThatIsTooLongIsReadOver) {
+  const std::string longest = "{\"id\":1," + std::string(kLoan);
+  const std::size_t limit = std::size_t{16} << 20;
+  const std::string fits = longest + std::string(limit - longest.size(), ' ');
+  ASSERT_EQ(Run("batch", fits + "\n" + fits + "x\n" + std::string(3 * limit, '[') + "\n" + longest), 0);
+  const auto lines = Lines();
+  ASSERT_EQ(lines.size(), 4u);
+  for (const std::size_t good : {0u, 3u})
+    EXPECT_TRUE(lines[good].starts_with("{\"id\":1,\"results\"")) << good;
+  for (const std::size_t bad : {1u, 2u}) EXPECT_NE(lines[bad].find("longer"), std::string::npos) << bad;
+}
+
+TEST_F(Program, OutputThatCannotBeWrittenIsAFailureNotACrash) {
+  std::ofstream(Path("in"), std::ios::binary) << MixedRequests(1000);
+  const std::string batch = "'" AMORTIX2_PROGRAM "' batch <'" + Path("in") + "' 2>/dev/null ";
+  EXPECT_EQ(WEXITSTATUS(std::system((batch + ">/dev/full").c_str())), 3);
+  EXPECT_EQ(WEXITSTATUS(std::system((batch + ">&-").c_str())), 3);
+  const std::string piped = "( " + batch + "; echo $? >'" + Path("out") + "' ) | head -c 10 >/dev/null";
+  ASSERT_EQ(std::system(piped.c_str()), 0);
+  EXPECT_EQ(Read("out"), "3\n");
+}
+
+TEST_F(Program, ExitStatusesOutputsAndErrorLines) {
+  struct Case {
+    std::string arguments;
+    int status;
+    std::string output;  // the whole of it, or its beginning before "..."
+    std::string error;   // a part of it
+  };
+  const std::string chart =
+      R"(call BarChart.StackChart 'vColDat=[["",""],["a",1]]' 'Colgif=["",""]' 'Colleg=["",""]' 'Ttl=["","",""]')";
+  const Case cases[] = {
+      {"--version", 0, "amortix2 1.0.0\n", ""},
+      {"--help", 0, "Personal-finance calculators and charts from the command line.\n...", ""},
+      {"list", 0, "Calculator\n  ...", ""},
+      {"list --json", 0, R"({"classes":[{"name":"Calculator","title":"...)", ""},
+      {"list --json BarChart", 2, "", "excludes"},
+      {"list calculator.loaddetarray", 0, "Calculator.LoadDetArray\n  ...", ""},
+      {"list Calculator.Amorti", 2, "", "did you mean Amortix?"},
+      {"", 2, "", "subcommand"},
+      {"call", 2, "", "method is required"},
+      {"call Calculator.FixedPayment vPeriod", 2, "", "\"vPeriod\" is no NAME=VALUE"},
+      {"call Calculator.FixedPayment vPeriods=1", 2, "", "did you mean vPeriod?"},
+      {"call Calculator.FixedPayment 'vPeriod=[1'", 2, "", "\"[1\" is no JSON: byte 3 does not fit"},
+      {"call Calculator.FixedPayment \"vPeriod=$(printf '\\377')\"", 2, "", "a value is no UTF-8 text"},
+      {"call Calculator.FixedPayment vPeriod=1e400", 2, "", "beyond the range of doubles"},
+      {"call Calculator.FixedPayment --today 2001-02-29", 2, "", "\"2001-02-29\" is no date"},
+      {"call Calculator.FixedPayment vPurchaseAmt=1 --out x", 2, "...", "nothing was sent"},
+      {"call Calculator.LoadDetArray atCol=40000", 1, "", "amortix2: 6 Overflow\n"},
+      {"call BarChart.MakeChart --with NegativeBars=1 YLabelMode=11 vColDat=5", 1, "",
+       "amortix2: 9 Subscript"},
+      {"call BarChart.MakeChart --with NegativeBars=1 YLabel=11", 2, "", "no argument"},
+      {"call --types BarChart.MakeChart vColDat=2001-01-31 blnk=2001-02-31 Colgif= Colleg='\"5\"' "
+       "Ttl='$1,000' "
+       "Xaxis=null Yaxis=6.5 'vRes={\"type\":\"Byte\",\"value\":1}' --with YLabelMode='\"x\"'",
+       1,
+       R"({"error":{"number":9,"name":"SubscriptOutOfRange"},"results":{"vColDat":{"type":"Date","value":"2001-01-31"},)"
+       R"("blnk":{"type":"String","value":"2001-02-31"},"Colgif":{"type":"String","value":""},)"
+       R"("Colleg":{"type":"String","value":"5"},"Ttl":{"type":"String","value":"$1,000"},)"
+       R"("Xaxis":{"type":"Null","value":null},"Yaxis":{"type":"Double","value":6.5},)"
+       R"("vRes":{"type":"Byte","value":1}}})"
+       "\n",
+       "9 SubscriptOutOfRange"},
+      // Chart lines are text; what the caller gave and nobody changed is not repeated.
+      {chart, 0, "vRes: ...", ""},
+      // 1000 at 6.5/12 % a month: 5.42 and 2.72 of interest, so two payments of 504.07.
+      {"call Calculator.SimpleLoanCalculator vPurchaseAmt=1000 vPeriod=2 vIntRate=6.5 --today 2001-01-31", 0,
+       R"(vResPurchaseAmt  1000.00  Amount
+vResPayment       504.07  Monthly payment (currency a month)
+vResPeriod             2  Term (months)
+vResIntRate          6.5  Interest rate (annual percent)
+vTotPay          1008.14  Total of payments
+vTotInt             8.14  Total interest
+
+vDetArray: Schedule (rows 0 to 2, columns 0 to 5)
+   1                2       3     4        5
+0  01-31-2001    0.00    0.00  0.00  1000.00
+1  02-28-2001  504.07  498.65  5.42   501.35
+2  03-31-2001  504.07  501.35  2.72     0.00
+)",
+       ""},
+      {"batch", 0, "", ""},
+      {"batch extra", 2, "", "extra"},
+  };
+  for (const Case& row : cases) {
+    EXPECT_EQ(Run(row.arguments), row.status) << row.arguments << Read("err");
+    const std::size_t end = row.output.find("...");
+    const std::string output = Read("out");
+    EXPECT_EQ(output.substr(0, end), row.output.substr(0, end)) << row.arguments;
+    EXPECT_NE(Read("err").find(row.error), std::string::npos) << row.arguments << Read("err");
+  }
+}
+
+TEST_F(Program, AnswersAreTheSameUnderAnyLocaleAndTimeZone) {
+  const std::string call =
+      "call --json Calculator.SimpleLoanCalculator vPurchaseAmt=1234.5 vPeriod=5 vIntRate=6.5 --today "
+      "2001-01-31";
+  ASSERT_EQ(Run(call), 0);
+  const std::string here = Read("out");
+  ASSERT_EQ(Run(call, "", "TZ=Pacific/Kiritimati LC_ALL=de_DE.UTF-8"), 0);
+  EXPECT_EQ(Read("out"), here);
+  EXPECT_NE(here.find("02-28-2001"), std::string::npos);
+}
+
+TEST_F(Program, OutKeepsTheOldFileUntilTheNewOneIsComplete) {
+  std::string palette = "[[0,0,0]";
+  for (int i = 1; i < 256; ++i) palette += ",[0,0,0]";
+  const std::string call = "call GifChart.LineChart 'vColDat=[[0,0],[0,1],[0,2]]' 'vPal=" + palette +
+                           "]' --out '" + Path("image") + "'";
+  ASSERT_EQ(Run(call), 0) << Read("err");
+  const std::string image = Read("image");
+  EXPECT_TRUE(image.starts_with("GIF87a") && image.ends_with(";"));
+  EXPECT_EQ(Run(call + " nonsense=1"), 2);
+  EXPECT_EQ(Read("image"), image);
+  EXPECT_EQ(Run(call + "/none"), 1);
+  EXPECT_NE(Read("err").find("PathNotFound"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace amortix2::cli

@@ -1,0 +1,156 @@
+// Whole answers, row by row: values.txt has values and why others are none, replies.txt requests and their
+// replies.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <fstream>
+#include <set>
+
+#include "amortix2/json/answer.h"
+#include "amortix2/json/description_json.h"
+#include "amortix2/json/json_text.h"
+#include "amortix2/json/request_error.h"
+#include "amortix2/json/variant_reader.h"
+#include "json/random_values.h"
+
+namespace amortix2::json {
+namespace {
+
+/// The lines of a file of rows that are no comments, each split at " | ".
+std::vector<std::vector<std::string>> Rows(const std::string& name) {
+  std::ifstream file(AMORTIX2_JSON_ROWS + name);
+  std::vector<std::vector<std::string>> rows;
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with('#')) continue;
+    auto& row = rows.emplace_back();
+    for (std::size_t end; (end = line.find(" | ")) != std::string::npos; line.erase(0, end + 3)) {
+      row.push_back(line.substr(0, end));
+    }
+    row.push_back(line);
+  }
+  return rows;
+}
+
+/// A value, or why it is none.
+std::pair<Variant, std::string> Read(std::string_view text) {
+  try {
+    const auto [tree, badByte] = ParseTree(text);
+    if (!tree) return {{}, "no JSON: byte " + std::to_string(badByte)};
+    return {ToVariant(*tree), ""};
+  } catch (const RequestError& error) {
+    return {{}, error.what()};
+  }
+}
+
+std::string Written(const Variant& value, Form form) {
+  std::string out;
+  AppendVariant(out, value, form);
+  return out;
+}
+
+TEST(Json, ValuesAreReadAndWrittenBothWays) {
+  const auto rows = Rows("values.txt");
+  ASSERT_GT(rows.size(), 80u);
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row[0]);
+    const auto [value, reason] = Read(row[0]);
+    if (row.size() == 2) {
+      EXPECT_EQ(reason, row[1]);
+      continue;
+    }
+    EXPECT_EQ(reason, "");
+    EXPECT_EQ(Written(value, Form::Plain), row[1]);
+    EXPECT_EQ(Written(value, Form::WithTypes), row[2]);
+    EXPECT_EQ(Read(row[2]).first, value);
+  }
+}
+
+TEST(Json, EveryVariantComesBackAsItWas) {
+  testing::RandomValues random(20010131);
+  for (int i = 0; i < 20000; ++i) {
+    const Variant value = random.Any(3);
+    const std::string typed = Written(value, Form::WithTypes);
+    ASSERT_EQ(Read(typed).first, value) << typed;
+    ASSERT_EQ(Read(Written(value, Form::Plain)).second, "");
+  }
+}
+
+TEST(Json, NumbersAreShortAndNeverInfinite) {
+  testing::RandomValues random(7);
+  for (int i = 0; i < 20000; ++i) {
+    const double value = random.Number() / 3;
+    std::string text;
+    AppendNumber(text, value);
+    EXPECT_EQ(std::strtod(text.c_str(), nullptr), value) << text;
+    // Seventeen digits always suffice; a sign, a point and an exponent come on top.
+    EXPECT_LE(text.size(), 24u) << text;
+  }
+  std::string out;
+  EXPECT_THROW(AppendNumber(out, HUGE_VAL), AutomationError);
+  EXPECT_THROW(AppendNumber(out, std::nan("")), AutomationError);
+}
+
+TEST(Json, BytesThatAreNoUtf8) {
+  EXPECT_EQ(Written(std::string_view("a\xFFz"), Form::Plain), "\"a\xEF\xBF\xBDz\"");
+  EXPECT_EQ(Read("\"\xC3\x28\"").second, "no JSON: byte 3");
+  EXPECT_EQ(Read(std::string_view("1\0", 2)).second, "no JSON: byte 2");
+}
+
+TEST(Json, DepthIsBounded) {
+  for (const std::size_t depth : {kDeepest, kDeepest + 1, std::size_t{1'000'000}}) {
+    const auto reason = Read(std::string(depth, '[') + std::string(depth, ']')).second;
+    EXPECT_EQ(reason, depth == kDeepest ? "" : "JSON nested deeper than 64 levels");
+  }
+}
+
+TEST(Json, RequestsGetTheirReplies) {
+  const FixedClock clock(MakeDate(2001, 1, 31));
+  const auto rows = Rows("replies.txt");
+  ASSERT_GE(rows.size(), 40u);
+  for (const auto& row : rows) {
+    EXPECT_EQ(Answer(row[0], {}, clock), row[1]) << row[0];
+    EXPECT_EQ(Answer(row[0], {Form::WithTypes}, clock), row.back()) << row[0];
+  }
+}
+
+TEST(Json, WhatAnAmortizationReturnsCanBeGivenAgain) {
+  const FixedClock clock(MakeDate(2001, 1, 31));
+  const auto solved = [&](const std::string& loans) {
+    const std::string reply = Answer(
+        R"({"call":"Calculator.Amortix","args":{"AmortixType":4,"LoanArray":)" + loans + "}}", {}, clock);
+    return ParseTree(reply).tree->at("results").at("LoanArray").dump();
+  };
+  const std::string loans =
+      R"([{},{"typ":101,"startDate":"2001-01-31","startingBalance":200000,"period":360,"intRate":6.5}])";
+  const std::string first = solved(R"({"lower":[0],"values":)" + loans + "}");
+  EXPECT_TRUE(first.starts_with(R"({"lower":[0],"values":[{)")) << first.substr(0, 100);
+  EXPECT_EQ(solved(first), first);
+}
+
+TEST(Json, TheDescriptionIsCompleteAndNamesOnlyTypesThatItDescribes) {
+  const auto description = nlohmann::json::parse(DescriptionJson());
+  std::set<std::string> types{"Variant", "Double", "Byte", "Integer",
+                              "Long",    "String", "Date", "page context"};
+  for (const char* list : {"records", "enumerations"}) {
+    for (const auto& type : description.at(list)) types.insert(type.at("name"));
+  }
+  EXPECT_EQ(types.size(), 8 + Records().size() + Enumerations().size());
+  const auto known = [&](const std::string& type) {
+    return types.contains(type.starts_with("array of ") ? type.substr(9) : type);
+  };
+  ASSERT_EQ(description.at("classes").size(), Classes().size());
+  for (std::size_t i = 0; i < Classes().size(); ++i) {
+    const auto& members = description.at("classes")[i].at("members");
+    ASSERT_EQ(members.size(), Classes()[i]->members.size());
+    for (const auto& member : members) {
+      for (const auto& parameter : member.at("parameters")) {
+        EXPECT_TRUE(known(parameter.at("type"))) << parameter;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace amortix2::json
