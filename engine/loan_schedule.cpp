@@ -129,23 +129,23 @@ class MonthlyLines {
   const double homeGrowthAYear = 1 + qualification.homeValueGrowthRate / 100;
   double discount = 1;
   double homeGrowth = 1;
-  double balance = 0;
   CostTotals totals(qualification);
-  for (int month = 0; month <= layout.last; ++month) {
-    const tSchedule& line = loan.schedule[static_cast<std::size_t>(month)];
-    if (month > horizon) {
-      CostTotals::PassOver(line);
-      continue;
-    }
-    totals.AddLine(line, discount);
-    if (month > 0) totals.AddCharges(discount, homeGrowth);
+  const tSchedule* line = loan.schedule.data();
+  const tSchedule* const soldWith = line + horizon;
+  totals.AddLine(*line, discount);
+  for (int monthOfYear = 1; line != soldWith; ++monthOfYear) {
     discount *= discountGrowth;
-    if (month > 0 && month % 12 == 0) homeGrowth *= homeGrowthAYear;
-    balance = line.endingBalance;
+    totals.AddLine(*++line, discount);
+    totals.AddCharges(discount, homeGrowth);
+    if (monthOfYear == 12) {
+      homeGrowth *= homeGrowthAYear;
+      monthOfYear = 0;
+    }
   }
+  for (int month = horizon; month < layout.last; ++month) CostTotals::PassOver(*++line);
   CostTotals sold = totals;  // a copy, so that the sums of the loop stay in registers
   if (loan.typ == loanAsLease) sold.AddInterest(loan.schedule.back());
-  sold.Sell(loan, balance, homeGrowth, discountGrowth, discount);
+  sold.Sell(loan, soldWith->endingBalance, homeGrowth, discountGrowth, discount * discountGrowth);
   sold.Store(loan);
 }
 

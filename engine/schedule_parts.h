@@ -42,6 +42,8 @@ class CostTotals {
         propertyTax_(qualification.propertyTaxCharge),
         charges_(qualification.insuranceCharge + qualification.associationDues +
                  qualification.otherMonthlyLoanCharge),
+        hasCharges_(charges_ != 0 || propertyTax_ != 0),
+        isMoneyGrowing_(qualification.investmentGrowthRate != 0),
         costPV_(downPayment_) {}
 
   /// A line's own amounts, discounted by `discount`.
@@ -58,6 +60,7 @@ class CostTotals {
 
   /// The home's charges of `months` months, the property tax grown by `homeGrowth`.
   void AddCharges(double discount, double homeGrowth, double months = 1) {
+    if (!hasCharges_) return;
     if (charges_ != 0) costPV_ += Discounted(months * charges_, discount);
     if (propertyTax_ != 0) {
       costPV_ += Discounted(months * RoundToCents(homeGrowth * propertyTax_), discount);
@@ -80,13 +83,15 @@ class CostTotals {
 
  private:
   /// Where money does not grow, a division a line is saved.
-  static double Discounted(double amount, double discount) {
-    return discount == 1 ? amount : Divide(amount, discount);
+  double Discounted(double amount, double discount) const {
+    return isMoneyGrowing_ ? Divide(amount, discount) : amount;
   }
 
   double downPayment_;
   double propertyTax_;
   double charges_;
+  bool hasCharges_;
+  bool isMoneyGrowing_;
   double costPV_;
   double interest_ = 0;
   double taxCredited_ = 0;
