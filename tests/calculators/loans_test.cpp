@@ -1,19 +1,20 @@
+#include <algorithm>
 #include <cmath>
 
 #include "amortix2/engine/payment_factors.h"
-#include "amortix2/engine/rounding.h"
 #include "calculators/ask.h"
 
 namespace amortix2 {
 namespace {
 
+constexpr const char* kSimpleLoan = "SimpleLoanCalculator";
+
 TEST(SimpleLoan, FindsTheQuantityLeftAtZero) {
-  struct Row {
+  const struct {
     double amount, payment, months, rate;
     std::string_view found;
     double value;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {100000, 0, 360, 6, "vResPayment", 599.55},
       {100000, 599.55, 360, 6, "vResPayment", 599.55},
       {100000, 7, 360, 6, "vResPayment", 599.55},
@@ -27,84 +28,67 @@ TEST(SimpleLoan, FindsTheQuantityLeftAtZero) {
       {0, 500, 0, 6, "vResPayment", 500},
       {100000, 0, 0, 6, "vResPayment", 0},
   };
-  for (const Row& row : rows) {
-    const Answer answer = Ask("SimpleLoanCalculator", {{"vPurchaseAmt", row.amount},
-                                                       {"vPayment", row.payment},
-                                                       {"vPeriod", row.months},
-                                                       {"vIntRate", row.rate}});
+  for (const auto& row : rows) {
+    const Answer answer = Ask(kSimpleLoan, {"", row.amount, row.payment, row.months, row.rate});
     EXPECT_EQ(answer.error, ErrorNumber{});
-    EXPECT_NEAR(answer.Number(row.found), row.value, 0.005)
-        << row.amount << ' ' << row.payment << ' ' << row.months;
+    EXPECT_NEAR(answer.Number(row.found), row.value, 0.005) << &row - rows;
   }
 }
 
 TEST(SimpleLoan, EchoesTheInputsUntilTheEngineHasAnswered) {
   for (const double rate : {6.0, -1200.0}) {  // nothing to find; an impossible growth
-    const Answer answer =
-        Ask("SimpleLoanCalculator",
-            {{"vPurchaseAmt", rate == 6 ? 0.0 : 1000.0}, {"vPeriod", "2.5"}, {"vIntRate", rate}});
+    const Answer answer = Ask(kSimpleLoan, {"", rate == 6 ? 0.0 : 1000.0, 0, "2.5", rate});
     EXPECT_EQ(answer.error, rate == 6 ? ErrorNumber{} : ErrorNumber::DivisionByZero);
     EXPECT_EQ(answer["vResPeriod"], Variant(2.5));
     EXPECT_EQ(answer["vTotPay"], Variant(std::int16_t{0}));
-    EXPECT_EQ(answer.Table("vDetArray").Dimension(1), (Bounds{0, 2}));  // halves to even
+    EXPECT_EQ(answer.LastRow("vDetArray"), 2);  // halves to even
     EXPECT_EQ(answer.Table("vDetArray").At(1, 1), Variant());
   }
   // Nothing at all is written when even the empty table cannot be made.
-  const Answer huge = Ask("SimpleLoanCalculator", {{"vPurchaseAmt", 1.0}, {"vPeriod", 1e8}});
+  const Answer huge = Ask(kSimpleLoan, {"", 1.0, 0, 1e8});
   EXPECT_EQ(huge.error, ErrorNumber::OutOfMemory);
   EXPECT_EQ(huge["vResPurchaseAmt"], Variant());
 }
 
 TEST(SimpleLoan, OnlyALoneLetterIsACreditCard) {
   const auto payment = [](const Variant& type) {
-    return Ask("SimpleLoanCalculator",
-               {{"vLoanType", type}, {"vPurchaseAmt", 5000}, {"vPeriod", 24}, {"vIntRate", 18}})
-        .Number("vResPayment");
+    return Ask(kSimpleLoan, {type, 5000, 0, 24, 18}).Number("vResPayment");
   };
   EXPECT_EQ(payment("C"), payment("c"));
   EXPECT_NE(payment("C"), payment("credit"));
-  for (const Variant& type : {Variant(), Variant(kNull), Variant(" C"), Variant(67)}) {
+  for (const Variant& type : {Variant(), Variant(kNull), Variant(" C"), Variant(67)})
     EXPECT_EQ(payment(type), payment("credit"));
-  }
 }
 
 TEST(FixedPayment, StartsAMonthBeforeTheFirstPayment) {
-  struct Row {
+  const struct {
     Variant payDate, closeDate;
     std::string_view opening;
     double interim;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {"1/15/2001", "12/1/2000", "12-01-2000", 14 * 80000 * 9 / 36000.0},
       {"3/31/2001", Variant(), "03-03-2001", 0},
       {"3/31/2000", Variant(), "03-02-2000", 0},
       {Variant(), MakeDate(2001, 1, 21), "01-21-2001", 10 * 80000 * 9 / 36000.0},
       {36000, "soon", "01-31-2001", 0},  // neither is a date
   };
-  for (const Row& row : rows) {
-    const Answer answer = Ask("FixedPayment", {{"vLoanType", "C"},
-                                               {"vPurchaseAmt", 100000},
-                                               {"vDownPayment", 20000},
-                                               {"vPeriod", 360},
-                                               {"vIntRate", 9},
-                                               {"vPayDate", row.payDate},
-                                               {"vCloseDate", row.closeDate}});
+  for (const auto& row : rows) {
+    const Answer answer = Ask("FixedPayment", {"C", 100000, 20000, 360, 9, row.closeDate, row.payDate});
     EXPECT_EQ(answer["vResPurchaseAmt"], Variant(80000.0));
     EXPECT_NEAR(answer.Number("vResPayment"), 643.70, 0.001);
     EXPECT_EQ(answer.Table("vDetArray").At(0, 1), Variant(row.opening));
     EXPECT_NEAR(answer.Cell("vDetArray", 0, 4), row.interim, 1e-9);
   }
-  const Answer late = Ask("FixedPayment", {{"vPurchaseAmt", 1}, {"vPeriod", 1}, {"vCloseDate", "1/1/1900"}});
+  const Answer late = Ask("FixedPayment", {"", 1, 0, 1, 0, "1/1/1900"});
   EXPECT_EQ(late.error, ErrorNumber::Overflow);
   EXPECT_EQ(late["vResPurchaseAmt"], Variant(1.0));
 }
 
 TEST(AdjustablePayment, RaisesThePaymentWithTheRate) {
-  std::map<std::string_view, Variant> inputs{
-      {"vPurchaseAmt", 120000}, {"vDownPayment", 20000}, {"vPeriod", 360},
-      {"vIntRate", 6},          {"vRateCap", 9},         {"vRateInc1", 2},
-      {"vRateInc2", 0.5},       {"vIncDelay1", 12},      {"vIncDelay2", 6}};
-  const Answer answer = Ask("AdjustablePayment", inputs);
+  const auto ask = [](double down) {
+    return Ask("AdjustablePayment", {"", 120000, down, 360, 6, Variant(), Variant(), 9, 2, 0.5, 12, 6});
+  };
+  const Answer answer = ask(20000);
   EXPECT_EQ(answer.Number("vResPayment"), 599.55);
   EXPECT_EQ(answer.Table("vDetArray").Dimension(2).upper, 5);
   double balance = 100000;
@@ -114,25 +98,19 @@ TEST(AdjustablePayment, RaisesThePaymentWithTheRate) {
     EXPECT_NEAR(answer.Cell("vDetArray", k, 4), balance * rate / 1200, 0.00501) << k;
     balance = answer.Cell("vDetArray", k, 5);
   }
-  inputs["vDownPayment"] = 120000;
-  EXPECT_EQ(Ask("AdjustablePayment", inputs).Table("vDetArray").Dimension(2).upper, 6);
+  EXPECT_EQ(ask(120000).Table("vDetArray").Dimension(2).upper, 6);
 }
 
 TEST(BalloonLoan, SettlesTheBalanceThatAnIndependentLoopReaches) {
   const auto ask = [](double term, double after) {
-    return Ask("BalloonLoanPaymentCalculator", {{"vPurchaseAmt", 110000},
-                                                {"vDownPayment", 10000},
-                                                {"vStartDate", "2001-01-31"},
-                                                {"vPeriod", term},
-                                                {"vBalloonAtPeriod", after},
-                                                {"vIntRate", 6}});
+    return Ask("BalloonLoanPaymentCalculator", {110000, 10000, "2001-01-31", term, after, 6});
   };
   double balance = 100000;
   for (int k = 1; k <= 60; ++k) balance = std::round(balance * 1.005 * 100) / 100 - 599.55;
   const Answer answer = ask(360, 60);
   const double settled = std::round(balance * 1.005 * 100) / 100;
   EXPECT_NEAR(answer.Number("vBalloonPayment"), settled, 1e-6);
-  EXPECT_EQ(answer.Table("vDetArray").Dimension(1).upper, 61);
+  EXPECT_EQ(answer.LastRow("vDetArray"), 61);
   EXPECT_NEAR(answer.Cell("vDetArray", 61, 2), settled, 1e-6);
   EXPECT_NEAR(answer.Cell("vDetArray", 61, 3), balance, 1e-6);
   EXPECT_EQ(answer.Table("vDetArray").At(61, 5), Variant(std::int16_t{0}));
@@ -141,19 +119,18 @@ TEST(BalloonLoan, SettlesTheBalanceThatAnIndependentLoopReaches) {
 
   const Answer past = ask(24, 30);
   EXPECT_EQ(past.Number("vBalloonPayment"), 0);
-  EXPECT_EQ(past.Table("vDetArray").Dimension(1).upper, 24);
+  EXPECT_EQ(past.LastRow("vDetArray"), 24);
   EXPECT_EQ(past.Cell("vDetArray", 24, 2), 0);
   EXPECT_EQ(ask(0, 60).error, ErrorNumber::DivisionByZero);
   EXPECT_EQ(ask(24, -2).error, ErrorNumber::SubscriptOutOfRange);
 }
 
 TEST(MonthlyLease, ChoosesWhatToFind) {
-  struct Row {
+  const struct {
     double residual, principal, payment, rate;
     std::string_view found;
     double low, high;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {0, 20000, 400, 6, "vResEndingBal", 8199.1, 8199.2},
       {8000, 20000, 400, 0, "vResIntRate", 5.581, 5.581},
       {8000, 20000, 400, 6, "vResPayment", 405, 405.1},
@@ -163,66 +140,46 @@ TEST(MonthlyLease, ChoosesWhatToFind) {
       {0, 0, 400, 6, "vResEndingBal", 0, 0},
       {0, 20000, 0, 6, "vResPrincipal", 0, 0},
   };
-  for (const Row& row : rows) {
-    const Answer answer = Ask("MonthlyLeaseCalculator", {{"vPrincipal", row.principal},
-                                                         {"vPayment", row.payment},
-                                                         {"vPeriod", 36},
-                                                         {"vIntRate", row.rate},
-                                                         {"vEndingBal", row.residual}});
+  const auto ask = [](double principal, double payment, double months, double rate, double prepays,
+                      double residual) {
+    return Ask("MonthlyLeaseCalculator", {"", principal, payment, months, rate, prepays, residual});
+  };
+  for (const auto& row : rows) {
+    const Answer answer = ask(row.principal, row.payment, 36, row.rate, 0, row.residual);
     EXPECT_GE(answer.Number(row.found), row.low) << row.found;
     EXPECT_LE(answer.Number(row.found), row.high) << row.found;
   }
-  const Answer cut = Ask("MonthlyLeaseCalculator",
-                         {{"vPrincipal", 900}, {"vPayment", 100}, {"vPeriod", 3}, {"vPrepays", 5}});
+  const Answer cut = ask(900, 100, 3, 0, 5, 0);
   EXPECT_EQ(cut["vResPrepays"], Variant(std::int16_t{3}));
   EXPECT_EQ(cut.Number("vResEndingBal"), 600);
   // What is not solved is not converted either.
-  EXPECT_EQ(Ask("MonthlyLeaseCalculator", {{"vPeriod", 1e6}, {"vPrepays", 1e6}}).error, ErrorNumber{});
-  EXPECT_EQ(
-      Ask("MonthlyLeaseCalculator", {{"vPrincipal", 900}, {"vPayment", 100}, {"vPeriod", 0.5}})["vResPeriod"],
-      Variant(1.0));
+  EXPECT_EQ(ask(0, 0, 1e6, 0, 1e6, 0).error, ErrorNumber{});
+  EXPECT_EQ(ask(900, 100, 0.5, 0, 0, 0)["vResPeriod"], Variant(1.0));
 }
 
 TEST(SimpleLease, RestatesTheRateForEachPairOfFrequencies) {
-  struct Row {
+  const struct {
     int pay, interest;
     double periodsOfInterest, growths;  // interest periods a year, and how many of them in a payment period
-  };
-  const Row rows[] = {
+  } rows[] = {
       {2, 1, 365, 7}, {2, 4, 52, 1}, {3, 2, 52, 2}, {3, 4, 26, 1}, {4, 4, 12, 1}, {4, 1, 365, 30},
       {4, 8, 1, 0},   {5, 4, 12, 2}, {5, 6, 6, 1},  {6, 4, 12, 3}, {6, 5, 4, 1},  {7, 5, 6, 3},
       {7, 6, 4, 2},   {7, 8, 2, 1},  {8, 7, 2, 2},  {8, 3, 1, 1},  {1, 4, 12, 0},
   };
-  for (const Row& row : rows) {
-    const Answer answer = Ask("SimpleLeaseCalculator", {{"vPrincipal", 20000},
-                                                        {"vPeriod", 12},
-                                                        {"vIntRate", 6},
-                                                        {"vEndingBal", 8000},
-                                                        {"vPayMode", row.pay},
-                                                        {"vIntMode", row.interest}});
+  for (const auto& row : rows) {
+    const Answer answer =
+        Ask("SimpleLeaseCalculator", {"", 20000, 0, 12, 6, 0, 8000, Variant(), row.pay, row.interest});
     const double rate = 1200 * (std::pow(1 + 0.06 / row.periodsOfInterest, row.growths) - 1);
     EXPECT_NEAR(answer.Number("vResIntRate"), rate, 1e-9) << row.pay << ' ' << row.interest;
   }
-  const Answer quarterly = Ask("SimpleLeaseCalculator", {{"vPrincipal", 20000},
-                                                         {"vPayment", 900},
-                                                         {"vPeriod", 4},
-                                                         {"vIntRate", 6},
-                                                         {"vPrepays", 1},
-                                                         {"vPayMode", 6},
-                                                         {"vIntMode", 4}});
+  const Answer quarterly = Ask("SimpleLeaseCalculator", {"", 20000, 900, 4, 6, 1, 0, Variant(), 6, 4});
   const char* dates[] = {"01-31-2001", "01-31-2001", "04-30-2001", "07-31-2001", "10-31-2001", "01-31-2002"};
   for (int row = 0; row < 6; ++row)
     EXPECT_EQ(quarterly.Table("vDetArr").At(row, 1), Variant(dates[row])) << row;
 }
 
 TEST(Mortgages, SpendExactlyTheBudget) {
-  const Answer budget = Ask("HomeAffordabilityCalculator", {{"vPayment", 1500},
-                                                            {"vPropertyTax", 1.2},
-                                                            {"vInsurance", 50},
-                                                            {"vDues", 25},
-                                                            {"vDownPayment", 40000},
-                                                            {"vPeriod", 360},
-                                                            {"vIntRate", 7}});
+  const Answer budget = Ask("HomeAffordabilityCalculator", {1500, 1.2, 50, 25, 40000, 360, 7});
   const double principal = budget.Number("vNewPrincipal");
   EXPECT_NEAR(budget.Number("vNewPayment"), principal / AnnuityFactor(1 + 7.0 / 1200, 360), 0.00501);
   EXPECT_NEAR(budget.Number("vNewTaxes"), (principal + 40000) * 0.001, 0.00501);
@@ -230,37 +187,29 @@ TEST(Mortgages, SpendExactlyTheBudget) {
   EXPECT_NEAR(budget.Number("vNewPayment") + budget.Number("vNewTaxes") + 75, 1500, 0.02);
 
   // 36 % of income less debts binds: 0.36 * (5000 - 2000) = 1080.
-  const Answer qualified = Ask("MortgageQualificationCalculator", {{"vAnnualIncome", "60,000"},
-                                                                   {"vCreditCard", 1200},
-                                                                   {"vOtherMonthly", 800},
-                                                                   {"vPeriod", 180},
-                                                                   {"vIntRate", 6}});
+  const Answer qualified =
+      Ask("MortgageQualificationCalculator", {"60,000", 1200, 0, 0, 800, 0, 0, 0, 0, 180, 6});
   EXPECT_NEAR(qualified.Number("vNewPayment"), 1080, 0.01);
-  EXPECT_EQ(Ask("HomeAffordabilityCalculator", {{"vPayment", 1500}}).error, ErrorNumber::DivisionByZero);
+  EXPECT_EQ(Ask("HomeAffordabilityCalculator", {1500}).error, ErrorNumber::DivisionByZero);
 }
 
 TEST(PaymentGrid, IsCentredOnTheQuestion) {
-  const std::map<std::string_view, Variant> inputs{
-      {"vPrincipal", 120000}, {"vDownPayment", 20000}, {"vIntRate", 7}, {"vPeriod", 360},
-      {"vDownChange", 1000},  {"vRateChange", 0.5},    {"vStepX", 2},   {"vStepY", 1}};
-  const Answer answer = Ask("PaymentGridCalculator", inputs);
+  const auto ask = [](double stepsX) {
+    return Ask("PaymentGridCalculator", {120000, 20000, 7, 360, 1000, 0.5, stepsX, 1});
+  };
+  const Answer answer = ask(2);
   const Array& grid = answer.Table("vGrid");
   EXPECT_EQ(grid.Dimension(1), (Bounds{0, 5}));
   EXPECT_EQ(grid.Dimension(2), (Bounds{0, 3}));
   for (int i = 1; i <= 5; ++i) {
     for (int j = 1; j <= 3; ++j) {
-      const Answer loan =
-          Ask("SimpleLoanCalculator",
-              {{"vPurchaseAmt", 120000.0 - 18000 - j * 1000}, {"vPeriod", 360}, {"vIntRate", 5.5 + i * 0.5}});
+      const Answer loan = Ask(kSimpleLoan, {"", 120000.0 - 18000 - j * 1000, 0, 360, 5.5 + i * 0.5});
       EXPECT_EQ(grid.At(i, j), loan["vResPayment"]) << i << ' ' << j;
     }
   }
-  for (const auto& [name, value] : inputs) EXPECT_EQ(answer[name], value) << name;
-  auto halves = inputs;
-  halves["vStepX"] = 1.5;
-  EXPECT_EQ(Ask("PaymentGridCalculator", halves).Table("vGrid").Dimension(1).upper, 4);
-  halves["vStepX"] = 20000;
-  EXPECT_EQ(Ask("PaymentGridCalculator", halves).error, ErrorNumber::Overflow);
+  EXPECT_EQ(answer["vPrincipal"], Variant(120000));
+  EXPECT_EQ(ask(1.5).LastRow("vGrid"), 4);
+  EXPECT_EQ(ask(20000).error, ErrorNumber::Overflow);
 }
 
 }  // namespace
