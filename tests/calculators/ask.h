@@ -1,9 +1,12 @@
 #pragma once
 
-// Asks a calculator by name, as every host does: inputs in the method's order, all results out.
+// Asks a calculator by name, as every host does: inputs in the method's order or by name, all results out.
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <stdexcept>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,9 +16,7 @@
 
 namespace amortix2 {
 
-struct FixedClock : Clock {
-  Date Today() const override { return MakeDate(2001, 1, 31); }
-};
+inline const Date kToday = MakeDate(2001, 1, 31);
 
 struct Answer {
   const MemberInfo* member;
@@ -31,11 +32,17 @@ struct Answer {
   double Cell(std::string_view name, int row, int column) const {
     return Table(name).At(row, column).GetDouble();
   }
+  /// Whether every by-reference argument is as it was, Empty.
+  bool LeftResults() const {
+    for (std::size_t i = 0; i < values.size(); ++i)
+      if (member->parameters[i].byReference && values[i].Type() != VariantType::Empty) return false;
+    return true;
+  }
 };
 
 /// Inputs that are left out at the end are Empty.
 inline Answer Ask(std::string_view method, const std::vector<Variant>& inputs) {
-  static const FixedClock clock;
+  const FixedClock clock(kToday);
   Object calculator(*FindClass("Calculator"), clock);
   Answer answer{FindMember(calculator.Class(), method)};
   Invocation call(*answer.member);
@@ -49,6 +56,18 @@ inline Answer Ask(std::string_view method, const std::vector<Variant>& inputs) {
   for (const Value& value : call.Arguments())
     answer.values.push_back(*static_cast<const Variant*>(value.Get()));
   return answer;
+}
+
+/// Inputs by name; the others are Empty.
+inline Answer Ask(std::string_view method, const std::map<std::string_view, Variant>& inputs) {
+  const MemberInfo& member = *FindMember(*FindClass("Calculator"), method);
+  std::vector<Variant> values(member.parameters.size());
+  for (const auto& [name, value] : inputs) {
+    const ParameterInfo* parameter = FindParameter(member, name);
+    if (parameter == nullptr) throw std::invalid_argument(std::string(name));
+    values[static_cast<std::size_t>(parameter - member.parameters.data())] = value;
+  }
+  return Ask(method, values);
 }
 
 }  // namespace amortix2

@@ -136,7 +136,7 @@ TEST(Consolidation, EdgesOfItsLists) {
   for (const auto& [changes, error] : bad) {
     const Answer answer = Consolidate(changes);
     EXPECT_EQ(answer.error, error);
-    for (const auto& [name, value] : answer.results) EXPECT_EQ(value, Variant()) << name;
+    EXPECT_TRUE(answer.LeftResults());
   }
 }
 
@@ -252,7 +252,7 @@ TEST(RentOrBuy, FiguresHangTogether) {
   for (const auto& [changes, error] : bad) {
     const Answer answer = Live(changes);
     EXPECT_EQ(answer.error, error);
-    for (const auto& [name, value] : answer.results) EXPECT_EQ(value, Variant()) << name;
+    EXPECT_TRUE(answer.LeftResults());
   }
 }
 

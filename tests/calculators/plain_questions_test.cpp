@@ -16,8 +16,6 @@
 namespace amortix2 {
 namespace {
 
-const Date kToday = FixedClock().Today();
-
 using Numbers = std::vector<double>;
 
 double Serial(Date date) { return date.serial; }
