@@ -15,10 +15,10 @@
 #include "amortix2/cli/listing.h"
 #include "amortix2/cli/readable.h"
 #include "amortix2/common/system_clock.h"
-#include "amortix2/json/answer.h"
 #include "amortix2/json/description_json.h"
 #include "amortix2/json/execution.h"
 #include "amortix2/json/lookup.h"
+#include "amortix2/json/reply.h"
 
 namespace amortix2::cli {
 namespace {

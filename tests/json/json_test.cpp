@@ -8,9 +8,9 @@
 #include <fstream>
 #include <set>
 
-#include "amortix2/json/answer.h"
 #include "amortix2/json/description_json.h"
 #include "amortix2/json/json_text.h"
+#include "amortix2/json/reply.h"
 #include "amortix2/json/request_error.h"
 #include "amortix2/json/variant_reader.h"
 #include "json/random_values.h"

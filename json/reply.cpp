@@ -1,4 +1,4 @@
-#include "amortix2/json/answer.h"
+#include "amortix2/json/reply.h"
 
 #include <optional>
 #include <utility>
