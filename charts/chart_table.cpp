@@ -9,16 +9,20 @@
 
 namespace amortix2 {
 
-ChartTable::ChartTable(std::int32_t rows, std::int32_t series) : rows_(rows), series_(series) {
-  const std::size_t count = static_cast<std::size_t>(rows) + 1;
-  values_.resize(count * static_cast<std::size_t>(series));
+ChartTable::ChartTable(const Array& data) {
+  // Looked up before anything is allocated: bounds that leave (0, 0) out may promise far more cells than there
+  // are.
+  static_cast<void>(data.At(0, 0));
+  rows_ = data.Dimension(1).upper;
+  series_ = data.Dimension(2).upper;
+  const std::size_t count = static_cast<std::size_t>(rows_) + 1;
+  values_.resize(count * static_cast<std::size_t>(series_));
   labels_.resize(count);
 }
 
 ChartTable PrepareTable(const Array& data, bool keepNegatives) {
-  // Before anything is allocated: bounds that hold no cell (0, 0) may promise far more rows than there are.
+  ChartTable table(data);
   const bool hasLabels = !IsNumeric(data.At(0, 0));
-  ChartTable table(data.Dimension(1).upper, data.Dimension(2).upper);
   for (std::int32_t row = 0; row <= table.Rows(); ++row) {
     table.Label(row) = hasLabels ? PageText(data.At(row, 0)) : SignedText(row);
     for (std::int32_t series = 1; series <= table.Series(); ++series) {

@@ -16,8 +16,9 @@ namespace amortix2 {
 /// Rows 0 to `rows` of series 1 to `series`. Row 0 is never drawn but counts for the axis.
 class ChartTable {
  public:
-  /// All zero. Both counts are 0 or more.
-  ChartTable(std::int32_t rows, std::int32_t series);
+  /// All zero, with room for the rows and series of a table. Raises SubscriptOutOfRange when that has another
+  /// number of dimensions or no cell (0, 0).
+  explicit ChartTable(const Array& data);
 
   std::int32_t Rows() const noexcept { return rows_; }
   std::int32_t Series() const noexcept { return series_; }
@@ -34,8 +35,8 @@ class ChartTable {
            static_cast<std::size_t>(series - 1);
   }
 
-  std::int32_t rows_;
-  std::int32_t series_;
+  std::int32_t rows_ = 0;
+  std::int32_t series_ = 0;
   std::vector<double> values_;
   std::vector<std::string> labels_;
 };

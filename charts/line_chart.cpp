@@ -9,6 +9,7 @@
 #include "amortix2/automation/error.h"
 #include "amortix2/charts/axis_range.h"
 #include "amortix2/charts/chart_table.h"
+#include "amortix2/charts/page_text.h"
 #include "amortix2/charts/thick_line.h"
 
 // Values map to pixels linearly and are rounded half up. The axis top lies on row 0 and the axis bottom on
@@ -26,11 +27,8 @@ constexpr int kGridRadius = 1;    // lines of one pixel
 constexpr int kSeriesRadius = 2;  // lines of three pixels
 
 ChartTable ReadNumbers(const Variant& columns) {
-  if (columns.Type() != VariantType::Array || columns.GetArray().Rank() != 2) {
-    Raise(ErrorNumber::SubscriptOutOfRange);
-  }
-  const Array& array = columns.GetArray();
-  ChartTable table(array.Dimension(1).upper, array.Dimension(2).upper);
+  const Array& array = PageArray(columns);
+  ChartTable table(array);
   for (std::int32_t row = 0; row <= table.Rows(); ++row) {
     for (std::int32_t series = 1; series <= table.Series(); ++series) {
       table.At(row, series) = NumericOrZero(array.At(row, series));
