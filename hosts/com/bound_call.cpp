@@ -32,6 +32,12 @@ bool IsLeftOut(const VARIANT* argument) noexcept {
   return argument == nullptr || (argument->vt == VT_ERROR && argument->scode == DISP_E_PARAMNOTFOUND);
 }
 
+/// A variable that can take any value; not an array with bounds of its own.
+bool IsPlainVariable(VARIANT& argument) {
+  const VARIANT& value = Followed(argument);
+  return &value != &argument && (value.vt & VT_BYREF) == 0;
+}
+
 std::shared_ptr<ScriptingContext> ReadContext(VARIANT& argument) {
   VARIANT value = Followed(argument);
   if ((value.vt & VT_BYREF) != 0) value = Peek({static_cast<VARTYPE>(value.vt & ~VT_BYREF), value.byref});
@@ -79,6 +85,12 @@ void Argument::Read(VARIANT& source) {
     return;
   }
   if (parameter_->byReference) before_.emplace(type);
+  const bool onlyResult = parameter_->role == Role::Result && type.kind == TypeKind::Variant;
+  if (onlyResult && before_ && IsPlainVariable(source)) {
+    // What the variable held is not read, and not compared: whatever the call writes replaces it.
+    for (Value* const value : {value_, &*before_}) type.write(value->Get(), kMissing);
+    return;
+  }
   if (type.record != nullptr) {
     library_ = &TypeLibrary::Loaded();
     records_ = FindRecords(*library_, type, source);

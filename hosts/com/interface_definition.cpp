@@ -24,6 +24,18 @@ std::string Quoted(std::string_view text) {
   return quoted + '"';
 }
 
+/// An identifier as C and C++ programs write it: widl's header names those of records nowhere else.
+std::string Initializer(std::string_view identifier) {
+  const auto part = [&](std::size_t start, std::size_t length) {
+    return "0x" + std::string(identifier.substr(start, length));
+  };
+  std::string text = "{" + part(0, 8) + ", " + part(9, 4) + ", " + part(14, 4) + ", {";
+  for (const std::size_t start : {19, 21, 24, 26, 28, 30, 32, 34}) {
+    text += (start == 19 ? "" : ", ") + part(start, 2);
+  }
+  return text + "}}";
+}
+
 std::string Attributes(std::string_view name, std::string_view help, std::string_view more = "") {
   return "[uuid(" + std::string(Identifier(name)) + ")" + std::string(more) + ", helpstring(" + Quoted(help) +
          ")]";
@@ -70,7 +82,8 @@ void WriteRecord(std::ostream& out, const RecordInfo& record) {
   for (const FieldInfo& field : record.fields) {
     out << "    " << TypeName(*field.type) << ' ' << field.name << ";  // " << field.help << '\n';
   }
-  out << "  } " << record.name << ";\n";
+  out << "  } " << record.name << ";\n  cpp_quote(\"static const GUID GUID_" << record.name << " = "
+      << Initializer(Identifier(record.name)) << ";\")\n";
 }
 
 void WriteParameter(std::ostream& out, const ParameterInfo& parameter) {

@@ -41,7 +41,9 @@ using InterfaceMembers = std::tuple<
         &::_Calculator::SimpleSavingsCalculator,
         &::_Calculator::IRACalculator,
         &::_Calculator::SpendingCalculator,
-        &::_Calculator::LoadSaveDetArray>,
+        &::_Calculator::LoadSaveDetArray,
+        &::_Calculator::LoanConsolidationCalculator,
+        &::_Calculator::RentVsBuyComparison>,
     MemberList<
         &::_BarChart::StackChart,
         &::_BarChart::MakeChart,

@@ -49,7 +49,7 @@ case $1 in
     "$loader" wineboot -i
     keys >"$COM_WORK/keys.before"
     echo "Without registration"
-    client lifetime "$(windows_path "$COM_BIN/Amortix2.manifest")"
+    client contract "$(windows_path "$COM_BIN/Amortix2.manifest")"
     echo "For the user alone"
     "$loader" regsvr32 /s /n /i:user "$dll"
     "$server" -w
@@ -62,6 +62,8 @@ case $1 in
     check_clean
     echo "For the machine"
     "$loader" regsvr32 /s "$dll"
+    "$server" -w
+    grep -q '^@="Amortix2 Calculator"' "$WINEPREFIX/system.reg"
     ;;
   cleanup)
     "$loader" regsvr32 /s /u "$dll"
@@ -77,6 +79,10 @@ case $1 in
     for bits in '' short; do
       client arithmetic $bits | tr -d '\r' | diff "$COM_WORK/arithmetic" -
     done
+    ;;
+  guide)
+    awk '/^```text$/ { inside = 1; next } /^```$/ { inside = 0 } inside' "$here/../../docs/com.md" >"$COM_WORK/guide"
+    client guide | tr -d '\r' | diff "$COM_WORK/guide" -
     ;;
   differential)
     work=$COM_WORK/differential

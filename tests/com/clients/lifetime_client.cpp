@@ -1,9 +1,8 @@
 // What a server process sees over time: no call leaves anything behind, threads do not disturb each other,
 // the DLL goes when nothing uses it, and its type library says what the component's description says.
 //
-//   lifetime_client CALLS       the number of calls made in search of leaks
-//   lifetime_client X.manifest  creates an object by the manifest alone
-//   lifetime_client X.gif       keeps what a chart writes to its page
+//   lifetime_client CALLS  the number of calls made in search of leaks
+//   lifetime_client X.gif  keeps what a chart writes to its page
 
 #include <algorithm>
 #include <atomic>
@@ -136,21 +135,6 @@ void UnloadsWhenUnused() {
   CHECK(IsLoaded());
 }
 
-/// A client that names the manifest creates objects that the registry does not know.
-void NeedsNoRegistration(const wchar_t* manifest) {
-  ACTCTXW description{};
-  description.cbSize = sizeof description;
-  description.lpSource = manifest;
-  const HANDLE context = CreateActCtxW(&description);
-  ULONG_PTR cookie = 0;
-  if (!CHECK(context != INVALID_HANDLE_VALUE) || !CHECK(ActivateActCtx(context, &cookie))) return;
-  const auto calculator = Create(L"Amortix2.Calculator");
-  Loan loan;
-  CHECK(loan.Calculate(*calculator.Get(), MakeValue(1000.0)) == 0);
-  DeactivateActCtx(0, cookie);
-  ReleaseActCtx(context);
-}
-
 /// A line chart for a page whose response keeps what it gets in a file.
 void WritesToItsPage(const std::string& path) {
   Scripted response({{L"BinaryWrite", [&](std::span<VARIANT> arguments) {
@@ -243,9 +227,6 @@ void TypeLibrarySaysWhatTheDescriptionSays() {
 
 int main(int count, char** arguments) {
   const std::string first = count > 1 ? arguments[1] : "4000";
-  if (first.ends_with(".manifest")) {
-    return Run(COINIT_APARTMENTTHREADED, [&] { NeedsNoRegistration(ToWide(first).c_str()); });
-  }
   if (first.ends_with(".gif")) return Run(COINIT_APARTMENTTHREADED, [&] { WritesToItsPage(first); });
   const int status = Run(COINIT_MULTITHREADED, [&] {
     CHECK(!IsLoaded());

@@ -119,8 +119,8 @@ void LoansAreTheSame(IDispatch& calculator) {
     loan.biweeklyDate = 37000;
     amortix2::tLoanDesc& own = expected.At(static_cast<std::int64_t>(i) + 1);
     Fill(own, kLoans[i]);
-    own.startDate = {36922};
-    own.biweeklyDate = {37000};
+    own.startDate = amortix2::Date(36922);
+    own.biweeklyDate = amortix2::Date(37000);
   }
   ::tCreditQualification household{};
   amortix2::tCreditQualification ownHousehold;

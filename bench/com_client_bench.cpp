@@ -1,13 +1,15 @@
 // What a late-bound call costs above the call itself: SimpleLoanCalculator with a schedule of 361 rows, and
 // where the difference goes.
 
+#include <amortix2.h>
+
 #include <array>
 #include <chrono>
 #include <cstdio>
 
 #include "amortix2/automation/array.h"
-#include "amortix2/common/system_clock.h"
 #include "amortix2/calculators/calculator.h"
+#include "amortix2/common/system_clock.h"
 #include "client.h"
 
 using namespace amortix2;
@@ -34,7 +36,7 @@ void Print(const char* what, double microseconds) { std::printf("%-58s %8.2f us\
 
 void Measure() {
   const SystemClock clock;
-  const Calculator calculator(clock);
+  const amortix2::Calculator calculator(clock);
   const Variant type("");
   const Variant amount(200000.0), none(0.0), period(360.0), rate(6.5);
   Variant results[7];
@@ -54,6 +56,21 @@ void Measure() {
         }));
   Print("late-bound, results of the call before overwritten",
         Time([&] { CallByName(*object.Get(), L"SimpleLoanCalculator", arguments); }));
+  const auto early = object.As<_Calculator>(__uuidof(_Calculator));
+  Print("early-bound, results freed", Time([&] {
+          const auto place = [&](std::size_t i) { return &loan.results[i].Get(); };
+          early->SimpleLoanCalculator(arguments[0].Get(), arguments[1].Get(), arguments[2].Get(),
+                                      arguments[3].Get(), arguments[4].Get(), place(0), place(1), place(2),
+                                      place(3), place(4), place(5), place(6));
+          for (OwnedVariant& result : loan.results) VariantClear(&result.Get());
+        }));
+  const auto strategy = Create(L"Amortix2.BarChart");
+  const auto direct = strategy.As<_BarChart>(__uuidof(_BarChart));
+  const OwnedVariant width = MakeValue(3.0);
+  Print("a setting late-bound, by name", Time([&] {
+          CallByName(*strategy.Get(), L"SetAxisGif", {&width, 1});
+        }));
+  Print("a setting early-bound", Time([&] { direct->SetAxisGif(width.Get()); }));
   DISPID number = 0;
   auto* name = const_cast<wchar_t*>(L"SimpleLoanCalculator");
   Print("  finding the name", Time([&] { object->GetIDsOfNames(IID_NULL, &name, 1, 0, &number); }));
