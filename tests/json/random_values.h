@@ -29,6 +29,12 @@ class RandomValues {
     return values[random_() % N];
   }
 
+  /// Of lines, months, payments or steps: mostly a few, some below 0, some beyond 16 bits.
+  std::int64_t Count() {
+    constexpr std::int64_t kFar = 40'000;
+    return Pick(2) == 0 ? Pick(60) - 20 : Pick(2 * kFar + 1) - kFar;
+  }
+
   double Number() {
     static constexpr std::array kNumbers{0.0,
                                          -0.0,
@@ -61,6 +67,7 @@ class RandomValues {
                                          1e9,
                                          -1e9,
                                          std::numeric_limits<double>::max()};
+    if (Pick(8) == 0) return static_cast<double>(Count());
     if (Pick(3) > 0) return OneOf(kNumbers);
     return std::uniform_real_distribution<>(-1000, 1000)(random_);
   }
@@ -73,7 +80,8 @@ class RandomValues {
     if (type == 3) return Pick(2) == 0;
     if (type == 4) return static_cast<std::uint8_t>(random_());
     if (type == 5) return static_cast<std::int16_t>(Pick(4) == 0 ? random_() : random_() % 500);
-    if (type == 6) return static_cast<std::int32_t>(Pick(4) == 0 ? random_() : random_() % 500);
+    if (type == 6)
+      return static_cast<std::int32_t>(Pick(4) == 0 ? random_() : static_cast<std::uint64_t>(Count()));
     if (type == 7)
       return Currency{static_cast<std::int64_t>(Pick(2) == 0 ? random_() : random_() % 10'000'000)};
     if (type == 8) {
