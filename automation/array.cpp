@@ -1,6 +1,8 @@
 #include "amortix2/automation/array.h"
 
+#include <iterator>
 #include <new>
+#include <utility>
 
 namespace amortix2 {
 namespace {
@@ -28,6 +30,12 @@ Array::Array(Bounds elements) : rank_(1), rows_(elements) { ResizeCells(cells_, 
 
 Array::Array(Bounds rows, Bounds columns) : rank_(2), rows_(rows), columns_(columns) {
   ResizeCells(cells_, CellCount(rows_, columns_));
+}
+
+Array::Array(std::int32_t lower, std::vector<Variant> cells)
+    : rank_(1), rows_{lower, 0}, cells_(std::move(cells)) {
+  if (std::ssize(cells_) > kLargestArray) Raise(ErrorNumber::OutOfMemory);
+  rows_.upper = lower + static_cast<std::int32_t>(cells_.size()) - 1;
 }
 
 Array& Array::operator=(Array other) noexcept {

@@ -34,6 +34,8 @@ class Array {
   /// Cells start Empty. Raises SubscriptOutOfRange when a dimension's upper bound lies more than one below
   /// its lower bound, OutOfMemory above kLargestArray cells or when memory runs out.
   explicit Array(Bounds elements);
+  /// A one-dimensional array of these cells.
+  Array(std::int32_t lower, std::vector<Variant> cells);
   Array(Bounds rows, Bounds columns);
 
   Array(const Array& other) = default;

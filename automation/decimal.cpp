@@ -12,9 +12,35 @@ namespace amortix2 {
 // half.
 Decimal::Decimal(double value) {
   if (!std::isfinite(value)) Raise(ErrorNumber::Overflow);
+  value = std::abs(value);
+  if (value >= 1 && value < 0x1p53) {
+    CutBinary(value);
+  } else {
+    CutText(value);
+  }
+  RoundTo(integerDigits_ - kSignificantDigits);
+}
+
+// From 1 up to 2^53 a double is a whole number and a fraction of at most 52 bits, so that each of its digits
+// comes out of a 64-bit product that is exact.
+void Decimal::CutBinary(double value) noexcept {
+  constexpr int kFractionBits = 52;
+  const auto whole = static_cast<std::uint64_t>(value);
+  char* const end = std::to_chars(digits_.data(), digits_.data() + digits_.size(), whole).ptr;
+  integerDigits_ = end - digits_.data();
+  auto rest = static_cast<std::uint64_t>((value - static_cast<double>(whole)) * 0x1p52);
+  for (char* digit = end; digit != digits_.data() + digits_.size(); ++digit) {
+    rest *= 10;
+    *digit = static_cast<char>('0' + (rest >> kFractionBits));
+    rest &= (std::uint64_t{1} << kFractionBits) - 1;
+  }
+  count_ = static_cast<std::int64_t>(digits_.size());
+}
+
+void Decimal::CutText(double value) noexcept {
   constexpr int kExactDigits = 767;           // no double has more
   std::array<char, kExactDigits + 8> text{};  // d.ddd...e-ddd
-  const auto written = std::to_chars(text.data(), text.data() + text.size(), std::abs(value),
+  const auto written = std::to_chars(text.data(), text.data() + text.size(), value,
                                      std::chars_format::scientific, kExactDigits - 1);
   digits_[0] = text[0];
   std::copy_n(text.data() + 2, digits_.size() - 1, digits_.data() + 1);
@@ -23,7 +49,6 @@ Decimal::Decimal(double value) {
   if (*exponent == '+') ++exponent;  // from_chars takes no plus
   std::from_chars(exponent, written.ptr, integerDigits_);
   ++integerDigits_;
-  RoundTo(integerDigits_ - kSignificantDigits);
 }
 
 char Decimal::DigitAt(std::int64_t power) const noexcept {

@@ -35,6 +35,8 @@ class Decimal {
   void RoundTo(std::int64_t power) noexcept;
 
  private:
+  void CutBinary(double value) noexcept;
+  void CutText(double value) noexcept;
   void DropTrailingZeros() noexcept;
 
   // One more than the significant ones, from which these are rounded.

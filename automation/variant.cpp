@@ -1,8 +1,9 @@
 #include "amortix2/automation/variant.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
-#include <string>
+#include <new>
 
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/error.h"
@@ -28,6 +29,19 @@ class NestingLevel {
 thread_local int NestingLevel::depth = 0;
 
 }  // namespace
+
+/// A text too long to lie inside: its length and, behind it in the same block, its characters.
+struct Variant::TextBlock {
+  std::size_t size;
+
+  char* Characters() noexcept { return reinterpret_cast<char*>(this + 1); }
+
+  static TextBlock* Make(std::string_view text) {
+    auto* const block = new (::operator new(sizeof(TextBlock) + text.size())) TextBlock{text.size()};
+    std::copy_n(text.data(), text.size(), block->Characters());
+    return block;
+  }
+};
 
 /// An owned array, and a link for the time of its release.
 struct Variant::ArrayNode {
@@ -58,18 +72,16 @@ void Variant::RaiseTypeMismatch() { Raise(ErrorNumber::TypeMismatch); }
 Variant::Variant(Array array)
     : words_(OnHeap(VariantType::Array, std::make_unique<ArrayNode>(std::move(array)).release())) {}
 
-void Variant::StoreText(std::string_view text) {
-  if (text.size() <= kInlineText) {
-    words_.head = Head(VariantType::String, static_cast<std::uint8_t>(text.size()));
-    std::copy_n(text.data(), text.size(), reinterpret_cast<char*>(&words_) + kInlineTextAt);
-  } else {
-    words_ = OnHeap(VariantType::String, std::make_unique<std::string>(text).release());
-  }
+Variant::Words Variant::TextWords(std::string_view text) {
+  if (text.size() > kInlineText) return OnHeap(VariantType::String, TextBlock::Make(text));
+  Words words{Head(VariantType::String, static_cast<std::uint8_t>(text.size()))};
+  std::copy_n(text.data(), text.size(), reinterpret_cast<char*>(&words) + kInlineTextAt);
+  return words;
 }
 
 Variant::Words Variant::CopyHeap(const Variant& other) {
   if (other.Type() == VariantType::String) {
-    return OnHeap(VariantType::String, std::make_unique<std::string>(other.GetString()).release());
+    return OnHeap(VariantType::String, TextBlock::Make(other.GetString()));
   }
   const NestingLevel level;
   return OnHeap(VariantType::Array, std::make_unique<ArrayNode>(other.GetArray()).release());
@@ -77,7 +89,7 @@ Variant::Words Variant::CopyHeap(const Variant& other) {
 
 void Variant::ReleaseHeap(Words words) noexcept {
   if (words.Type() == VariantType::String) {
-    delete FromPayload<std::string*>(words);
+    ::operator delete(FromPayload<TextBlock*>(words));
   } else {
     ArrayNode::Release(FromPayload<ArrayNode*>(words));
   }
@@ -85,7 +97,13 @@ void Variant::ReleaseHeap(Words words) noexcept {
 
 std::string_view Variant::GetString() const {
   if (Type() != VariantType::String) RaiseTypeMismatch();
-  if (words_.OwnHeap()) return *FromPayload<std::string*>(words_);
+  if (words_.OwnHeap()) {
+    auto* const block = FromPayload<TextBlock*>(words_);
+    return {block->Characters(), block->size};
+  }
+  if (words_.TextLength() == kLiteral) {
+    return {FromPayload<const char*>(words_), static_cast<std::size_t>(words_.head >> 16)};
+  }
   return {reinterpret_cast<const char*>(&words_) + kInlineTextAt, words_.TextLength()};
 }
 

@@ -62,7 +62,7 @@ class Variant {
       : words_{Head(VariantType::Double), Payload(WithoutMinusZero(value))} {}
   Variant(Currency value) noexcept : words_{Head(VariantType::Currency), Payload(value)} {}
   Variant(Date value) noexcept : words_{Head(VariantType::Date), Payload(value)} {}
-  Variant(std::string_view text) { StoreText(text); }
+  Variant(std::string_view text) : words_(TextWords(text)) {}
   Variant(const char* text) : Variant(std::string_view(text)) {}
   Variant(const DateText& text) noexcept {
     std::uint64_t firstEight = 0;
@@ -70,6 +70,14 @@ class Variant {
     std::memcpy(&firstEight, text.data(), 8);
     std::memcpy(&lastTwo, text.data() + 8, 2);
     words_ = {Head(VariantType::String, sizeof text) | firstEight << 16, firstEight >> 48 | lastTwo << 16};
+  }
+  /// A text that outlives the variant and all copies of it, as a literal of the program does; it is not
+  /// copied.
+  static Variant OfLiteral(std::string_view text) noexcept {
+    Variant variant;
+    variant.words_ = {Head(VariantType::String, kLiteral) | std::uint64_t{text.size()} << 16,
+                      Payload(text.data())};
+    return variant;
   }
   Variant(const void*) = delete;  // or a pointer would silently be a Boolean
   Variant(Array array);
@@ -110,15 +118,17 @@ class Variant {
 
  private:
   struct ArrayNode;
+  struct TextBlock;
 
   static constexpr std::size_t kInlineTextAt = 2;
   static constexpr std::size_t kInlineText = 14;
   static constexpr std::uint8_t kOnHeap = 0xFF;
+  static constexpr std::uint8_t kLiteral = 0xFE;
 
-  // Byte 0 is the type; byte 1 the length of a text held inside, which follows it, or kOnHeap; bytes 8 to 15
-  // are a number or an owned pointer, bytes that it leaves unused are zero. Two words that pass through
-  // registers: kept as bytes, a value would be stored in pieces and read back as a whole, which stalls the
-  // processor.
+  // Byte 0 is the type; byte 1 the length of a text held inside, which follows it, or kOnHeap, or kLiteral
+  // with the length behind it; bytes 8 to 15 are a number or a pointer, bytes that it leaves unused are zero.
+  // Two words that pass through registers: kept as bytes, a value would be stored in pieces and read back as
+  // a whole, which stalls the processor.
   struct Words {
     std::uint64_t head = 0;
     std::uint64_t payload = 0;
@@ -156,7 +166,7 @@ class Variant {
   static Words OnHeap(VariantType type, const void* pointer) noexcept {
     return {Head(type, kOnHeap), Payload(pointer)};
   }
-  void StoreText(std::string_view text);
+  static Words TextWords(std::string_view text);
   static Words CopyHeap(const Variant& other);
   static void ReleaseHeap(Words words) noexcept;
 

@@ -48,15 +48,16 @@ void WriteLabelCell(MarkupWriter& out, const BarChartSettings& settings, const L
 
 void SpacerCell(MarkupWriter& out, std::string_view blank, Pixels width) { ImageCell(out, 1, blank, width); }
 
-void OpenPile(MarkupWriter& out, Markup edge) {
-  out.Line("<TD VALIGN=%"_m, edge, "%>"_m);
+void OpenPile(MarkupWriter& out, Edge edge) {
+  out.Line(edge == Edge::Top ? "<TD VALIGN=%top%>"_m : "<TD VALIGN=%bottom%>"_m);
   out.Line("<table border=%0% cellspacing=%0% cellpadding=%0%>"_m);
 }
 
-void PileRow(MarkupWriter& out, Markup edge, const PileImage& image) {
-  out.Append("<tr><td valign=%"_m, edge, "%><IMG border=0 "_m);
-  out.Line("alt=%"_m, image.tooltip, "% height =%"_m, image.height, "% src=%"_m, image.image, "% width=%"_m,
-           image.width, "% ></td></tr>"_m);
+void PileRow(MarkupWriter& out, Edge edge, const PileImage& image) {
+  out.Line(edge == Edge::Top ? "<tr><td valign=%top%><IMG border=0 alt=%"_m
+                             : "<tr><td valign=%bottom%><IMG border=0 alt=%"_m,
+           image.tooltip, "% height =%"_m, image.height, "% src=%"_m, image.image, "% width=%"_m, image.width,
+           "% ></td></tr>"_m);
 }
 
 void ClosePile(MarkupWriter& out) { out.Line("</Table></TD>"_m); }

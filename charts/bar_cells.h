@@ -30,9 +30,8 @@ inline constexpr Markup kPlainTable = "<TABLE BORDER=%0% CELLSPACING=%0% CELLPAD
 /// A cell of the plot's row that holds one stretched image. `height` is a number or a SignedNumber.
 template <class Height>
 void ImageCell(MarkupWriter& out, Height height, std::string_view image, Pixels width) {
-  out.Append("<TD VALIGN=%bottom%><IMG border=0 "_m);
-  out.Append("height=%"_m, height, "% "_m);
-  out.Line("src=%"_m, image, "% width =%"_m, width, "% ></TD>"_m);
+  out.Line("<TD VALIGN=%bottom%><IMG border=0 height=%"_m, height, "% src=%"_m, image, "% width =%"_m, width,
+           "% ></TD>"_m);
 }
 
 /// A cell of the label row below the plot, its text made to fit; a gap's text is not written.
@@ -50,10 +49,12 @@ struct PileImage {
   Pixels height;
 };
 
-/// A cell with a pile, opened and closed again around its images. `edge` is "top" or "bottom", the side on
-/// which the pile stands.
-void OpenPile(MarkupWriter& out, Markup edge);
-void PileRow(MarkupWriter& out, Markup edge, const PileImage& image);
+/// The side of its cell on which a pile stands.
+enum class Edge : std::uint8_t { Top, Bottom };
+
+/// A cell with a pile, opened and closed again around its images.
+void OpenPile(MarkupWriter& out, Edge edge);
+void PileRow(MarkupWriter& out, Edge edge, const PileImage& image);
 void ClosePile(MarkupWriter& out);
 
 /// Replaces `tooltip` by that of one bar: its value in the alternative format, behind its legend and ", "

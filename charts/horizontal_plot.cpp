@@ -49,7 +49,7 @@ void HorizontalPlot::WriteSideLabels(MarkupWriter& out) const {
 }
 
 void HorizontalPlot::WriteBars(MarkupWriter& out) const {
-  const Markup edge = "bottom"_m;
+  const Edge edge = Edge::Bottom;
   const auto space = [&](Pixels width) { PileRow(out, edge, {input_.texts.blank, "", width, thickness_}); };
   std::string tooltip;
   OpenPile(out, edge);

@@ -1,6 +1,6 @@
 #include "amortix2/charts/label_text.h"
 
-#include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace amortix2 {
@@ -9,22 +9,24 @@ namespace {
 using Tenths = std::int64_t;  // of a pixel
 
 constexpr Tenths kForeign = 77;  // letters beyond ASCII
-constexpr Tenths kWidest = 111;
+constexpr std::uint8_t kWidest = 111;
 constexpr Tenths kEllipsis = 100;
 
-Tenths AsciiWidth(char c) {
+// Of the characters of ASCII.
+constexpr auto kWidths = [] {
   struct Class {
     std::string_view characters;
-    Tenths width;
+    std::uint8_t width;
   };
   constexpr Class kClasses[] = {{" .,-/:;ijl'|", 34},    {"IJft()[]!", 41},       {"r\"`*\\", 50},
                                 {"ABCEFKLPRSTVXYZ", 77}, {"DGHNOQUw&+=<>~#", 88}, {"mMW%@", kWidest}};
-  constexpr Tenths kDigit = 64;  // and most small letters
+  std::array<std::uint8_t, 128> widths{};
+  widths.fill(64);  // digits and most small letters
   for (const Class& one : kClasses) {
-    if (one.characters.find(c) != std::string_view::npos) return one.width;
+    for (const char c : one.characters) widths[static_cast<std::size_t>(c)] = one.width;
   }
-  return kDigit;
-}
+  return widths;
+}();
 
 // A part of a label that is never divided: a character, a character reference, or a tag.
 struct Unit {
@@ -38,14 +40,16 @@ Unit FirstUnit(std::string_view text) {
   constexpr unsigned char kFirstOfThreeBytes =
       0xE1;  // from U+1000 on letters may be as wide as they are high
   const auto lead = static_cast<unsigned char>(text.front());
-  if (const std::size_t end = text.find('>'); lead == '<' && end != std::string_view::npos) {
-    return {text.substr(0, end + 1), 0};
+  if (lead < kWidths.size() && lead != '<' && lead != '&') return {text.substr(0, 1), kWidths[lead]};
+  if (lead == '<') {
+    const std::size_t end = text.find('>');
+    if (end != std::string_view::npos) return {text.substr(0, end + 1), 0};
   }
   if (lead == '&') {
     const std::size_t end = text.substr(0, kLongestReference).find(';');
     if (end != std::string_view::npos) return {text.substr(0, end + 1), kForeign};
   }
-  if (lead < 0x80) return {text.substr(0, 1), AsciiWidth(text.front())};
+  if (lead < kWidths.size()) return {text.substr(0, 1), kWidths[lead]};
   std::size_t size = 1;
   while (size < text.size() && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80) ++size;
   return {text.substr(0, size), lead < kFirstOfThreeBytes ? kForeign : kWidest};
@@ -112,10 +116,14 @@ std::int64_t LabelWidth(std::string_view label) { return (Width(label) + 9) / 10
 
 std::string FittedLabel(std::string_view label, std::int64_t width) {
   constexpr std::int64_t kNarrowest = 24;
-  constexpr Tenths kBeyond =
-      20;  // one pixel of the gap on either side, into which margins let the text reach
-  if (width < kNarrowest || label.find_first_of("<\"") != std::string_view::npos) return std::string(label);
+  constexpr Tenths kBeyond = 40;  // two pixels on either side, which the margins let the text have
+  if (width < kNarrowest || LabelWidth(label) <= width ||
+      label.find_first_of("<\"") != std::string_view::npos) {
+    return std::string(label);
+  }
   std::string fitted;
+  fitted.reserve(64 + 2 * label.size());
+  fitted.append("<DIV STYLE=\"margin:0 -2px\" TITLE=\"").append(label).append("\">");
   bool fits = true;
   for (std::string_view rest = label; !rest.empty();) {
     const std::string_view word = TakeUpTo(rest, " ");
@@ -129,8 +137,7 @@ std::string FittedLabel(std::string_view label, std::int64_t width) {
     fitted += blanks;
     rest.remove_prefix(blanks.size());
   }
-  if (fits) return fitted;
-  return "<DIV STYLE=\"margin:0 -1px\" TITLE=\"" + std::string(label) + "\">" + fitted + "</DIV>";
+  return fits ? std::string(label) : fitted.append("</DIV>");
 }
 
 }  // namespace amortix2

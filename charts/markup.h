@@ -5,11 +5,13 @@
 // they are, so that pages can pass markup, and never become quotes. The result is an array of lines. One
 // writer serves one chart, on one thread.
 
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 #include "amortix2/automation/array.h"
 #include "amortix2/charts/tag_balance.h"
@@ -28,7 +30,8 @@ constexpr char* CopySubstituted(std::string_view text, char placeholder, char* o
   return out;
 }
 
-/// A literal of the program, its placeholders already turned into quotes. Written "<TD width=%30%>"_m.
+/// A literal of the program (its text lasts as long as the program), its placeholders already turned into
+/// quotes. Written "<TD width=%30%>"_m.
 class Markup {
  public:
   explicit constexpr Markup(std::string_view text) : text_(text) {}
@@ -64,28 +67,40 @@ inline constexpr bool kCheckTags = true;
 inline constexpr bool kCheckTags = false;
 #endif
 
+/// A chart of more text raises OutOfMemory.
+inline constexpr std::size_t kLargestMarkup = std::size_t{1} << 26;
+
 class MarkupWriter {
  public:
   /// With `checkTags`, a fragment that breaks the nesting has kSyncError put in front of it.
-  explicit MarkupWriter(bool checkTags = kCheckTags) : checkTags_(checkTags) {}
+  explicit MarkupWriter(bool checkTags = kCheckTags) : checkTags_(checkTags) {
+    lines_.reserve(kUsualLines);
+    lines_.emplace_back();
+  }
 
-  void Put(const char*) = delete;  // a literal without its suffix
-
-  /// Appends a fragment to the current line. Its parts: string literals and Markup, whose placeholders become
-  /// quotes; texts of the page (std::string, std::string_view), in which "%%" and a lone "%" both come out
-  /// as one; and numbers.
+  /// Appends a fragment to the current line. Its parts: Markup, whose placeholders are quotes already; texts
+  /// of the page (std::string, std::string_view), in which "%%" and a lone "%" both come out as one; and
+  /// numbers.
   template <class... Parts>
   void Append(const Parts&... parts) {
-    const std::size_t start = line_.size();
-    (Put(parts), ...);
+    const std::size_t start = used_;
+    Reserve((MostOf(parts) + ... + 0));
+    char* end = line_.data() + used_;
+    ((end = Put(end, parts)), ...);
+    used_ = static_cast<std::size_t>(end - line_.data());
     if (checkTags_) Check(start);
   }
 
-  /// Appends a fragment and ends the line. Raises OutOfMemory when the lines exceed the largest array.
+  /// Appends a fragment and ends the line. Raises OutOfMemory when the lines exceed the largest array or
+  /// their text kLargestMarkup.
   template <class... Parts>
   void Line(const Parts&... parts) {
     Append(parts...);
     EndLine();
+  }
+  void Line(Markup literal) {
+    if (used_ > 0 || checkTags_) return Line(literal, ""_m);
+    EndLine(Variant::OfLiteral(literal.Text()), literal.Text().size());
   }
 
   /// The lines as an array from 0: an empty element, the lines in order, and what was written after the last
@@ -96,20 +111,50 @@ class MarkupWriter {
   std::string OpenElements() const { return tags_.OpenElements(); }
 
  private:
-  void Put(Markup literal) { line_ += literal.Text(); }
-  void Put(std::string_view pageText);
-  void Put(SignedNumber number);
+  static constexpr std::size_t kUsualLines = 400;
+  static constexpr std::size_t kLongestNumber = 20;
+
+  // The most characters that a part may need, and the part written to `out`, returning its end.
+  static std::size_t MostOf(Markup literal) noexcept { return literal.Text().size(); }
+  static char* Put(char* out, Markup literal) noexcept {
+    return literal.Text().copy(out, literal.Text().size()) + out;
+  }
+  static std::size_t MostOf(std::string_view pageText) noexcept { return pageText.size(); }
+  static char* Put(char* out, std::string_view pageText) noexcept {
+    return CopySubstituted(pageText, '%', out);
+  }
   template <class Number>
   requires std::is_integral_v<Number>
-  void Put(Number number) { PutNumber(number); }
+  static std::size_t MostOf(Number) noexcept { return kLongestNumber; }
+  template <class Number>
+  requires std::is_integral_v<Number>
+  static char* Put(char* out, Number number) noexcept {
+    return std::to_chars(out, out + kLongestNumber, number).ptr;
+  }
+  static std::size_t MostOf(SignedNumber) noexcept { return 1 + kLongestNumber; }
+  static char* Put(char* out, SignedNumber number) noexcept {
+    if (number.value >= 0) *out++ = ' ';
+    return Put(out, number.value);
+  }
+  static std::size_t MostOf(const char*) = delete;  // a literal without its suffix
 
-  void PutNumber(std::int64_t number);
+  void Reserve(std::size_t characters) {
+    if (line_.size() - used_ < characters) line_.resize(2 * (used_ + characters));
+  }
   void Check(std::size_t start);
-  void EndLine();
+  void EndLine() { EndLine(std::string_view(line_.data(), used_), used_); }
+  template <class Text>
+  void EndLine(Text&& text, std::size_t size) {
+    total_ += size;
+    if (total_ > kLargestMarkup || lines_.size() >= kLargestArray) Raise(ErrorNumber::OutOfMemory);
+    lines_.emplace_back(std::forward<Text>(text));
+    used_ = 0;
+  }
 
-  std::string line_;
-  Array lines_{Bounds{0, 1}};
-  std::int32_t current_ = 1;  // where in lines_ the current line goes
+  std::string line_;       // the current line, and room behind it
+  std::size_t used_ = 0;   // of line_
+  std::size_t total_ = 0;  // characters in lines_
+  std::vector<Variant> lines_;
   bool checkTags_;
   TagBalance tags_;
 };

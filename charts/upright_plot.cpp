@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "amortix2/automation/error.h"
 #include "amortix2/charts/bar_cells.h"
 #include "amortix2/charts/label_text.h"
 
@@ -48,6 +49,9 @@ void UprightPlot::WriteSideLabels(MarkupWriter& out) const {
 }
 
 void UprightPlot::WriteBars(MarkupWriter& out) const {
+  constexpr std::size_t kShortestCell = 66;  // characters of a cell without a bar and with an empty URL
+  const auto groups = static_cast<std::size_t>(pattern_.groups);
+  if (groups * pattern_.slices.size() > kLargestMarkup / kShortestCell) Raise(ErrorNumber::OutOfMemory);
   if (split_.zeroRow == kGridIntervals) return WriteGroups(out, Side::Above);
   out.Line("<TD>"_m, kPlainTable);
   if (split_.zeroRow > 0) WriteAbove(out);
@@ -112,7 +116,7 @@ void UprightPlot::VisibleSegments(const Slice& slice, std::span<const Bar> bars,
 void UprightPlot::WriteSlice(MarkupWriter& out, Side side, Pixels width,
                              std::span<const Segment> segments) const {
   if (segments.empty()) return SpacerCell(out, input_.texts.blank, width);
-  const Markup edge = side == Side::Above ? "bottom"_m : "top"_m;
+  const Edge edge = side == Side::Above ? Edge::Bottom : Edge::Top;
   OpenPile(out, edge);
   for (const Segment& segment : segments) {
     PileRow(out, edge, {segment.image, segment.tooltip, width, segment.height});

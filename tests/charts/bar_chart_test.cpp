@@ -259,6 +259,13 @@ TEST(BarChart, BadInputRaisesAndLeavesNothingBehind) {
     EXPECT_EQ(ErrorOf([&] { page.Draw(chart, "ST"); }), c.error) << &c - cases;
     EXPECT_EQ(page.result == Variant("before"), c.error.has_value());
   }
+  BarPage huge;  // 2^26 characters are exceeded by cells alone, and by the texts in them
+  huge.table = Array({0, 40}, {0, 2});
+  chart.MinimumOverlapCount(32700);
+  EXPECT_EQ(ErrorOf([&] { huge.Draw(chart, "OV"); }), OutOfMemory);
+  huge.blank = std::string(1 << 20, 'b');
+  chart.MinimumOverlapCount(3);
+  EXPECT_EQ(ErrorOf([&] { huge.Draw(chart, "OV"); }), OutOfMemory);
   BarPage page;  // names are read only where they are written
   page.table = Table({{"", 0, 0}, {"A", 1, 2}});
   page.legends = List({"", "R"});

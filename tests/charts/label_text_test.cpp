@@ -16,7 +16,7 @@ TEST(LabelText, MarkupAndManyBytesCountAsWhatIsSeen) {
 
 TEST(LabelText, FitsOrBreaksOrIsCut) {
   const auto altered = [](const std::string& label, const std::string& text) {
-    return "<DIV STYLE=\"margin:0 -1px\" TITLE=\"" + label + "\">" + text + "</DIV>";
+    return "<DIV STYLE=\"margin:0 -2px\" TITLE=\"" + label + "\">" + text + "</DIV>";
   };
   const struct {
     std::string label;
@@ -26,7 +26,7 @@ TEST(LabelText, FitsOrBreaksOrIsCut) {
                   {"01/31/2001", 24, "01<BR>31<BR>2001"},
                   {"2001", 24, "2001"},  // one pixel on either side is lent
                   {"September 2001", 30, "Sep&hellip; 2001"},
-                  {"1,234,567", 30, "1,2&hellip;"},
+                  {"1,234,567", 30, "1,23&hellip;"},
                   {"Q&amp;A-sessions", 40, "Q&amp;A<BR>sessi&hellip;"}};
   for (const auto& c : altering) EXPECT_EQ(FittedLabel(c.label, c.width), altered(c.label, c.text));
   for (const char* same : {"", "May 01", "a b c d e f g h", "<b>September</b>", "say \"September\""}) {
