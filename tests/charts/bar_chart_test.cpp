@@ -263,7 +263,7 @@ TEST(BarChart, BadInputRaisesAndLeavesNothingBehind) {
   huge.table = Array({0, 40}, {0, 2});
   chart.MinimumOverlapCount(32700);
   EXPECT_EQ(ErrorOf([&] { huge.Draw(chart, "OV"); }), OutOfMemory);
-  huge.blank = std::string(1 << 20, 'b');
+  huge.blank = std::string_view(std::string(1 << 20, 'b'));
   chart.MinimumOverlapCount(3);
   EXPECT_EQ(ErrorOf([&] { huge.Draw(chart, "OV"); }), OutOfMemory);
   BarPage page;  // names are read only where they are written
