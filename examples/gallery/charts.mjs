@@ -1,14 +1,7 @@
 // The charts of the gallery, as requests to BarChart: every style, with values above and below zero, few rows and
 // many, with and without titles and legend.
 
-/** A GIF of one pixel as a URL: a colour "rrggbb", or transparent. */
-export function pixel(colour) {
-  const rgb = Buffer.from(colour ?? "000000", "hex");
-  const control = colour ? [] : [0x21, 0xf9, 4, 1, 0, 0, 0, 0];
-  const bytes = [0x47, 0x49, 0x46, 0x38, 0x39, 0x61, 1, 0, 1, 0, 0x80, 0, 0, ...rgb, 0, 0, 0, ...control,
-                 0x2c, 0, 0, 0, 0, 1, 0, 1, 0, 0, 2, 2, 0x44, 1, 0, 0x3b];
-  return `data:image/gif;base64,${Buffer.from(bytes).toString("base64")}`;
-}
+import { pixel } from "./images.mjs";
 
 const seriesNames = ["Principal", "Interest", "Fees"];
 const seriesColours = ["2f6f9f", "d08030", "5fa050"];

@@ -5,7 +5,7 @@
 // All charts are asked for in one batch.
 
 import { spawnSync } from "node:child_process";
-import { mkdirSync, writeFileSync } from "node:fs";
+import { mkdirSync, readFileSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
 import { pathToFileURL } from "node:url";
 import { pages } from "./charts.mjs";
@@ -22,12 +22,14 @@ export function render(amortix2, requests) {
   });
 }
 
-/** A page around markup. In standards mode cells keep the height of their images only with the rule for images. */
-export function page(body, doctype = "<!DOCTYPE html>") {
-  const style = `td img{display:block} .title{background:#336;color:#fff} .frame{background:#99c}
-    .chtitle,.xylabel{font:bold 14px sans-serif} .xyaxis{font:10px sans-serif}`;
-  return `${doctype}<html><head><meta charset="utf-8"><title>Bar charts</title><style>${style}</style></head>
-    <body>${body}</body></html>`;
+const sheet = readFileSync(new URL("../pages/amortix2-chart.css", import.meta.url), "utf8");
+
+/** A page around charts, in the element that the style sheet of charts asks for. */
+export function page(body, { doctype = "<!DOCTYPE html>", css = "", attributes = "", shadow = false, kit = true } = {}) {
+  const chart = kit ? `<div class="amortix2-chart">${body}</div>` : body;
+  const content = shadow ? `<div id="host"><template shadowrootmode="open"><style>${sheet}</style>${chart}</template></div>` : chart;
+  return `${doctype}<html ${attributes}><head><meta charset="utf-8"><title>Bar charts</title><style>${sheet}</style>
+    <style>${css}</style></head><body>${content}</body></html>`;
 }
 
 function main(amortix2, folder) {

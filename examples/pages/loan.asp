@@ -1,7 +1,8 @@
 <%@ LANGUAGE="VBScript" %>
 <% Option Explicit %>
 <html>
-<head><title>What does the loan cost?</title></head>
+<head><title>What does the loan cost?</title>
+<link rel="stylesheet" href="amortix2-chart.css"></head>
 <body>
 <%
 ' loan.asp?amount=200000&months=360&rate=6.5 - leave one of amount, payment, months and rate out, and it is found.
@@ -35,12 +36,14 @@ Next
 
 Set chart = Server.CreateObject("Amortix2.BarChart")
 chart.SetGraphDimensions 240, 420
-chart.StackChart table, "images/blank.gif", Array("images/back.gif", "images/blue.gif", "images/red.gif"), _
+chart.StackChart table, "images/space.gif", Array("images/back.gif", "images/blue.gif", "images/red.gif"), _
     Array("", "Principal", "Interest"), Array("", "Where the money goes", ""), "Year", "Paid", html
+Response.Write "<div class=""amortix2-chart"">"
 For i = LBound(html) To UBound(html)
   Response.Write html(i) & vbCrLf
 Next
 %>
+</div>
 <h2>Schedule</h2>
 <table>
 <tr><th>Date</th><th>Payment</th><th>Principal</th><th>Interest</th><th>Balance</th></tr>

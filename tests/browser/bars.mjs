@@ -1,5 +1,6 @@
-// Measures bar charts as Chromium lays them out, in quirks mode and in standards mode: every bar's box against the
-// number it stands for, its place in its group, and its label's.
+// Measures bar charts as Chromium lays them out: every bar's box against the number it stands for, its place in its
+// group, and its labels'. Plain pages in quirks mode and in standards mode; and with the style sheet of charts, pages
+// whose own rules break images, narrow and wide, dark, from right to left, and behind a shadow root.
 //
 //     node bars.mjs AMORTIX2 CHROMIUM      with playwright-core in ./node_modules of the working directory
 
@@ -10,14 +11,15 @@ import { page as pageOf, render } from "../../examples/gallery/gallery.mjs";
 const { chromium } = createRequire(`${process.cwd()}/`)("playwright-core");
 const [amortix2, executablePath] = process.argv.slice(2);
 
-const table = (rows, cell, series) => [
+const table = (rows, cell, series, label = (row) => `L${row}`) => [
   ["", ...Array(series).fill(0)],
-  ...[...Array(rows).keys()].map((i) => [`L${i + 1}`, ...[...Array(series).keys()].map((j) => cell(i + 1, j + 1))]),
+  ...[...Array(rows).keys()].map((i) => [label(i + 1), ...[...Array(series).keys()].map((j) => cell(i + 1, j + 1))]),
 ];
+const date = (row) => `01-${10 + (row % 20)}-${2001 + row}`;
 const rising = (row, series) => 3 * row + 7 * series;
 const waving = (row, series) => Math.round(50 * Math.sin(1.7 * row + series));
 
-// The ends of the axis, and how many tenths of its 300 pixels lie above zero, worked out by hand.
+// The ends of the axis, and how many tenths of it lie above zero, worked out by hand.
 const cases = [
   { typ: "plain", data: table(3, rising, 3), top: 30, bottom: 0, above: 10 },
   { typ: "plain", data: table(30, rising, 3), top: 200, bottom: 0, above: 10 },
@@ -28,40 +30,64 @@ const cases = [
   { typ: "OV", data: table(3, waving, 3), top: 48, bottom: -50, above: 5, NegativeBars: 1 },
   { typ: "HZ", data: table(3, rising, 3), top: 30, bottom: 0 },
   { typ: "HR", data: table(30, rising, 2), top: 200, bottom: 0 },
+  { typ: "plain", data: table(12, rising, 1, date), top: 50, bottom: 0, above: 10, SetGraphDimensions: [300, 312] },
+  { typ: "plain", data: table(13, rising, 1, date), top: 50, bottom: 0, above: 10 },
+  { typ: "ST", data: table(40, rising, 1, date), top: 200, bottom: 0, above: 10 },
+  { typ: "plain", data: table(5, rising, 1), top: 30, bottom: 0, above: 10, SetGraphDimensions: [100, 380], YLabelMode: 11 },
+  ...[1, 3, 11].map((YLabelMode) => ({ typ: "HZ", data: table(5, (row) => 4e6 * row, 1, date), top: 2e7, YLabelMode })),
 ];
 
 const failures = [];
 const expect = (holds, what) => holds || failures.push(what);
-const near = (a, b, tolerance = 1) => Math.abs(a - b) <= tolerance;
+const near = (a, b, tolerance = 1) => Math.abs(a - b) <= tolerance + 1e-9;
 
-/** The axes at the left and below, bars with their values, and labels, as boxes. */
+/** Of every chart: axes, images as their attributes say and as they are, bars with their values, labels, as boxes. */
 function measure() {
   const box = (element) => {
     const { left, right, top, bottom, width, height } = element.getBoundingClientRect();
     return { left, right, top, bottom, width, height };
   };
-  const text = (element) => {
+  const label = (cell) => {
     const range = document.createRange();
-    range.selectNodeContents(element);
-    return { text: element.textContent, ...box(range) };
+    range.selectNodeContents(cell.querySelector("font"));
+    return { text: range.toString().trim(), ...box(range) };
   };
-  const images = [...document.images];
-  return {
-    axis: box(images.find((image) => image.getAttribute("width") === "1" && image.getAttribute("height").startsWith(" "))),
-    base: box(images.findLast((image) => image.getAttribute("height") === " 1")),
-    bars: images
-      .filter((image) => image.alt.includes("="))
-      .map((image) => ({ series: image.alt.split("=")[0], value: Number(image.alt.split("=")[1]), ...box(image) })),
-    labels: [...document.querySelectorAll("font[size='1']")].map(text).filter(({ text }) => /^L\d+$/.test(text)),
-  };
+  const labels = (table) => [...table.querySelectorAll("td:has(font)")].map(label).filter(({ text }) => text);
+  return [...(document.querySelector("#host")?.shadowRoot ?? document).querySelectorAll(".one")].map((chart) => {
+    const images = [...chart.querySelectorAll("img")];
+    const axis = images.find((image) => image.getAttribute("width") === "1" && image.getAttribute("height").startsWith(" "));
+    const base = images.findLast((image) => image.getAttribute("height") === " 1");
+    return {
+      axis: box(axis),
+      base: box(base),
+      sizes: images.filter((image) => image.hasAttribute("height") && image.hasAttribute("width"))
+        .map((image) => [image.getAttribute("width") - image.width, image.getAttribute("height") - image.height]),
+      bars: images.filter((image) => image.alt.includes("="))
+        .map((image) => ({ value: Number(image.alt.split("=")[1]), ...box(image) })),
+      side: labels(axis.closest("td:has(table)").previousElementSibling),
+      bottom: labels(base.closest("table").nextElementSibling),
+    };
+  });
 }
 
-function checkUpright({ data, top, bottom, above, typ }, { axis, base, bars, labels }, name) {
+/** The first label stands at `left` with its left end when it is said to, the last at `right`, the others centred. */
+function checkLabels(labels, places, ends, name) {
+  labels.forEach((label, i) => {
+    const off = ends && i === 0 ? label.left - ends[0]
+      : ends && i === labels.length - 1 ? label.right - ends[1]
+      : (label.left + label.right) / 2 - places(label.text, i);
+    expect(near(off, 0, 4), `${name}: label ${label.text} is ${off} pixels from its place`);
+    const before = i > 0 ? labels[i - 1].right : -Infinity;
+    expect(!ends || label.left >= before, `${name}: label ${label.text} meets the one before`);
+  });
+}
+
+function checkUpright({ data, top, bottom, above, typ }, { axis, base, bars, side, bottom: labels }, name, kit) {
   const rows = data.slice(1);
-  const zero = axis.top + above * 30;
-  const length = (value) => (value > 0 ? (value / top) * above * 30 : (value / bottom) * (300 - above * 30));
+  const tenth = axis.height / 10;
+  const zero = axis.top + above * tenth;
+  const length = (value) => (value > 0 ? (value / top) * above : (value / bottom) * (10 - above)) * tenth;
   const pitch = (base.width - 1) / rows.length;
-  expect(near(axis.height, 300, 0), `${name}: the axis is ${axis.height} high`);
   expect(near(base.top, axis.bottom, 0), `${name}: the lower axis is not at the end of the left one`);
   rows.forEach(([text, ...values], i) => {
     const left = axis.right + i * pitch;
@@ -77,20 +103,26 @@ function checkUpright({ data, top, bottom, above, typ }, { axis, base, bars, lab
       const stands = stacked || near(bar.value > 0 ? bar.bottom : bar.top, zero);
       expect(stands, `${name}: ${bar.value} does not stand on the zero line`);
     }
-    const inner = i > 0 && i < rows.length - 1 && labels.find((label) => label.text === text);
-    const offset = inner ? (inner.left + inner.right) / 2 - (left + pitch / 2) : 0;
-    expect(near(offset, 0, 2), `${name}: label ${text} is ${offset} pixels beside its group`);
   });
+  const centre = (i) => axis.right + i * pitch + (pitch - 1) / 2;
+  const groupOf = (text) => rows.findIndex(([label]) => label === text);
+  const all = rows.length <= 12;
+  checkLabels(labels, (text, i) => centre(all ? i : groupOf(text)), all ? undefined : [axis.left, base.right], name);
+  for (const label of kit ? side : []) {
+    const off = (label.top + label.bottom) / 2 - axis.top - ((top - label.text) / (top - bottom)) * axis.height;
+    expect(near(off, 0, 4), `${name}: label ${label.text} is ${off} pixels from its value`);
+  }
 }
 
-function checkHorizontal({ data, top }, { axis, bars, labels }, name) {
+function checkHorizontal({ data, top }, { axis, base, bars, side, bottom }, name) {
   const series = data[0].length - 1;
   expect(bars.length === (data.length - 1) * series, `${name}: ${bars.length} bars`);
   for (const bar of bars) {
     expect(near(bar.left, axis.right, 0), `${name}: ${bar.value} starts off the axis`);
     expect(near(bar.width, (bar.value * 380) / top), `${name}: ${bar.value} is ${bar.width} wide`);
   }
-  for (const label of labels) {
+  checkLabels(bottom, (text) => axis.right + (text.replaceAll(",", "") * 380) / top, [axis.left, base.right], name);
+  for (const label of side) {
     const row = data.find(([text]) => text === label.text);
     const middle = (label.top + label.bottom) / 2;
     const closest = bars.reduce((a, b) => (Math.abs(b.top + b.height / 2 - middle) < Math.abs(a.top + a.height / 2 - middle) ? b : a));
@@ -103,23 +135,43 @@ const requests = cases.map(({ typ, data, top, bottom, above, ...settings }) =>
 // "Principal, 12" becomes "Principal=12", so that tooltips tell bars from other images.
 const markup = render(amortix2, requests).map((text) => text.replaceAll(/alt="(\w+), (-?\d+)"/g, 'alt="$1=$2"'));
 
+const reset = "img{max-width:100%;height:auto}";
+const resets = ["", reset, `@layer base{${reset}}`,
+  `*,*::before,*::after{box-sizing:border-box;margin:0;padding:0;border:0;font:inherit;vertical-align:baseline}
+   html{line-height:1.15} body{line-height:1.5} table{border-collapse:collapse;border-spacing:0;width:100%}
+   img,svg,video{display:block;max-width:100%!important;height:auto!important} td,th{padding:8px}`];
+const pages = ["", "<!DOCTYPE html>"].flatMap((doctype) => [
+  { doctype, css: "td img{display:block}", kit: false },
+  ...resets.map((css, i) => ({ doctype, css, width: i % 2 ? 360 : 1200, shadow: false })),
+  { doctype, css: resets[3], width: 360, shadow: true },
+  { doctype, css: `${reset} body{background:#111;color:#eee}`, width: 1200, attributes: 'dir="rtl"' },
+]);
+
 const browser = await chromium.launch({
   executablePath,
   args: ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
          "--disable-background-networking", "--disable-component-update", "--disable-sync"],
 });
+let body;
 try {
-  const page = await browser.newPage({ viewport: { width: 900, height: 900 } });
-  for (const doctype of ["", "<!DOCTYPE html>"]) {
-    for (const [i, one] of cases.entries()) {
-      await page.setContent(pageOf(markup[i], doctype), { waitUntil: "load" });
-      const boxes = await page.evaluate(measure);
-      const check = one.typ.startsWith("H") ? checkHorizontal : checkUpright;
-      check(one, boxes, `${one.typ}, ${one.data.length - 1} rows, ${doctype || "quirks"}`);
-    }
+  const page = await browser.newPage();
+  await page.route("http://charts.test/", (route) => route.fulfill({ contentType: "text/html", body }));
+  for (const one of pages) {
+    await page.setViewportSize({ width: one.width ?? 900, height: 900 });
+    body = pageOf(markup.map((chart) => `<div class="one">${chart}</div>`).join("\n"), one);
+    await page.goto("http://charts.test/");
+    const measured = await page.evaluate(measure);
+    expect(measured.length === cases.length, `${measured.length} charts`);
+    measured.forEach((boxes, i) => {
+      const { typ, data } = cases[i];
+      const name = `${typ}, ${data.length - 1} rows, page ${pages.indexOf(one)}`;
+      for (const off of boxes.sizes) expect(near(off[0], 0, 0) && near(off[1], 0, 0), `${name}: an image is off by ${off}`);
+      (typ.startsWith("H") ? checkHorizontal : checkUpright)(cases[i], boxes, name, one.kit ?? true);
+    });
+    if (process.env.CHARTS_SHOTS) await page.screenshot({ path: `${process.env.CHARTS_SHOTS}/${pages.indexOf(one)}.png` });
   }
 } finally {
   await browser.close();
 }
-console.log(failures.length ? failures.slice(0, 20).join("\n") : `${2 * cases.length} charts stand as they should`);
+console.log(failures.length ? failures.slice(0, 20).join("\n") : `${pages.length * cases.length} charts stand as they should`);
 process.exitCode = failures.length ? 1 : 0;
