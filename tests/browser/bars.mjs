@@ -4,6 +4,7 @@
 //
 //     node bars.mjs AMORTIX2 CHROMIUM      with playwright-core in ./node_modules of the working directory
 
+import { existsSync, readFileSync, readdirSync } from "node:fs";
 import { createRequire } from "node:module";
 import { chart } from "../../examples/gallery/charts.mjs";
 import { page as pageOf, render } from "../../examples/gallery/gallery.mjs";
@@ -146,6 +147,15 @@ const pages = ["", "<!DOCTYPE html>"].flatMap((doctype) => [
   { doctype, css: resets[3], width: 360, shadow: true },
   { doctype, css: `${reset} body{background:#111;color:#eee}`, width: 1200, attributes: 'dir="rtl"' },
 ]);
+
+// What the example pages name lies beside them.
+const examples = new URL("../../examples/pages/", import.meta.url);
+for (const file of readdirSync(examples).filter((name) => name.endsWith(".asp"))) {
+  const text = readFileSync(new URL(file, examples), "utf8");
+  const named = text.match(/images\/\w+\.gif|\w+[\w-]*\.css/g) ?? [];
+  const own = text.includes("BarChart") ? ["images/spacer_black.gif", "images/space.gif"] : [];
+  for (const name of [...named, ...own]) expect(existsSync(new URL(name, examples)), `${file}: there is no ${name}`);
+}
 
 const browser = await chromium.launch({
   executablePath,
