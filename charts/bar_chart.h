@@ -30,9 +30,9 @@ class BarChart {
   /// Raises SubscriptOutOfRange for a table that is not two-dimensional and for a list that is too short or
   /// no list, DivisionByZero for a table without rows or series and for settings that leave the bars no
   /// width, Overflow for numbers too large to draw, TypeMismatch for a text that is none, OutOfMemory for a
-  /// chart of more than 2^26 characters; `vRes` is then as it was. Only "SR" changes its arguments: it turns round the
-  /// order of the series in `vColDat`, `Colgif` and `Colleg`, in all of them or (when one is too short) in
-  /// none.
+  /// chart of more than 2^26 characters; `vRes` is then as it was. Only "SR" changes its arguments: it turns
+  /// round the order of the series in `vColDat`, `Colgif` and `Colleg`, in all of them or (when one is too
+  /// short) in none.
   void MakeChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Variant& Colleg, Variant& Ttl,
                  Variant& Xaxis, Variant& Yaxis, Variant& vRes, const Variant& typ = kMissing);
 

@@ -216,14 +216,14 @@ std::vector<LabelCell> GroupLabelCells(std::int32_t groups, Pixels pitch, Pixels
 std::vector<LabelCell> GridLabelCells(const GridLabelWidths& labelWidths, ValueLabels labels, Pixels width) {
   using enum LabelCell::Kind;
   const int stride = LabelStride(labelWidths, labels, width);
-  const int last = kGridIntervals / stride;
+  const Pixels last = kGridIntervals / stride;
   const Pixels firstWidth = labelWidths.back();
   const Pixels lastWidth = labelWidths.front();
-  const auto lineOf = [&](int cell) { return kGridIntervals - cell * stride; };
+  const auto lineOf = [&](Pixels cell) { return static_cast<std::int32_t>(kGridIntervals - cell * stride); };
   LabelRow row;
   // Cells that meet half way between their lines have each label centred on its own, and give the ends half.
   if (2 * last * std::max(firstWidth, lastWidth) <= width) {
-    for (int cell = 0; cell < last; ++cell) {
+    for (Pixels cell = 0; cell < last; ++cell) {
       row.Add(cell == 0 ? Left : Middle, row.Covered(), width * (2 * cell + 1) / (2 * last), lineOf(cell));
     }
     row.Add(Right, row.Covered(), width + 1, 0);
@@ -231,7 +231,7 @@ std::vector<LabelCell> GridLabelCells(const GridLabelWidths& labelWidths, ValueL
   }
   const Pixels half = (WidestInside(labelWidths, stride) + 1) / 2;
   row.Add(Left, 0, std::min(firstWidth, width / 2), kGridIntervals);
-  for (int cell = 1; cell < last; ++cell) {
+  for (Pixels cell = 1; cell < last; ++cell) {
     const Pixels centre = width * cell / last;
     row.Add(Middle, centre - half, centre + half, lineOf(cell));
   }

@@ -23,7 +23,7 @@ constexpr auto kWidths = [] {
   std::array<std::uint8_t, 128> widths{};
   widths.fill(64);  // digits and most small letters
   for (const Class& one : kClasses) {
-    for (const char c : one.characters) widths[static_cast<std::size_t>(c)] = one.width;
+    for (const char c : one.characters) widths[static_cast<unsigned char>(c)] = one.width;
   }
   return widths;
 }();

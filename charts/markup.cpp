@@ -16,7 +16,7 @@ Array MarkupWriter::Finish() {
   } else {
     lines_.emplace_back();
   }
-  return Array(0, std::move(lines_));
+  return {0, std::move(lines_)};
 }
 
 std::string SignedText(std::int64_t number) { return (number >= 0 ? " " : "") + std::to_string(number); }

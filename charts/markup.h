@@ -78,6 +78,8 @@ class MarkupWriter {
     lines_.emplace_back();
   }
 
+  static std::size_t MostOf(const char*) = delete;  // a literal without its suffix
+
   /// Appends a fragment to the current line. Its parts: Markup, whose placeholders are quotes already; texts
   /// of the page (std::string, std::string_view), in which "%%" and a lone "%" both come out as one; and
   /// numbers.
@@ -136,7 +138,6 @@ class MarkupWriter {
     if (number.value >= 0) *out++ = ' ';
     return Put(out, number.value);
   }
-  static std::size_t MostOf(const char*) = delete;  // a literal without its suffix
 
   void Reserve(std::size_t characters) {
     if (line_.size() - used_ < characters) line_.resize(2 * (used_ + characters));
