@@ -1,6 +1,7 @@
 // One bar chart of twelve groups of three series, and what is the least that its bytes cost:
 //
 //     Chart/style               a whole request, from the page's table to the array of lines
+//     Svg/style                 the same request as an SVG picture
 //     TextsAlone/style          an array of the same lines, each a text of its own: what the form of the
 //     result costs OneAppend/style           the chart's bytes appended to a string at once
 
@@ -13,6 +14,7 @@
 
 #include "amortix2/automation/array.h"
 #include "amortix2/charts/bar_chart.h"
+#include "amortix2/charts/svg_chart.h"
 
 namespace amortix2 {
 namespace {
@@ -73,6 +75,17 @@ void Chart(benchmark::State& state, const char* style) {
   CountBytes(state, page);
 }
 
+void Svg(benchmark::State& state, const char* style) {
+  Page page;
+  const SvgChart chart;
+  for (auto _ : state) {
+    chart.MakeChart(page.table, page.blank, page.images, page.legends, page.titles, page.xCaption,
+                    page.yCaption, page.result, style);
+    benchmark::DoNotOptimize(page.result);
+  }
+  state.counters["kB"] = static_cast<double>(page.result.GetString().size()) / 1000;
+}
+
 void TextsAlone(benchmark::State& state, const char* style) {
   Page page;
   page.Draw(style);
@@ -102,6 +115,7 @@ void OneAppend(benchmark::State& state, const char* style) {
 
 #define AMORTIX2_BENCH_STYLE(name, style)     \
   BENCHMARK_CAPTURE(Chart, name, style);      \
+  BENCHMARK_CAPTURE(Svg, name, style);        \
   BENCHMARK_CAPTURE(TextsAlone, name, style); \
   BENCHMARK_CAPTURE(OneAppend, name, style)
 

@@ -220,7 +220,7 @@ void SvgAxes::MeasureRows() {
 }
 
 void SvgAxes::DrawGrid(EscapedMarkup& out) const {
-  out.Open("g", {{"class", "grid"}, {"stroke", "currentColor"}, {"shape-rendering", "crispEdges"}});
+  out.Open("g", {{"class", "chart-grid"}, {"stroke", "currentColor"}, {"shape-rendering", "crispEdges"}});
   for (const AxisTick& tick : values_) {
     const double at = plot_.ValueAt(tick.value);
     if (plot_.IsHorizontal()) {
@@ -264,7 +264,7 @@ void SvgAxes::DrawLabels(EscapedMarkup& out) const {
   const auto& axis = input_.axis;
   const double zero = plot_.ValueAt(std::clamp(0.0, axis.bottom, axis.top));
   const bool across = plot_.IsHorizontal();
-  out.Leaf("line", {{"class", "zero"},
+  out.Leaf("line", {{"class", "chart-zero"},
                     {"stroke", "currentColor"},
                     {"shape-rendering", "crispEdges"},
                     {"x1", across ? zero : plot_.Left()},
@@ -272,14 +272,14 @@ void SvgAxes::DrawLabels(EscapedMarkup& out) const {
                     {"y1", across ? plot_.Top() : zero},
                     {"y2", across ? plot_.Bottom() : zero}});
   out.Break();
-  out.Open("g", {{"class", "xyaxis"}, {"font-size", kLabelSize}});
+  out.Open("g", {{"class", "chart-labels"}, {"font-size", kLabelSize}});
   for (const AxisTick& tick : values_) {
     const double at = plot_.ValueAt(tick.value);
     const double x = across ? at : plot_.Left() - kBesidePlot;
     const double y = across ? plot_.Bottom() + kBesidePlot + kLabelSize : at + kAscent * kLabelSize;
-    out.TextElement("text",
-                    {{"class", "muted"}, {"x", x}, {"y", y}, {"text-anchor", across ? "middle" : "end"}},
-                    tick.text);
+    out.TextElement(
+        "text", {{"class", "chart-muted"}, {"x", x}, {"y", y}, {"text-anchor", across ? "middle" : "end"}},
+        tick.text);
   }
   out.Break();
   for (const RowLabel& label : rows_) DrawRowLabel(out, label);

@@ -146,7 +146,7 @@ class BarPainter {
     const Band band{0, plot_.RowLength() / std::max<double>(1, input_.table.Rows()), 1, 1};
     const auto slot = Slot(band, 0);
     const bool separated = touching && slot.second - slot.first >= kSeparatedFrom;
-    out.Open("g", {{"class", SeriesClass(index) + (separated ? " halo" : "")},
+    out.Open("g", {{"class", SeriesClass(index) + (separated ? " chart-halo" : "")},
                    {"fill", "currentColor"},
                    Attribute::If(separated, {"stroke-width", 1})});
     for (const Bar& bar : bars) {

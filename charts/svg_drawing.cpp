@@ -69,8 +69,8 @@ class Picture {
     const SvgLegend legend(input_, width_ - 2 * kMargin);
     const double middle = width_ / 2;
     y_ = kMargin;
-    Lines("title", input_.frameTitle, kFrameTitleSize, kBoldFactor, middle);
-    Lines("chtitle", input_.title, kTitleSize, kBoldFactor, middle);
+    Lines("chart-frame-title", input_.frameTitle, kFrameTitleSize, kBoldFactor, middle);
+    Lines("chart-title", input_.title, kTitleSize, kBoldFactor, middle);
     if (y_ > kMargin) y_ += kGap;
     const bool above = input_.settings.legend == LegendPlace::Above;
     if (above && legend.Height() > 0) {
@@ -78,13 +78,13 @@ class Picture {
       y_ += legend.Height() + kGap;
     }
     DrawPlot();
-    Lines("xylabel", input_.xTitle, kTextSize, kBoldFactor, plot_.Left() + plot_.Width() / 2);
+    Lines("chart-axis-title", input_.xTitle, kTextSize, kBoldFactor, plot_.Left() + plot_.Width() / 2);
     if (!above && legend.Height() > 0) {
       legend.Draw(body_, middle, y_ + kGap);
       y_ += legend.Height() + kGap;
     }
     y_ += input_.settings.caption.empty() ? 0 : kGap;
-    Lines("muted", input_.settings.caption, kTextSize, 1, middle);
+    Lines("chart-muted", input_.settings.caption, kTextSize, 1, middle);
     y_ += kMargin;
   }
 
@@ -114,10 +114,10 @@ class Picture {
     if (!input_.settings.useStyleSheets) {
       out.TextElement("style", {}, StyleSheet(id, input_.colours, input_.table.names.size()));
       out.Break();
-      out.Leaf("rect", {{"class", "paper"}, {"width", width_}, {"height", y_}});
+      out.Leaf("rect", {{"class", "chart-paper"}, {"width", width_}, {"height", y_}});
     }
     if (HasFrame()) {
-      out.Leaf("rect", {{"class", "frame grid"},
+      out.Leaf("rect", {{"class", "chart-frame chart-grid"},
                         {"x", 1},
                         {"y", 1},
                         {"width", width_ - 2},
@@ -175,7 +175,7 @@ class Picture {
       y_ += kTextSize;
       const double room = width_ - 2 * kMargin;
       body_.TextElement("text",
-                        {{"class", "xylabel"},
+                        {{"class", "chart-axis-title"},
                          {"x", kMargin},
                          {"y", y_},
                          {"font-size", kTextSize},
@@ -188,7 +188,7 @@ class Picture {
     y_ += labelled ? kHeadroom : kTextSize / 2;
     plot_.MoveTo(left, y_);
     if (!input_.colours.plot.empty() && !input_.style.line) {
-      body_.Leaf("rect", {{"class", "plot"},
+      body_.Leaf("rect", {{"class", "chart-plot"},
                           {"x", plot_.Left()},
                           {"y", plot_.Top()},
                           {"width", plot_.Width()},

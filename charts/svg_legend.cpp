@@ -61,7 +61,7 @@ void SvgLegend::DrawSample(EscapedMarkup& out, const Entry& entry, double x, dou
 
 void SvgLegend::Draw(EscapedMarkup& out, double x, double top) const {
   if (rows_.empty()) return;
-  out.Open("g", {{"class", "legend"}, {"font-size", kSize}});
+  out.Open("g", {{"class", "chart-legend"}, {"font-size", kSize}});
   double y = top + kRowHeight / 2;
   for (const Row& row : rows_) {
     double left = x - row.width / 2;

@@ -113,7 +113,7 @@ class LinePainter {
                         {point.x - kMarkerRadius, point.y - kMarkerRadius, point.x + kMarkerRadius,
                          point.y + kMarkerRadius}});
       if (!hasPoints_) continue;
-      out.Open("g", {{"class", "point"}, Attribute::If(!input_.settings.markers, {"fill-opacity", 0})});
+      out.Open("g", {{"class", "chart-point"}, Attribute::If(!input_.settings.markers, {"fill-opacity", 0})});
       DrawMarker(out, static_cast<std::size_t>(series) - 1, point.x, point.y, kMarkerRadius);
       out.TextElement("title", {}, MarkTitle(input_, row, series));
       out.Close();

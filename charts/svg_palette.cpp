@@ -47,12 +47,12 @@ class Rules {
     (((((((text_ += '#') += id_) += selector) += '{') += property) += ':') += value) += '}';
   }
   void AddScheme(const Scheme& scheme, const GivenColours& given, std::size_t series) {
-    Add(" .paper", "fill", scheme.paper);
-    Add(" .halo", "stroke", scheme.paper);
+    Add(" .chart-paper", "fill", scheme.paper);
+    Add(" .chart-halo", "stroke", scheme.paper);
     Add(" text", "fill", scheme.ink);
-    Add(" .muted", "fill", scheme.muted);
-    Add(" .grid", "stroke", scheme.grid);
-    Add(" .zero", "stroke", scheme.zero);
+    Add(" .chart-muted", "fill", scheme.muted);
+    Add(" .chart-grid", "stroke", scheme.grid);
+    Add(" .chart-zero", "stroke", scheme.zero);
     for (std::size_t i = 0; i < series; ++i) {
       if (i < given.series.size() && !given.series[i].empty()) continue;
       Add(" ." + SeriesClass(i), "color", scheme.series[i % kSeriesColours]);
@@ -113,8 +113,9 @@ GivenColours ReadPaletteColours(const Variant& palette, std::size_t series) {
 
 std::string StyleSheet(std::string_view id, const GivenColours& given, std::size_t series) {
   Rules rules(id);
+  rules.Add(" text", "letter-spacing", "normal;word-spacing:normal");  // else inherited from the page
   rules.AddScheme(kLight, given, series);
-  if (!given.plot.empty()) rules.Add(" .plot", "fill", given.plot);
+  if (!given.plot.empty()) rules.Add(" .chart-plot", "fill", given.plot);
   for (std::size_t i = 0; i < given.series.size() && i < series; ++i) {
     if (!given.series[i].empty()) rules.Add(" ." + SeriesClass(i), "color", given.series[i]);
   }
@@ -126,6 +127,6 @@ std::string StyleSheet(std::string_view id, const GivenColours& given, std::size
   return rules.Release();
 }
 
-std::string SeriesClass(std::size_t series) { return "series" + std::to_string(series + 1); }
+std::string SeriesClass(std::size_t series) { return "chart-series" + std::to_string(series + 1); }
 
 }  // namespace amortix2

@@ -39,7 +39,7 @@ GivenColours ReadPaletteColours(const Variant& palette, std::size_t series);
 /// The style sheet of one chart, whose rules reach only the element `id`.
 std::string StyleSheet(std::string_view id, const GivenColours& given, std::size_t series);
 
-/// The class of a series, from 0, in that style sheet ("series1").
+/// The class of a series, from 0, in that style sheet ("chart-series1").
 std::string SeriesClass(std::size_t series);
 
 }  // namespace amortix2

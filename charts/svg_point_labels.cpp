@@ -40,7 +40,7 @@ SvgBox RightOf(const SvgMark& mark, double width) {
 
 void Write(EscapedMarkup& out, const PointLabel& label) {
   out.TextElement("text",
-                  {{"class", "value halo"},
+                  {{"class", "chart-value chart-halo"},
                    {"x", (label.box.left + label.box.right) / 2},
                    {"y", label.box.bottom - kDistance},
                    {"text-anchor", "middle"}},

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <system_error>
 
 #include "amortix2/automation/conversion.h"
 #include "amortix2/automation/date.h"
@@ -15,15 +17,18 @@
 namespace amortix2 {
 namespace {
 
-// Digits and exponent are kept apart, so that 3 tenths are 3 / 10 and not 3 * 0.1.
+// Kept in decimal, so that three tenths are the double nearest to 0.3 and not three times that of 0.1.
 struct RoundStep {
   int digit = 1;
   int exponent = 0;
 
+  /// Infinite beyond the doubles.
   double Times(double count) const {
-    double power = 1;
-    for (int i = std::abs(exponent); i > 0; --i) power *= 10;
-    return exponent < 0 ? count * digit / power : count * digit * power;
+    const std::string text = std::to_string(std::llround(count * digit)) + 'e' + std::to_string(exponent);
+    double value = 0;
+    const bool fits = std::from_chars(text.data(), text.data() + text.size(), value).ec == std::errc();
+    if (fits || exponent < 0) return value;
+    return count < 0 ? -HUGE_VAL : HUGE_VAL;
   }
 };
 

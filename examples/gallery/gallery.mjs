@@ -9,6 +9,7 @@ import { mkdirSync, readFileSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
 import { pathToFileURL } from "node:url";
 import { pages } from "./charts.mjs";
+import { charts as pictures } from "./svg_charts.mjs";
 
 /** The markup of every request, in order. */
 export function render(amortix2, requests) {
@@ -18,7 +19,7 @@ export function render(amortix2, requests) {
   return run.stdout.trim().split("\n").map((line) => {
     const reply = JSON.parse(line);
     if (reply.error) throw new Error(`${reply.id}: ${reply.error.name}`);
-    return reply.results.vRes.filter((text) => text !== null).join("\n");
+    return [reply.results.vRes].flat().filter((text) => text !== null).join("\n");
   });
 }
 
@@ -39,6 +40,8 @@ function main(amortix2, folder) {
     writeFileSync(join(folder, file), page(render(amortix2, charts).join("<hr>\n")));
     return `<li><a href="${file}">${name}</a></li>`;
   });
+  writeFileSync(join(folder, "svg.html"), page(render(amortix2, pictures).join("\n")));
+  links.push(`<li><a href="svg.html">SVG pictures</a></li>`);
   writeFileSync(join(folder, "index.html"), page(`<ul>${links.join("\n")}</ul>`));
 }
 

@@ -1,0 +1,298 @@
+#include "amortix2/charts/svg_chart.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/charts/escaped_markup.h"
+#include "amortix2/charts/gif_chart.h"
+#include "amortix2/charts/svg_scale.h"
+#include "amortix2/charts/text_width.h"
+#include "automation/raises.h"
+#include "charts/bar_page.h"
+#include "charts/svg_page.h"
+
+namespace amortix2 {
+namespace {
+
+const std::string_view kStyles[] = {"plain", "OV", "OL", "OR", "ST", "SR", "LINE", "HZ", "HR"};
+
+std::string Bars(const SvgChart& chart, const Variant& table, const Variant& style) {
+  Variant svg;
+  chart.MakeChart(table, "", "", "", List({"", "", "Chart"}), "X", "Y", svg, style);
+  return std::string(svg.GetString());
+}
+
+std::string Lines(const SvgChart& chart, const Variant& table) {
+  Variant svg;
+  chart.LineChart(table, "", "", svg);
+  return std::string(svg.GetString());
+}
+
+Array Numbers(std::int32_t rows, std::int32_t series, double (*cell)(int, int)) {
+  Array table({0, rows}, {0, series});
+  table.At(0, 0) = "";
+  for (std::int32_t row = 1; row <= rows; ++row) {
+    table.At(row, 0) = std::string_view("r" + std::to_string(row));
+    for (std::int32_t column = 1; column <= series; ++column) table.At(row, column) = cell(row, column);
+  }
+  return table;
+}
+
+// Each bar is as long as its value on the axis that the HTML chart of the same request has, and stands on
+// zero or, in stacks, on the bar below.
+TEST(SvgChart, BarsStandForTheirValues) {
+  double (*const cells[])(int, int) = {
+      [](int row, int series) { return 3.0 * row + 7 * series; },
+      [](int row, int series) { return std::round(50 * std::sin(1.7 * row + series)) + 0.25; },
+      [](int row, int series) { return -1e6 * row / series; },
+  };
+  for (const auto& cell : cells) {
+    for (const std::string_view style : kStyles) {
+      for (const int negativeBars : {0, 1}) {
+        SCOPED_TRACE(testing::Message() << style << " " << (&cell - cells) << " " << negativeBars);
+        const Array table = Numbers(6, 3, cell);
+        SvgChart chart;
+        chart.SetGraphDimensions(200, 400);
+        chart.AltFormatStr("0.00");
+        chart.NegativeBars(negativeBars);
+        Variant top, bottom, step;
+        chart.AxisRange(table, top, bottom, step, style);
+        BarChart html;
+        html.NegativeBars(negativeBars);
+        const bool htmlDrawsAll =
+            cell == cells[0] || negativeBars == 0 || (style[0] != 'S' && style[0] != 'H');
+        if (htmlDrawsAll) {
+          Variant htmlTop, htmlBottom, htmlStep;
+          html.AxisRange(table, htmlTop, htmlBottom, htmlStep, style);
+          EXPECT_EQ(top, htmlTop);
+          EXPECT_EQ(bottom, htmlBottom);
+          EXPECT_EQ(step, htmlStep);
+        }
+
+        const std::string svg = Bars(chart, table, style);
+        EXPECT_EQ(Malformed(svg), "");
+        const auto bars = BarsOf(svg);
+        ASSERT_EQ(bars.size(), 18u);
+        const bool across = style[0] == 'H';
+        const bool stacked = style[0] == 'S';
+        const double scale = (across ? 400 : 200) / (ToDouble(top) - ToDouble(bottom));
+        std::map<std::string, std::vector<std::pair<double, double>>> piles;  // ends, as values from zero
+        const double zero = [&] {
+          const std::regex line("class=\"chart-zero\"[^>]*x1=\"([^\"]*)\" x2=\"[^\"]*\" y1=\"([^\"]*)\"");
+          std::smatch found;
+          std::regex_search(svg, found, line);
+          return std::stod(found[across ? 1 : 2]);
+        }();
+        for (const SvgBar& bar : bars) {
+          const double length = (across ? bar.width : bar.height) / scale;
+          const double value = bar.Value();
+          const double tolerance = 0.03 / scale;
+          EXPECT_NEAR(length, std::abs(value), tolerance) << bar.title;
+          const double start = across ? (bar.x - zero) / scale : (zero - bar.y - bar.height) / scale;
+          EXPECT_TRUE(stacked || std::abs(start - std::min(value, 0.0)) < tolerance) << bar.title;
+          if (value != 0)
+            piles[bar.title.substr(0, 2) + (value < 0 ? "-" : "+")].emplace_back(start, start + length);
+          const int row = bar.title[1] - '0';
+          const double centre = across ? bar.y + bar.height / 2 : bar.x + bar.width / 2;
+          const double first = across ? bars[0].y : bars[0].x;
+          const double pitch = (across ? 200.0 : 400.0) / 6;
+          EXPECT_TRUE(style == "HR" || centre - first < row * pitch) << bar.title;
+        }
+        for (auto& [name, pile] : piles) {
+          if (!stacked) continue;
+          std::ranges::sort(pile);
+          const bool below = name.back() == '-';
+          EXPECT_NEAR(below ? pile.back().second : pile.front().first, 0, 0.05 / scale) << name;
+          for (std::size_t i = 1; i < pile.size(); ++i)
+            EXPECT_NEAR(pile[i].first, pile[i - 1].second, 0.05 / scale);
+        }
+      }
+    }
+  }
+}
+
+TEST(SvgChart, ReversedStacksTurnTheSeriesAndNotTheArguments) {
+  const Array table = Table({{"", 0, 0}, {"A", 1, 2}});
+  SvgChart chart;
+  EXPECT_LT(BarsOf(Bars(chart, table, "ST"))[0].y, BarsOf(Bars(chart, table, "ST"))[1].y);
+  EXPECT_GT(BarsOf(Bars(chart, table, "SR"))[0].y, BarsOf(Bars(chart, table, "SR"))[1].y);
+  EXPECT_EQ(BarsOf(Bars(chart, Numbers(3, 1, [](int row, int) { return 1.0 * row; }), "HR"))[0].title,
+            "r3: $3");
+}
+
+TEST(SvgChart, WhatIsNoNumberIsAGap) {
+  const Array table =
+      Table({{"", "Rent"}, {"a", 1}, {"b", "n/a"}, {"c", Variant()}, {"d", 0}, {"e", kNull}, {"f", 4}});
+  const auto bars = BarsOf(Bars(SvgChart(), table, kMissing));
+  ASSERT_EQ(bars.size(), 3u);
+  EXPECT_EQ(bars[1].title, "d: $0");
+  const std::string svg = Lines(SvgChart(), table);
+  const std::string path = svg.substr(svg.find(" d=\""), 200);
+  EXPECT_EQ(std::ranges::count(path.substr(0, path.find("\" ")), 'M'), 3);
+}
+
+// Whatever stands in a text, the picture has the elements of its harmless twin.
+TEST(SvgChart, TextsAreEscapedEverywhere) {
+  const std::string evil = "</title><script>\"'&\x01\xFF\xED\xA0\x80%";
+  const auto draw = [](std::string_view text) {
+    SvgChart chart;
+    chart.Caption(text);
+    chart.AltFormatStr(std::string_view("0" + std::string(text)));
+    chart.YLableFormatStr(std::string_view("0\"" + std::string(text.substr(0, 6)) + "\""));
+    chart.ValueLabelMode("on");
+    Variant svg;
+    const Variant table = Table({{text, 0, 0}, {text, 1, 2}});
+    chart.MakeChart(table, text, List({text, text}), List({"", text, text}), List({"", text, text}), text,
+                    text, svg);
+    Variant html, words;
+    chart.DataTable(table, List({"", text, text}), text, html);
+    chart.AlternativeText(table, List({"", text, text}), text, words);
+    EXPECT_EQ(Malformed(std::string(svg.GetString()) + std::string(html.GetString())), "");
+    EXPECT_EQ(words.GetString().find_first_of("<>\"'"), std::string::npos);
+    return std::string(svg.GetString()) + std::string(html.GetString());
+  };
+  const std::string drawn = draw(evil);
+  EXPECT_EQ(drawn.find("<script"), std::string::npos);
+  EXPECT_EQ(drawn.find("script>\""), std::string::npos);
+  EXPECT_NE(drawn.find("\xEF\xBF\xBD"), std::string::npos);
+  EXPECT_EQ(std::ranges::count(drawn, '<'), std::ranges::count(draw(std::string(evil.size(), 'x')), '<'));
+}
+
+// A spike among ten thousand points is drawn at its full height, in a picture of bounded size.
+TEST(SvgChart, ThinningKeepsExtremes) {
+  Array table = Numbers(10000, 1, [](int row, int) { return std::round(100 * std::sin(row * 0.1)) + 200; });
+  table.At(4321, 1) = 900;
+  table.At(8765, 1) = -100;
+  SvgChart chart;
+  chart.NegativeBars(1);
+  chart.AltFormatStr("0");
+  Variant top, bottom, step;
+  chart.AxisRange(table, top, bottom, step);
+  for (const std::string& svg :
+       {Lines(chart, table), Bars(chart, table, kMissing), Bars(chart, table, "ST")}) {
+    EXPECT_LT(svg.size(), 150000u);
+  }
+  const auto bars = BarsOf(Bars(chart, table, kMissing));
+  const auto value = [](const SvgBar& bar) { return bar.Value(); };
+  EXPECT_EQ(std::ranges::max(bars, {}, value).title, "r4321: 900");
+  EXPECT_EQ(std::ranges::min(bars, {}, value).title, "r8765: -100");
+
+  const std::string svg = Lines(chart, table);
+  const std::string path = svg.substr(svg.find(" d=\"M") + 4);
+  const std::regex point("[ML]([^,]*),([^MLh\"]*)");
+  double highest = 1e9, lowest = 0;
+  const std::string points = path.substr(0, path.find('"'));
+  for (std::sregex_iterator at(points.begin(), points.end(), point), none; at != none; ++at) {
+    highest = std::min(highest, std::stod((*at)[2]));
+    lowest = std::max(lowest, std::stod((*at)[2]));
+  }
+  EXPECT_NEAR(lowest - highest, 1000 / (ToDouble(top) - ToDouble(bottom)) * 300, 0.02);
+}
+
+TEST(SvgChart, TableAndWordsSayWhatThePictureShows) {
+  const Array table =
+      Table({{"Year", "Principal", 0}, {"2001", 120.4, -40}, {"2002", 90, "none"}, {"2003", 95, 7}});
+  SvgChart chart;
+  Variant result;
+  chart.DataTable(table, List({"", "", "A<B"}), "Loan", result);
+  EXPECT_EQ(result.GetString(),
+            "<table><caption>Loan</caption>\n"
+            "<thead><tr><th scope=\"col\">Year</th><th scope=\"col\">Principal</th><th "
+            "scope=\"col\">A&lt;B</th></tr></thead>\n"
+            "<tbody><tr><th scope=\"row\">2001</th><td>$120</td><td>-$40</td></tr>\n"
+            "<tr><th scope=\"row\">2002</th><td>$90</td><td></td></tr>\n"
+            "<tr><th scope=\"row\">2003</th><td>$95</td><td>$7</td></tr>\n</tbody></table>");
+  chart.AlternativeText(table, List({"", "", "A<B"}), List({"", "", "Loan"}), result);
+  EXPECT_EQ(result.GetString(),
+            "Loan. Principal: first $120 (2001), last $95 (2003), least $90 (2002), largest $120 (2001). "
+            "A&lt;B: first -$40 (2001), last $7 (2003), least -$40 (2001), largest $7 (2003).");
+}
+
+TEST(SvgChart, BadTablesRaiseAndLeaveTheResult) {
+  using enum ErrorNumber;
+  const struct {
+    Variant table;
+    ErrorNumber error;
+  } cases[] = {
+      {5, SubscriptOutOfRange},
+      {List({1, 2}), SubscriptOutOfRange},
+      {Array({1, 2}, {0, 2}), SubscriptOutOfRange},
+      {Array({0, 2}, {0, 0}), DivisionByZero},
+      {Array({0, 0}, {0, 2}), DivisionByZero},
+      {Table({{"", 0}, {"A", 1.7e308}, {"B", -1.7e308}}), Overflow},
+      {Table({{"", 0}, {List({1}), 1}}), TypeMismatch},
+  };
+  SvgChart chart;
+  chart.NegativeBars(1);
+  for (const auto& c : cases) {
+    Variant svg = "before";
+    EXPECT_EQ(ErrorOf([&] { chart.MakeChart(c.table, "", "", "", "", "", "", svg); }), c.error) << &c - cases;
+    EXPECT_EQ(ErrorOf([&] { chart.LineChart(c.table, "", "", svg); }), c.error) << &c - cases;
+    EXPECT_EQ(svg, Variant("before"));
+  }
+  Variant top;
+  EXPECT_EQ(ErrorOf([&] {
+              GifChart().AxisRange(Array({0, 1}, {0, -1}), top, top, top);
+            }),
+            SubscriptOutOfRange);
+}
+
+// Worked out on paper: sums of stacks, row 0, and a GIF's values below zero.
+TEST(ChartAxis, IsAnsweredForEachKindOfChart) {
+  const Array table = Table({{"", 0, 290}, {"A", 100, 150}, {"B", -50, 10}});
+  Variant top, bottom, step;
+  BarChart bars;
+  const auto axis = [&] { return std::vector{ToDouble(top), ToDouble(bottom), ToDouble(step)}; };
+  bars.AxisRange(table, top, bottom, step);
+  EXPECT_EQ(axis(), (std::vector{300.0, 0.0, 30.0}));
+  bars.AxisRange(Table({{"", 0, 0}, {"A", 100, 150}}), top, bottom, step, "ST");
+  EXPECT_EQ(axis(), (std::vector{250.0 + 50, 0.0, 30.0}));
+  GifChart().AxisRange(Table({{"", 0}, {"A", 100}, {"B", -50}}), top, bottom, step);
+  EXPECT_EQ(axis(), (std::vector{100.0, -50.0, 15.0}));
+}
+
+TEST(SvgScale, RoundValuesAndDays) {
+  const struct {
+    double low, high;
+    int most;
+    std::vector<double> values;
+  } cases[] = {
+      {0, 300, 8, {0, 50, 100, 150, 200, 250, 300}},
+      {0, 1, 5, {0, 0.2, 0.4, 0.6, 0.8, 1}},
+      {-47, 140, 8, {0, 50, 100}},
+      {0.1, 0.3, 2, {0.1, 0.2, 0.3}},
+      {1e300, 3e300, 2, {1e300, 2e300, 3e300}},
+      {7, 7, 3, {7}},
+  };
+  for (const auto& c : cases) {
+    int decimals = 0;
+    EXPECT_EQ(RoundValues(c.low, c.high, c.most, decimals), c.values) << c.low;
+  }
+  const auto names = [](const Date& from, const Date& to) {
+    std::string text;
+    for (const AxisTick& tick : DateTicks(from.serial, to.serial, 6)) text += tick.text + " ";
+    return text;
+  };
+  EXPECT_EQ(names(MakeDate(2001, 1, 30), MakeDate(2001, 2, 3)),
+            "2001-01-30 2001-01-31 2001-02-01 2001-02-02 2001-02-03 ");
+  EXPECT_EQ(names(MakeDate(2001, 2, 2), MakeDate(2002, 1, 1)),
+            "Mar 2001 May 2001 Jul 2001 Sep 2001 Nov 2001 Jan 2002 ");
+  EXPECT_EQ(names(MakeDate(1999, 6, 1), MakeDate(2021, 1, 1)), "2000 2005 2010 2015 2020 ");
+}
+
+TEST(EscapedMarkup, NumbersHaveTwoDecimals) {
+  std::string text;
+  for (const double number : {0.0, -0.001, 0.005, 1.5, -2.25, 100.0, 1e300})
+    AppendNumber(text += ' ', number);
+  EXPECT_EQ(text, " 0 0 0.01 1.5 -2.25 100 1000000000000");
+  EXPECT_EQ(Wrap("one two three four", 45, 10, 2),
+            (std::vector<std::string>{"one two", "three f\xE2\x80\xA6"}));
+}
+
+}  // namespace
+}  // namespace amortix2
