@@ -6,6 +6,26 @@
 #include "amortix2/engine/loan_solver.h"
 
 namespace amortix2::calculators {
+namespace {
+
+/// Empties a table again that could not be filled.
+class Filling {
+ public:
+  explicit Filling(Array& table) : table_(table) {}
+  Filling(const Filling&) = delete;
+  Filling& operator=(const Filling&) = delete;
+  ~Filling() {
+    if (isFinished_) return;
+    for (Variant& cell : table_.Cells()) cell = {};
+  }
+  void Finish() { isFinished_ = true; }
+
+ private:
+  Array& table_;
+  bool isFinished_ = false;
+};
+
+}  // namespace
 
 LoanAnswer AnswerOf(tLoanDesc loan) {
   return {.amount = loan.startingBalance,
@@ -34,8 +54,20 @@ void LoanResults::Echo(double amount, double pay, double months, double rate, st
   detArray = std::move(detail);
 }
 
+Variant LoanResults::TakeTable(const LoanAnswer& answer, std::optional<Date> opening) const {
+  const std::int32_t lastRow = ToLong(answer.months);
+  Array& echoed = detArray.GetArray();
+  if (echoed.Dimension(1) != Bounds{0, lastRow} || echoed.Dimension(2) != Bounds{0, kDetailColumns}) {
+    return LoanTable(answer.schedule, lastRow, kDetailColumns, opening);
+  }
+  Filling filling(echoed);
+  LoadLoanTable(answer.schedule, opening, echoed);
+  filling.Finish();
+  return std::move(detArray);
+}
+
 void LoanResults::Write(const LoanAnswer& answer, std::optional<Date> opening) const {
-  Array detail = LoanTable(answer.schedule, ToLong(answer.months), kDetailColumns, opening);
+  Variant detail = TakeTable(answer, opening);
   purchaseAmt = answer.amount;
   payment = answer.payment;
   intRate = answer.annualPercent;

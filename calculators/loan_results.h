@@ -29,8 +29,12 @@ struct LoanResults {
   void Echo(double amount, double pay, double months, double rate,
             std::int32_t lastColumn = kDetailColumns) const;
 
-  /// Row 0 of the table is dated `opening`, line 0's date without one.
+  /// After Echo, whose table is filled where it has the answer's rows. Row 0 is dated `opening`, line 0's
+  /// date without one.
   void Write(const LoanAnswer& answer, std::optional<Date> opening = {}) const;
+
+ private:
+  Variant TakeTable(const LoanAnswer& answer, std::optional<Date> opening) const;
 };
 
 }  // namespace amortix2::calculators

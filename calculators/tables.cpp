@@ -13,10 +13,15 @@ Array Table(std::int32_t lastRow, std::int32_t lastColumn) {
 
 Array LoanTable(std::span<const tSchedule> lines, std::int32_t lastRow, std::int32_t lastColumn,
                 std::optional<Date> opening) {
-  if (lines.empty()) Raise(ErrorNumber::SubscriptOutOfRange);
   Array table = Table(lastRow, lastColumn);
-  LoadDetArray(lines, opening.value_or(lines.front().lineDate), 1, ToInteger(lastRow), table);
+  LoadLoanTable(lines, opening, table);
   return table;
+}
+
+void LoadLoanTable(std::span<const tSchedule> lines, std::optional<Date> opening, Array& table) {
+  if (lines.empty()) Raise(ErrorNumber::SubscriptOutOfRange);
+  const std::int16_t lastRow = ToInteger(table.Dimension(1).upper);
+  LoadDetArray(lines, opening.value_or(lines.front().lineDate), 1, lastRow, table);
 }
 
 Array SavingsTable(std::span<const tSchedule> lines, std::int32_t lastRow) {

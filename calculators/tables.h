@@ -25,6 +25,9 @@ Array Table(std::int32_t lastRow, std::int32_t lastColumn = kDetailColumns);
 Array LoanTable(std::span<const tSchedule> lines, std::int32_t lastRow,
                 std::int32_t lastColumn = kDetailColumns, std::optional<Date> opening = {});
 
+/// Fills a table's rows as LoanTable does. The rows before a line that is not there stay written.
+void LoadLoanTable(std::span<const tSchedule> lines, std::optional<Date> opening, Array& table);
+
 /// A plan's lines 0 to lastRow from column 1 on. Raises as LoanTable does.
 Array SavingsTable(std::span<const tSchedule> lines, std::int32_t lastRow);
 
