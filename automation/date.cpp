@@ -29,9 +29,9 @@ Date Checked(std::int64_t serial) {
 // as a word would cost more than all the arithmetic.
 static_assert(std::endian::native == std::endian::little);
 
-/// The two digits of 0 to 99 as characters, the tens lowest.
-constexpr std::array<std::uint16_t, 100> kTwoDigits = [] {
-  std::array<std::uint16_t, 100> digits{};
+/// The two digits of 0 to 99 as characters, the tens lowest. 128 of them, so that no index needs a division.
+constexpr std::array<std::uint16_t, 128> kTwoDigits = [] {
+  std::array<std::uint16_t, 128> digits{};
   for (std::size_t i = 0; i < digits.size(); ++i) {
     digits[i] = static_cast<std::uint16_t>(('0' + i / 10) | ('0' + i % 10) << 8);
   }
