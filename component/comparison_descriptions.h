@@ -10,7 +10,10 @@ namespace amortix2::describing {
 
 inline constexpr Param kCurrBal = Money("vCurrBal", "Balance", "Owed on the current loan").Example("150000");
 inline constexpr Param kCurrPay =
-    MonthlyMoney("vCurrPay", "Monthly payment", "Payment of the current loan a month").Example("1300");
+    MonthlyMoney(
+        "vCurrPay", "Monthly payment",
+        "Payment of the current loan a month; one below its interest counts as the whole debt, at once")
+        .Example("1300");
 inline constexpr Param kCurrRate =
     kIntRate.Named("vCurrRate").Says("Nominal rate of the current loan a year").Example("8");
 

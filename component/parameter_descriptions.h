@@ -116,7 +116,9 @@ inline constexpr Param kFreq =
 
 inline constexpr Param kResPayment =
     Result("vResPayment", "Monthly payment", Unit::MonthlyCurrency, "Level payment a month");
-inline constexpr Param kResPeriod = Result("vResPeriod", "Term", Unit::Months, "Number of monthly payments");
+inline constexpr Param kResPeriod = Result(
+    "vResPeriod", "Term", Unit::Months,
+    "Number of monthly payments; 1, for the whole debt, where the payment does not cover the interest");
 inline constexpr Param kResIntRate =
     Result("vResIntRate", "Interest rate", Unit::AnnualPercent, "Nominal rate a year");
 inline constexpr Param kTotPay =
