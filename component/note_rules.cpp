@@ -320,7 +320,7 @@ void Spending(NoteWriter& notes) {
   const FirstPeriod first = Begin(notes, 0, -notes.Number("vPayment"), Frequency(notes));
   if (first.IsPast()) {
     notes.OnInput("goal-passed", "vPayment", "is more than there is at the first withdrawal");
-  } else if (notes.Out().Number("vResPeriod") == -1.0) {
+  } else if (!first.ComesCloser()) {
     notes.About("lasts-for-ever", "vPayment", "The interest covers it, so that the balance lasts for ever.");
   }
 }

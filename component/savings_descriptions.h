@@ -168,6 +168,15 @@ inline constexpr auto kMembers = std::tuple{
 
 // ---- Retirement
 
+/// A withdrawal that came back larger is the engine's sign that the interest is more than it.
+inline constexpr SentenceInfo kLastsForEver{
+    .text = "The interest covers the withdrawals: the balance lasts for ever.",
+    .when = SentenceInfo::When::Above,
+    .figure = "vResPayment",
+    .input = "vPayment"};
+inline constexpr SentenceInfo kLastsForEverExactly{
+    .text = kLastsForEver.text, .when = SentenceInfo::When::Equal, .figure = "vResPeriod", .value = -1};
+
 inline constexpr auto kRetirementMembers = std::tuple{
     method<&Calculator::IRACalculator>(
         {
@@ -229,11 +238,8 @@ inline constexpr auto kRetirementMembers = std::tuple{
                                     .when = SentenceInfo::When::Below,
                                     .figure = "vResPayment",
                                     .input = "vPayment"},
-                                   {.text =
-                                        "The interest covers the withdrawals: the balance lasts for ever.",
-                                    .when = SentenceInfo::When::Equal,
-                                    .figure = "vResPeriod",
-                                    .value = -1},
+                                   kLastsForEver,
+                                   kLastsForEverExactly,
                                    {"The balance lasts for {vResPeriod}."}},
                      .needs = {"vPayment", "vCurrBal"}},
                     {.input = "vPayment",

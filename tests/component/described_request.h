@@ -1,0 +1,116 @@
+#pragma once
+
+// Requests made from the description: "loan + vPayment=1500" is the example request of the member whose
+// address is "loan", with one input changed ("-" leaves it out, "_" is a blank; without "+" nothing but what
+// is named is given).
+
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/error.h"
+#include "amortix2/component/call_values.h"
+#include "amortix2/component/invocation.h"
+#include "amortix2/component/notes.h"
+
+namespace amortix2 {
+
+class FixedDay final : public Clock {
+ public:
+  Date Today() const override { return MakeDate(2026, 11, 21); }
+};
+
+inline Variant FromJson(const nlohmann::json& json) {
+  if (json.is_null()) return {};
+  if (json.is_number()) return json.get<double>();
+  if (json.is_string()) return std::string_view(json.get_ref<const std::string&>());
+  const auto last = static_cast<std::int32_t>(json.size()) - 1;
+  const bool isTable = !json.empty() && json[0].is_array();
+  if (!isTable) {
+    Array list({0, last});
+    for (std::int32_t i = 0; i <= last; ++i) list.At(i) = FromJson(json[static_cast<std::size_t>(i)]);
+    return list;
+  }
+  Array table({0, last}, {0, static_cast<std::int32_t>(json[0].size()) - 1});
+  for (std::size_t row = 0; row < json.size(); ++row) {
+    for (std::size_t column = 0; column < json[row].size(); ++column) {
+      table.At(static_cast<std::int64_t>(row), static_cast<std::int64_t>(column)) =
+          FromJson(json[row][column]);
+    }
+  }
+  return table;
+}
+
+/// One call of a described member: its inputs, what came back, and the error if there was one.
+class DescribedRequest {
+ public:
+  explicit DescribedRequest(const ClassMember& member) : type_(member.type), call_(*member.member) {}
+  explicit DescribedRequest(const std::string& text) : DescribedRequest(Addressed(text)) {
+    std::istringstream words(text);
+    std::string word;
+    words >> word;
+    while (words >> word) {
+      const std::size_t equals = word.find('=');
+      if (word == "+") {
+        GiveExamples();
+      } else {
+        Give(word.substr(0, equals), word.substr(equals + 1));
+      }
+    }
+    Call();
+  }
+
+  void GiveExamples() {
+    for (const ParameterInfo& parameter : Member().parameters) {
+      if (parameter.IsInput() && !parameter.example.empty())
+        Give(parameter.name, std::string(parameter.example));
+    }
+  }
+  void Give(std::string_view name, std::string text) {
+    for (char& c : text) c = c == '_' ? ' ' : c;
+    const ParameterInfo& parameter = *FindParameter(Member(), name);
+    Value& place = call_.Arguments()[static_cast<std::size_t>(&parameter - Member().parameters.data())];
+    if (parameter.type->kind != TypeKind::Variant) return;
+    const bool isJson = text.starts_with('[');
+    parameter.type->write(place.Get(), text == "-" ? Variant()
+                                       : isJson    ? FromJson(nlohmann::json::parse(text))
+                                                   : Variant(std::string_view(text)));
+  }
+  void Call() {
+    inputs_.emplace(Member(), call_.Arguments());
+    Object object(*type_, clock_);
+    try {
+      call_.Call(object);
+    } catch (const AutomationError& failure) {
+      error_ = failure.Number();
+    }
+  }
+
+  const MemberInfo& Member() const { return call_.Member(); }
+  const Inputs& In() const { return *inputs_; }
+  Results Out() const { return {Member(), call_.Arguments()}; }
+  const std::optional<ErrorNumber>& Error() const { return error_; }
+  std::vector<Note> Notes() const { return NotesOn(In(), Out(), clock_.Today()); }
+
+ private:
+  static const ClassMember& Addressed(const std::string& text) {
+    const std::string address = text.substr(0, text.find(' '));
+    for (const ClassMember& member : MembersInOrder()) {
+      if (member.member->address == address) return member;
+    }
+    throw std::runtime_error("no member is called " + address);
+  }
+
+  FixedDay clock_;
+  const ClassInfo* type_;
+  Invocation call_;
+  std::optional<Inputs> inputs_;
+  std::optional<ErrorNumber> error_;
+};
+
+}  // namespace amortix2
