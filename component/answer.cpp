@@ -23,7 +23,15 @@ bool Holds(const SentenceInfo& sentence, const Inputs& inputs, const Results& re
   if (sentence.when == When::Always) return true;
   const std::optional<double> figure = results.Number(sentence.figure);
   if (!figure) return false;
-  const double value = sentence.input.empty() ? sentence.value : inputs.Number(sentence.input);
+  const ParameterInfo* input = FindParameter(inputs.Member(), sentence.than);
+  double value = sentence.value;
+  if (input && input->IsInput()) {
+    value = inputs.Number(sentence.than);
+  } else if (!sentence.than.empty()) {
+    const std::optional<double> other = results.Number(sentence.than);
+    if (!other) return false;
+    value = *other;
+  }
   if (sentence.when == When::Above) return *figure > value;
   return sentence.when == When::Below ? *figure < value : *figure == value;
 }

@@ -41,6 +41,11 @@ bool IsGiven(const Variant& value) {
   }
 }
 
+std::span<const Variant> ElementsOf(const Variant& value) {
+  if (value.Type() == VariantType::Array) return value.GetArray().Cells();
+  return std::span(&value, IsGiven(value) ? 1 : 0);
+}
+
 Inputs::Inputs(const MemberInfo& member, std::span<const Value> arguments) : member_(&member) {
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const ParameterInfo& parameter = member.parameters[i];

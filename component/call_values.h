@@ -18,6 +18,9 @@ namespace amortix2 {
 /// False for Empty, Null, Missing and blank text: an input that was left out.
 bool IsGiven(const Variant& value);
 
+/// The elements of a list, or the one value that is no array; none of what is not given.
+std::span<const Variant> ElementsOf(const Variant& value);
+
 /// What a member was given. To be made before the call, with one value per parameter, which must outlive it.
 class Inputs {
  public:

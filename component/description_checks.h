@@ -138,10 +138,13 @@ class MemberChecks {
     const auto found = std::ranges::find(parameters_, name, &ParameterInfo::name);
     return found == parameters_.end() ? nullptr : &*found;
   }
-  constexpr const ParameterInfo& NeedInput(std::string_view name) const {
+  constexpr bool IsInput(std::string_view name) const {
     const ParameterInfo* parameter = Look(name);
-    if (!parameter || !parameter->IsInput()) throw "a name is that of no input";
-    return *parameter;
+    return parameter && parameter->IsInput();
+  }
+  constexpr const ParameterInfo& NeedInput(std::string_view name) const {
+    if (!IsInput(name)) throw "a name is that of no input";
+    return *Look(name);
   }
   constexpr void NeedInputs(std::span<const std::string_view> names) const {
     for (const std::string_view name : names) NeedInput(name);
@@ -192,7 +195,7 @@ class MemberChecks {
       ForEachPart(
           sentence.text, [](std::string_view) {}, [&](const Figure& figure) { CheckFigure(figure); });
       if (sentence.when != SentenceInfo::When::Always) CheckFigure(ParseFigure(sentence.figure));
-      if (!sentence.input.empty()) NeedInput(sentence.input);
+      if (!sentence.than.empty() && !IsInput(sentence.than)) CheckFigure(ParseFigure(sentence.than));
     }
     const SentenceInfo& last = *(find.sentences.end() - 1);
     if (last.when != SentenceInfo::When::Always) throw "the last sentence of an answer has a condition";

@@ -12,6 +12,22 @@ namespace {
 /// What is wrong with one input that may be the cause of an error; empty when nothing is.
 using Look = std::string (*)(const ParameterInfo& parameter, const Variant& given);
 
+/// Of inputs that stand side by side in lists: one that is shorter than the first, by which loans are
+/// counted.
+std::optional<Note> ShorterList(const Inputs& inputs) {
+  for (const ListInfo& list : inputs.Member().lists) {
+    const std::size_t items = ElementsOf(inputs.At(*list.inputs.begin())).size();
+    for (const std::string_view name : list.inputs) {
+      if (ElementsOf(inputs.At(name)).size() >= items) continue;
+      return Note{"fault",
+                  FindParameter(inputs.Member(), name),
+                  {},
+                  "Has fewer elements than " + std::string(*list.inputs.begin()) + "."};
+    }
+  }
+  return std::nullopt;
+}
+
 std::string NoDate(const ParameterInfo& parameter, const Variant& given) {
   const bool isStrict = parameter.unit == Unit::Date && parameter.omitted == Omitted::Required;
   const bool isDay = IsDate(given) || (given.Type() != VariantType::String && IsNumeric(given));
@@ -87,6 +103,9 @@ constexpr Cause kCauses[] = {
 
 std::optional<Note> FaultOf(const Inputs& inputs, ErrorNumber error) {
   const MemberInfo& member = inputs.Member();
+  if (error == ErrorNumber::SubscriptOutOfRange) {
+    if (std::optional<Note> fault = ShorterList(inputs)) return fault;
+  }
   for (const Cause& cause : kCauses) {
     if (cause.error != error) continue;
     for (std::size_t i = 0; i < member.parameters.size(); ++i) {

@@ -41,8 +41,16 @@ inline constexpr auto kHouseholdMembers = std::tuple{
             .address = "consolidate",
             .help = "Several current loans against one new loan for all of them.",
             .finds = {{.figure = "vGrid(4,1)",
-                       .sentences = {{"One loan of {vGrid(1,1)} a month for {vGrid(3,1)} takes the place of "
-                                      "all; in today's money it costs {vGrid(4,1)}."}}}},
+                       .sentences =
+                           {{.text = "The payment goes from {vCurrGrid(1,-1)} to {vGrid(1,1)} a month; in "
+                                     "today's money the new loan costs less: {vGrid(4,1)} instead of "
+                                     "{vCurrGrid(4,-1)}.",
+                             .when = When::Below,
+                             .figure = "vGrid(4,1)",
+                             .than = "vCurrGrid(4,-1)"},
+                            {"The payment goes from {vCurrGrid(1,-1)} to {vGrid(1,1)} a month; in "
+                             "today's money the new loan costs no less: {vGrid(4,1)} instead of "
+                             "{vCurrGrid(4,-1)}."}}}},
             .charts = {{.title = "The new loan's balance over the years",
                         .series = {{"New loan", "vNewDet", 5}}}},
             .lists = {{.title = "Current loan", .inputs = {"vCurrBal", "vCurrPay", "vCurrRate"}, .most = 20}},
@@ -62,7 +70,7 @@ inline constexpr auto kHouseholdMembers = std::tuple{
              .Example("9"),
          kPoints, kFees.Example("150"),
          kPeriod.Named("vNewTerm").Titled("New term").Says("Monthly payments of the new loan").Example("60"),
-         kIncTaxRate, kInvGrowthRate, kSellByDate,
+         kIncTaxRate, kInvGrowthRate, kSellByDate.Example("36"),
          kGrid.Says("Payment, up-front cost, months and cost of the new loan").Of(kCombinedGrid),
          kGrid.Named("vCurrGrid")
              .Titled("Current loans")
@@ -80,10 +88,15 @@ inline constexpr auto kHouseholdMembers = std::tuple{
             .title = "Rent or buy",
             .address = "rent-or-buy",
             .help = "Renting a home against buying one, over the months that it would be kept.",
-            .finds =
-                {{.figure = "vGrid(10,2)",
-                  .sentences = {{"Over {vGrid(3,1)} renting costs {vGrid(10,1)} in today's money, and "
-                                 "buying {vGrid(10,2)} after the sale: the smaller is the better way."}}}},
+            .finds = {{.figure = "vGrid(10,2)",
+                       .sentences =
+                           {{.text = "Over {vGrid(3,1)} buying is the cheaper way: {vGrid(10,2)} in today's "
+                                     "money after the sale, renting {vGrid(10,1)}.",
+                             .when = When::Below,
+                             .figure = "vGrid(10,2)",
+                             .than = "vGrid(10,1)"},
+                            {"Over {vGrid(3,1)} renting is the cheaper way: {vGrid(10,1)} in today's "
+                             "money, buying {vGrid(10,2)} after the sale."}}}},
             .charts = {{.title = "Rents and loan payments over the years",
                         .kind = ChartKind::Columns,
                         .series = {{"Rent", "vRentDet", 2}, {"Loan payments", "vBuyDet", 2}}},

@@ -192,7 +192,7 @@ struct SentenceInfo {
   When when = When::Always;  ///< Above, Below, Equal: only when `figure` is so compared with `value`
   std::string_view figure{};
   double value = 0;
-  std::string_view input{};  ///< compared with this input instead of `value`
+  std::string_view than{};  ///< compared with this input or figure instead of `value`
 };
 
 /// A quantity that a member finds. A member that always finds the same has one, without an input; others list

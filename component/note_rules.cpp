@@ -55,6 +55,22 @@ void FastCurrentPayment(NoteWriter& notes) {
   BelowInterest(notes, "currPay", notes.Number("currPay"), "grid(1,1)", notes.Number("currBal"), "currRate");
 }
 
+/// The lists of several current loans: an element for each element of the first.
+void CurrentLoans(NoteWriter& notes) {
+  const std::size_t loans = ElementsOf(notes.In().At("vCurrBal")).size();
+  for (const std::string_view name : notes.Member().lists.front().inputs) {
+    if (ElementsOf(notes.In().At(name)).size() <= loans) continue;
+    notes.About("longer-list", name, "Has more elements than there are loans; the rest is not read.");
+  }
+  const auto payments = ElementsOf(notes.In().At("vCurrPay"));
+  for (std::size_t i = 0; i < std::min(payments.size(), loans); ++i) {
+    const std::optional<double> stands = notes.Out().Number("vCurrGrid(1," + std::to_string(i + 1) + ")");
+    if (!stands || *stands <= NumericOrZero(payments[i])) continue;
+    notes.OnInput("payment-below-interest", *FindParameter(notes.Member(), "vCurrPay"), payments[i],
+                  "does not cover its loan's interest, so that its whole debt stands as one payment");
+  }
+}
+
 void ExtraPayment(NoteWriter& notes) {
   BelowInterest(notes, "vExtraPayment", notes.Number("vCurrPay") + notes.Number("vExtraPayment"),
                 "vGrid(1,2)", notes.Number("vCurrBal"), "vCurrRate");
@@ -462,6 +478,9 @@ constexpr Rule kRules[] = {
     {"ARMComparison", OffersDownPayment},
     {"ARMComparison", AdjustableOffers},
     {"ARMComparison", Years},
+    {"LoanConsolidationCalculator", CurrentLoans},
+    {"RentVsBuyComparison", PurchaseDownPayment},
+    {"RentVsBuyComparison", Years},
     {"AmountSavedCalculator", LongPlan},
     {"SavingsRateCalculator", LongPlan},
     {"SavingsRateCalculator", RateReaches},

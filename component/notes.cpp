@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
 #include "amortix2/automation/number_format.h"
 #include "amortix2/component/answer.h"
@@ -168,8 +167,8 @@ void NoteInputs(NoteWriter& notes) {
     if (!parameter.IsInput()) continue;
     if (!IsGiven(given)) {
       NoteOmitted(notes, parameter);
-    } else if (given.Type() == VariantType::Array && IsList(notes.Member(), parameter.name)) {
-      for (const Variant& item : given.GetArray().Cells()) {
+    } else if (IsList(notes.Member(), parameter.name)) {
+      for (const Variant& item : ElementsOf(given)) {
         if (IsGiven(item)) NoteGiven(notes, parameter, item);
       }
     } else {

@@ -136,7 +136,7 @@ constexpr SentenceInfo NeverPaidOff(std::string_view figure, std::string_view pa
   return {.text = "At this payment the loan is never paid off.",
           .when = SentenceInfo::When::Above,
           .figure = figure,
-          .input = payment};
+          .than = payment};
 }
 
 // ---- Charts of a schedule

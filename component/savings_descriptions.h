@@ -63,7 +63,7 @@ constexpr SentenceInfo NotReached(std::string_view deposit) {
   return {.text = "No number of deposits leads to the goal.",
           .when = SentenceInfo::When::Below,
           .figure = deposit,
-          .input = "vPayment"};
+          .than = "vPayment"};
 }
 
 /// What SimpleSavingsCalculator and IRACalculator find, in the order in which they look.
@@ -173,7 +173,7 @@ inline constexpr SentenceInfo kLastsForEver{
     .text = "The interest covers the withdrawals: the balance lasts for ever.",
     .when = SentenceInfo::When::Above,
     .figure = "vResPayment",
-    .input = "vPayment"};
+    .than = "vPayment"};
 inline constexpr SentenceInfo kLastsForEverExactly{
     .text = kLastsForEver.text, .when = SentenceInfo::When::Equal, .figure = "vResPeriod", .value = -1};
 
@@ -237,7 +237,7 @@ inline constexpr auto kRetirementMembers = std::tuple{
                      .sentences = {{.text = "The first withdrawal takes more than there is.",
                                     .when = SentenceInfo::When::Below,
                                     .figure = "vResPayment",
-                                    .input = "vPayment"},
+                                    .than = "vPayment"},
                                    kLastsForEver,
                                    kLastsForEverExactly,
                                    {"The balance lasts for {vResPeriod}."}},

@@ -43,6 +43,8 @@ TEST(Examples, MakeOneSensibleRequest) {
       {"biweekly", "vGrid(3,2)", 185, 1},  // a payment of 13/12 a month takes 185 months
       {"points", "vGrid(4,3)", -2273.72, 0.05},
       {"arm", "vGrid(4,3)", -17607.17, 0.05},
+      {"consolidate", "vGrid(4,1)", 26797.522, 0.05},
+      {"rent-or-buy", "vGrid(10,2)", 72475.652, 0.05},
       {"save", "vEndBal", 36904.11, 0.02},
       {"deposit", "vPayment", 288.9365, 0.006},
       {"starting-balance", "vCurrBal", 13784.269, 0.006},
@@ -138,6 +140,9 @@ TEST(Notes, EveryMistakeHasItsNote) {
       {"biweekly + vPaymentDate=x", "vPaymentDate no-date"},
       {"points + vDownpayment1=250000", "vDownpayment1 down-payment, vCurrDet last-balance"},
       {"arm + vRateCap2=0", "vRateCap2 cap-below-rate, vCurrDet last-balance, vNewDet last-balance"},
+      {"consolidate + vCurrPay=[50,380,170,10]", "vCurrPay longer-list, vCurrPay payment-below-interest"},
+      {"consolidate + vCurrRate=[\"18.9%\",8.5,12]", "vCurrRate no-number"},
+      {"rent-or-buy + vSellByDate=361", "vSellByDate horizon"},
       {"save + vPeriod=2.9", "vPeriod no-whole-number"},
       {"save + vPeriod=120", "vPeriod long-plan"},
       {"save + vStartDate=-", "vStartDate start-not-given"},
@@ -186,6 +191,7 @@ TEST(Faults, NameTheParameterThatMadeTheCallFail) {
       {"refinance + vNewTerm=-", "vNewTerm: Not given."},
       {"retirement + vIncTaxRate=x", "vIncTaxRate=\"x\" is no number"},
       {"retirement + vIncTaxRate=100 vEndingBal=1000", "vIncTaxRate=\"100\" is 100 %"},
+      {"consolidate + vCurrPay=[240,380]", "vCurrPay: Has fewer elements than vCurrBal."},
       {"invest + vSurvey=5", "vSurvey=\"5\" is no list"},
       {"invest + vSurvey=[1]", "vSurvey=a list has no answers: they count from index 1 on"},
       {"invest + vSurvey=[1,1,null]", "vSurvey=a list has no answer at index 2"},
@@ -213,7 +219,7 @@ std::string Around(const ParameterInfo& parameter, Random& random) {
     const Date date = *ParseDate(parameter.example);
     return std::string(View(FormatIso(AddDays(date, static_cast<int>(random() % 700) - 350))));
   }
-  if (!IsNumber(parameter.unit)) return std::string(parameter.example);
+  if (!IsNumber(parameter.unit) || parameter.example.starts_with('[')) return std::string(parameter.example);
   const double step = parameter.range.step != 0 ? parameter.range.step : 0.01;
   const double factor = 0.6 + static_cast<double>(random() % 1000) / 1000;
   const double value = std::round(*ParseNumber(parameter.example) * factor / step) * step;
@@ -275,6 +281,10 @@ bool IsTrue(const DescribedRequest& request, const Note& note) {
   if (note.code == "horizon") {
     const std::string grid = request.Member().name == "FastPrePayCalculator" ? "grid" : "vGrid";
     const double months = in(request.Member().horizon);
+    if (request.Member().name == "RentVsBuyComparison") return months > in("vPeriod");
+    if (request.Member().name == "LoanConsolidationCalculator") {
+      return months > in("vNewTerm") || months > *request.Out().Number("vCurrGrid(3,-1)");
+    }
     return months > *request.Out().Number(grid + "(3,1)") || months > *request.Out().Number(grid + "(3,2)");
   }
   if (note.code == "found-anew") {
