@@ -42,7 +42,7 @@ std::string_view Entity(char c) {
 void AppendNumber(std::string& out, double number) {
   constexpr double kLargest = 1e12;
   const auto hundredths = std::llround(std::clamp(number, -kLargest, kLargest) * 100);
-  const std::uint64_t size = static_cast<std::uint64_t>(std::abs(hundredths));
+  const auto size = static_cast<std::uint64_t>(std::abs(hundredths));
   if (hundredths < 0) out += '-';
   char digits[20];
   out.append(digits, std::to_chars(std::begin(digits), std::end(digits), size / 100).ptr);

@@ -33,7 +33,9 @@ std::string HeadingOf(const Variant& titles, const SvgSettings& settings) {
   return heading.empty() ? settings.title : heading;
 }
 
-std::string Either(std::string own, const std::string& otherwise) { return own.empty() ? otherwise : own; }
+std::string Either(const std::string& own, const std::string& otherwise) {
+  return own.empty() ? otherwise : own;
+}
 
 AxisRange DataAxis(const SvgTable& table) {
   bool any = false;

@@ -58,7 +58,7 @@ std::vector<AxisTick> MonthTicks(std::int32_t low, std::int32_t high, int months
     if (day > high) break;
     if (day < low) continue;
     std::string text = std::to_string(year);
-    if (months < 12) text = std::string(kMonths[static_cast<std::size_t>(month % 12)]) + ' ' + text;
+    if (months < 12) text.insert(0, " ").insert(0, kMonths[static_cast<std::size_t>(month % 12)]);
     ticks.push_back({static_cast<double>(day), std::move(text)});
   }
   return ticks;
