@@ -23,6 +23,7 @@
 #include <vector>
 
 #include "amortix2/automation/date.h"
+#include "amortix2/automation/error.h"
 #include "amortix2/engine/records.h"
 
 namespace amortix2 {
@@ -43,7 +44,14 @@ struct Quantity {
 };
 
 /// Raises InvalidProcedureCall, naming the second of the quantities that are left out.
-void RequireOneUnknown(std::initializer_list<Quantity> quantities);
+inline void RequireOneUnknown(std::initializer_list<Quantity> quantities) {
+  bool hasUnknown = false;
+  for (const Quantity& quantity : quantities) {
+    if (quantity.isGiven) continue;
+    if (hasUnknown) Raise(ErrorNumber::InvalidProcedureCall, quantity.name);
+    hasUnknown = true;
+  }
+}
 
 /// What the engine's record holds for a quantity.
 inline double OrUnknown(const std::optional<double>& quantity) { return quantity.value_or(UNKNOWNLOANVALUE); }
