@@ -4,10 +4,10 @@
 
 #include <amortix2.h>
 
+#include "amortix2/calculators/calculator.h"
 #include "amortix2/com/guid.h"
 #include "amortix2/com/identity.h"
 #include "amortix2/common/system_clock.h"
-#include "amortix2/calculators/calculator.h"
 #include "client.h"
 
 using namespace amortix2;
