@@ -226,7 +226,7 @@ void ArraysOfFixedSize() {
     auto arguments = loan.Arguments(MakeValue(1000.0));
     arguments[11] = Reference(VT_ARRAY | VT_VARIANT, &table);
     CHECK(NumberOfFailure(*calculator.Get(), L"SimpleLoanCalculator", arguments) == row.number);
-    const auto* last = static_cast<VARIANT*>(SafeArrayData(table).At(2 * row.rows - 1));  // its payment
+    const auto* last = static_cast<VARIANT*>(SafeArrayData(table).At(3 * row.rows - 1));  // its payment
     CHECK_FOR(std::to_string(row.rows) + " " + std::to_string(last->vt),
               last->vt == (row.number == 0 ? VT_R8 : VT_EMPTY));
     table->fFeatures &= static_cast<USHORT>(~FADF_FIXEDSIZE);
