@@ -78,13 +78,14 @@ Tree ParseRequest(std::string_view text) {
 }  // namespace
 
 std::string Answer(std::string_view requestText, const Options& options, const Clock& clock) noexcept {
-  Tree tree;
+  std::optional<Tree> tree;
   std::string reply;
+  const auto id = [&] { return tree ? FieldNamed(*tree, "id") : nullptr; };
   const auto failure = Try([&] {
     tree = ParseRequest(requestText);
-    reply = Reply(Execution(ReadRequest(tree), clock), FieldNamed(tree, "id"), options.form);
+    reply = Reply(Execution(ReadRequest(*tree), clock), id(), options.form);
   });
-  if (failure) Try([&] { reply = ErrorReply(*failure, FieldNamed(tree, "id")); });
+  if (failure) Try([&] { reply = ErrorReply(*failure, id()); });
   return reply;
 }
 
