@@ -9,14 +9,24 @@
 
 namespace amortix2 {
 
-ChartTable::ChartTable(const Array& data) {
-  // Looked up before anything is allocated: bounds that leave (0, 0) out may promise far more cells than there
-  // are.
+namespace {
+
+/// Looked up before anything is allocated: bounds that leave (0, 0) out may promise far more cells than there
+/// are.
+const Array& WithCorner(const Array& data) {
   static_cast<void>(data.At(0, 0));
-  rows_ = data.Dimension(1).upper;
-  series_ = data.Dimension(2).upper;
-  const std::size_t count = static_cast<std::size_t>(rows_) + 1;
-  values_.resize(count * static_cast<std::size_t>(series_));
+  return data;
+}
+
+}  // namespace
+
+ChartTable::ChartTable(const Array& data)
+    : ChartTable(WithCorner(data).Dimension(1).upper, data.Dimension(2).upper) {}
+
+ChartTable::ChartTable(std::int32_t rows, std::int32_t series) : rows_(rows), series_(series) {
+  if (rows < 0 || series < 0) Raise(ErrorNumber::SubscriptOutOfRange);
+  const std::size_t count = static_cast<std::size_t>(rows) + 1;
+  values_.resize(count * static_cast<std::size_t>(series));
   labels_.resize(count);
 }
 

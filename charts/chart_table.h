@@ -19,6 +19,8 @@ class ChartTable {
   /// All zero, with room for the rows and series of a table. Raises SubscriptOutOfRange when that has another
   /// number of dimensions or no cell (0, 0).
   explicit ChartTable(const Array& data);
+  /// All zero, for a program's own numbers. Raises SubscriptOutOfRange for a count below 0.
+  ChartTable(std::int32_t rows, std::int32_t series);
 
   std::int32_t Rows() const noexcept { return rows_; }
   std::int32_t Series() const noexcept { return series_; }
