@@ -95,7 +95,10 @@ class SavingsTrials {
       // A trial that overflows is an answer of the search, not its failure.
       if (error.Number() != ErrorNumber::Overflow) throw;
       const double balance = running.balance.value;
-      return std::copysign(kInfinity, balance == 0 ? NetDeposit(save_) : balance);
+      if (balance != 0) return std::copysign(kInfinity, balance);
+      // An infinite growth of nothing: it is the first deposit that later lines grow.
+      const double deposit = NetDeposit(save_);
+      return periods_.periods > 1 ? std::copysign(kInfinity, deposit) : deposit;
     }
   }
 
