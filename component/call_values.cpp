@@ -43,7 +43,7 @@ bool IsGiven(const Variant& value) {
 
 std::span<const Variant> ElementsOf(const Variant& value) {
   if (value.Type() == VariantType::Array) return value.GetArray().Cells();
-  return std::span(&value, IsGiven(value) ? 1 : 0);
+  return {&value, IsGiven(value) ? std::size_t{1} : std::size_t{0}};
 }
 
 Inputs::Inputs(const MemberInfo& member, std::span<const Value> arguments) : member_(&member) {

@@ -100,14 +100,14 @@ consteval std::array<std::size_t, sizeof...(Members)> Numbers(
 }
 
 /// The tables of a class, made from its description, which must be a static constant.
-template <class C, const auto& kDescription>
+template <class C, const auto& Description>
 struct ClassTables {
-  static constexpr auto kNumbers = Numbers(kDescription);
+  static constexpr auto kNumbers = Numbers(Description);
   static constexpr auto kMembers = [] {
     std::array<MemberInfo, kNumbers.size()> members{};
     std::size_t next = 0;
     std::apply([&](const auto&... member) { ((members[kNumbers[next++] - 1] = member.Info()), ...); },
-               kDescription.members);
+               Description.members);
     if (!AllDistinct(members)) throw "two members have the same name";
     return members;
   }();
@@ -120,8 +120,8 @@ struct ClassTables {
 
   static constexpr ClassInfo Info() {
     return {.name = TypeName<C>(),
-            .title = kDescription.title,
-            .help = kDescription.help,
+            .title = Description.title,
+            .help = Description.help,
             .members = kMembers,
             .inOrder = kInOrder,
             .create = [](const Clock& clock) -> void* {

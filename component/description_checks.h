@@ -80,7 +80,14 @@ constexpr void CheckRange(const ParameterInfo& parameter) {
   }
 }
 
+constexpr bool IsIdentifier(std::string_view name) {
+  const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+  return !name.empty() && isLetter(name.front()) &&
+         std::ranges::all_of(name, [&](char c) { return isLetter(c) || (c >= '0' && c <= '9'); });
+}
+
 constexpr void CheckParameter(const ParameterInfo& parameter) {
+  if (!IsIdentifier(parameter.name)) throw "a parameter's name is no identifier";
   if (parameter.title.empty()) throw "a parameter has no title";
   const bool isSeries = parameter.unit == Unit::Table || parameter.unit == Unit::List;
   if (parameter.table && !isSeries) throw "a single value has a table's description";
@@ -110,8 +117,11 @@ class MemberChecks {
   constexpr void Run(const MemberInfo& member) const {
     if (member.title.empty() || member.help.empty()) throw "a member has no title or no help";
     CheckAddress(member.address);
+    bool optional = false;
     for (const ParameterInfo& parameter : parameters_) {
       CheckParameter(parameter);
+      if (optional && !parameter.optional) throw "an optional parameter stands before one that is not";
+      optional = parameter.optional;
       if (!parameter.echoes.empty()) {
         if (!parameter.IsResult()) throw "what is no result echoes an input";
         NeedInput(parameter.echoes);

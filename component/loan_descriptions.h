@@ -116,24 +116,24 @@ inline constexpr Param kResTotInterest = kTotInt.Named("vResTotInterest").Says("
 inline constexpr Param kDetArr = kDetArray.Named("vDetArr");
 
 /// What both leases find, in the order in which they look.
-inline constexpr ShortList<FindInfo, 5> kLeaseFinds{
-    {.input = "vEndingBal",
-     .figure = "vResEndingBal",
-     .sentences = {{"The payments leave a residual value of {vResEndingBal}; interest comes to "
-                    "{vResTotInterest}."}},
-     .needs = {"vPrincipal", "vPayment"}},
-    {.input = "vPrincipal",
-     .figure = "vResPrincipal",
-     .sentences = {{"The payments carry a price of {vResPrincipal}; interest comes to {vResTotInterest}."}},
-     .needs = {"vPayment"}},
-    {.input = "vPayment",
-     .figure = "vResPayment",
-     .sentences = {{"The lease costs {vResPayment} each time; interest comes to {vResTotInterest}."}},
-     .whenAllGiven = true},
-    {.input = "vIntRate",
-     .figure = "vResIntRate",
-     .sentences = {{"The lease's rate is {vResIntRate}; interest comes to {vResTotInterest}."}}},
-};
+constexpr ShortList<FindInfo, 5> LeaseFinds(const SentenceInfo& rate) {
+  return {
+      {.input = "vEndingBal",
+       .figure = "vResEndingBal",
+       .sentences = {{"The payments leave a residual value of {vResEndingBal}; interest comes to "
+                      "{vResTotInterest}."}},
+       .needs = {"vPrincipal", "vPayment"}},
+      {.input = "vPrincipal",
+       .figure = "vResPrincipal",
+       .sentences = {{"The payments carry a price of {vResPrincipal}; interest comes to {vResTotInterest}."}},
+       .needs = {"vPayment"}},
+      {.input = "vPayment",
+       .figure = "vResPayment",
+       .sentences = {{"The lease costs {vResPayment} each time; interest comes to {vResTotInterest}."}},
+       .whenAllGiven = true},
+      {.input = "vIntRate", .figure = "vResIntRate", .sentences = {rate}},
+  };
+}
 
 inline constexpr auto kLeaseMembers = std::tuple{
     method<&Calculator::MonthlyLeaseCalculator>(
@@ -143,7 +143,7 @@ inline constexpr auto kLeaseMembers = std::tuple{
             .title = "Monthly lease",
             .address = "lease",
             .help = "A lease with monthly payments: finds the residual, the price, the payment or the rate.",
-            .finds = kLeaseFinds,
+            .finds = LeaseFinds({"The lease's rate is {vResIntRate}; interest comes to {vResTotInterest}."}),
             .charts = {BalanceChart("vDetArr")},
         },
         {Ignored("vDummy"), kPrincipal, kLeasePayment, kPeriod.Example("36"), kLeaseRate, kPrepays,
@@ -159,7 +159,8 @@ inline constexpr auto kLeaseMembers = std::tuple{
             .address = "lease-frequency",
             .help = "A lease with payments and interest at any frequency: finds the residual, the price, the "
                     "payment or the rate.",
-            .finds = kLeaseFinds,
+            .finds = LeaseFinds({"Twelve times the rate of one payment period is {vResIntRate}; interest "
+                                 "comes to {vResTotInterest}."}),
             .charts = {BalanceChart("vDetArr")},
         },
         {Ignored("vDummy"), kPrincipal, kLeasePayment,
@@ -171,8 +172,9 @@ inline constexpr auto kLeaseMembers = std::tuple{
              .Says("How often interest is charged; what does not fit the payments counts as their frequency"),
          kResPrincipal, kResLeasePayment,
          kResPeriod.In(Unit::Count).Says("Number of payments").Echoes("vPeriod"),
-         kResIntRate.Says("1200 times the growth of one payment period").Echoes("vIntRate"), kResPrepays,
-         kResEndingBal, kResTotPayments, kResTotInterest, kDetArr}),
+         kResIntRate.Titled("Twelve times the period's rate")
+             .Says("1200 times the growth of one payment period"),
+         kResPrepays, kResEndingBal, kResTotPayments, kResTotInterest, kDetArr}),
 };
 
 }  // namespace amortix2::describing

@@ -73,10 +73,12 @@ class ShortList {
     if (items.size() > N) throw "more items than a description has room for";
     for (const T& item : items) items_[size_++] = item;
   }
+  // As the ranges of the standard library are spelt. NOLINTBEGIN(readability-identifier-naming)
   constexpr const T* begin() const { return items_.data(); }
   constexpr const T* end() const { return items_.data() + size_; }
   constexpr std::size_t size() const { return size_; }
   constexpr bool empty() const { return size_ == 0; }
+  // NOLINTEND(readability-identifier-naming)
   constexpr operator std::span<const T>() const {  // NOLINT(google-explicit-constructor)
     return {begin(), size_};
   }

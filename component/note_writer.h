@@ -2,6 +2,7 @@
 
 // How the rules of notes look at a call and write their notes.
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -52,7 +53,24 @@ std::string MoneyText(double amount);
 /// What of the description alone can be said of any member's inputs.
 void NoteInputs(NoteWriter& notes);
 
-/// What is special to members (note_rules.cpp).
-void NoteRules(NoteWriter& notes);
+/// What is special to members, by a table of rules each: loans, leases and comparisons; savings, retirement
+/// and the survey.
+void NoteLoans(NoteWriter& notes);
+void NotePlans(NoteWriter& notes);
+
+/// A rule of one member, or (without a name) of all.
+struct Rule {
+  std::string_view member;
+  void (*note)(NoteWriter& notes);
+};
+void Apply(std::span<const Rule> rules, NoteWriter& notes);
+
+/// The input whose quantity was found; empty when nothing was, or always the same is.
+std::string_view FoundInput(const NoteWriter& notes);
+
+/// To cents as the engine rounds, but without an error: what is too large stays it.
+double Cents(double amount);
+
+bool IsFrequency(double code);
 
 }  // namespace amortix2

@@ -7,6 +7,7 @@
 #include "amortix2/automation/number_format.h"
 #include "amortix2/component/answer.h"
 #include "amortix2/component/note_writer.h"
+#include "amortix2/engine/records.h"
 
 namespace amortix2 {
 
@@ -46,6 +47,21 @@ std::string MoneyText(double amount) {
   static const NumberPattern kMoney("#,##0.00");
   return kMoney.Format(amount);
 }
+
+void Apply(std::span<const Rule> rules, NoteWriter& notes) {
+  for (const Rule& rule : rules) {
+    if (rule.member.empty() || rule.member == notes.Member().name) rule.note(notes);
+  }
+}
+
+std::string_view FoundInput(const NoteWriter& notes) {
+  const FindInfo* found = FoundBy(notes.In());
+  return found ? found->input : std::string_view();
+}
+
+double Cents(double amount) { return std::floor(amount * 100 + 0.5) / 100; }
+
+bool IsFrequency(double code) { return code >= double{dailymode} && code <= double{continuousMode}; }
 
 namespace {
 
@@ -181,7 +197,8 @@ void NoteInputs(NoteWriter& notes) {
 std::vector<Note> NotesOn(const Inputs& inputs, const Results& results, Date today) {
   NoteWriter writer(inputs, results, today);
   NoteInputs(writer);
-  NoteRules(writer);
+  NoteLoans(writer);
+  NotePlans(writer);
   std::vector<Note> notes = writer.Take();
   std::ranges::stable_sort(notes, {}, &Note::parameter);  // parameters of one member lie in one array
   return notes;

@@ -37,7 +37,7 @@ inline constexpr auto kRecordMembers = std::tuple{
              .Example("4"),
          Worked(
              "LoanArray", "Loans", "Loans, from index 1",
-             R"([null, {"typ": 101, "startDate": "2026-12-01", "startingBalance": 200000, "intRate": 6.5, "period": 360, "payment": -12345}])"),
+             R"([{"typ": 101, "startDate": "2026-12-01", "startingBalance": 200000, "intRate": 6.5, "period": 360, "payment": -12345}])"),
          Worked("SavingArray", "Savings accounts", "Savings accounts, from index 1", "").Nothing(),
          Worked("GoalArray", "Savings goals", "Savings goals; not computed", "").Nothing(),
          Worked("Qualification", "Household", "The borrower's household", "").Nothing()}),
