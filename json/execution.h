@@ -6,17 +6,31 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "amortix2/automation/date.h"
+#include "amortix2/component/call_values.h"
 #include "amortix2/component/invocation.h"
+#include "amortix2/component/notes.h"
 #include "amortix2/json/captured_page.h"
 #include "amortix2/json/request.h"
 #include "amortix2/json/request_error.h"
 
 namespace amortix2::json {
 
-enum class Keep { Results, GivenToo };
+enum class Keep {
+  Results,
+  Inputs,    ///< what notes, causes and answers are made of
+  GivenToo,  ///< and copies of all that was given
+};
+
+/// Why a call failed, for a person.
+struct Cause {
+  std::string text;            ///< "SimpleSavingsCalculator: vStartDate=\"soon\" is no date"
+  std::string_view parameter;  ///< or setting; empty when that is not known
+};
 
 class Execution {
  public:
@@ -32,15 +46,35 @@ class Execution {
   /// What was written to the page's response.
   std::span<const std::uint8_t> Response() const noexcept;
 
+  /// True when the request asks for the result of this name ("return" and "response" too).
+  bool Wants(std::string_view result) const noexcept;
+
+  // The next three need Keep::Inputs.
+
+  /// What the call was given; null when it was not made.
+  const Inputs* Given() const noexcept { return inputs_ ? &*inputs_ : nullptr; }
+
+  /// What a person should be told beside the answer; nothing of a call that failed.
+  std::vector<Note> Notes() const;
+
+  /// Only of a call that failed.
+  Cause WhyFailed() const;
+
   /// True for a variant argument that is as it was given, or left out: nothing came back in it.
   bool IsUnchanged(std::size_t argument) const;
 
  private:
+  void ReadByName(const Fields& fields);
+  void Apply(const Fields& settings);
   void Run(const Request& request, const Clock& clock, Keep keep);
 
   std::optional<Failure> error_;
   std::optional<Object> object_;
   std::optional<Invocation> call_;
+  std::optional<std::vector<std::string_view>> only_;
+  std::string_view reading_;  // the argument or setting that is being read or made
+  std::optional<Date> today_;
+  std::optional<Inputs> inputs_;
   std::vector<Variant> given_;
   std::shared_ptr<CapturedPage> page_;
 };

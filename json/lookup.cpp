@@ -34,22 +34,6 @@ std::size_t Distance(std::string_view a, std::string_view b) {
   return row[b.size()];
 }
 
-/// The name meant, probably: one that begins like what was asked for, else one with few letters changed.
-std::string_view Closest(std::string_view asked, const Names& names) {
-  for (const std::string_view name : names) {
-    if (!asked.empty() && SameName(name.substr(0, asked.size()), asked)) return name;
-  }
-  std::string_view closest;
-  std::size_t least = asked.size() / 3 + 2;
-  for (const std::string_view name : names) {
-    if (const std::size_t distance = Distance(asked, name); distance < least) {
-      least = distance;
-      closest = name;
-    }
-  }
-  return closest;
-}
-
 [[noreturn]] void RaiseUnknown(const std::string& owner, std::string_view kind, std::string_view asked,
                                const Names& names) {
   std::string message = owner + " has no " + std::string(kind) + " " + Quoted(asked);
@@ -67,7 +51,26 @@ std::size_t PlaceIn(const Item* found, std::span<const Item> items, std::string_
   return static_cast<std::size_t>(found - items.data());
 }
 
+bool IsCalled(const MemberInfo& member, std::string_view name) {
+  return member.kind == MemberKind::Method && (SameName(member.name, name) || SameName(member.address, name));
+}
+
 }  // namespace
+
+std::string_view Closest(std::string_view asked, std::span<const std::string_view> names) {
+  for (const std::string_view name : names) {
+    if (!asked.empty() && SameName(name.substr(0, asked.size()), asked)) return name;
+  }
+  std::string_view closest;
+  std::size_t least = asked.size() / 3 + 2;
+  for (const std::string_view name : names) {
+    if (const std::size_t distance = Distance(asked, name); distance < least) {
+      least = distance;
+      closest = name;
+    }
+  }
+  return closest;
+}
 
 Target FindTarget(std::string_view name) {
   const std::size_t dot = name.find('.');
@@ -83,6 +86,31 @@ Target FindTarget(std::string_view name) {
   return {type, method};
 }
 
+Target FindCalled(std::string_view name) {
+  if (name.find('.') != std::string_view::npos) return FindTarget(name);
+  std::vector<ClassMember> found;
+  Names names;
+  for (const ClassMember& candidate : MembersInOrder()) {
+    if (!name.empty() && IsCalled(*candidate.member, name)) found.push_back(candidate);
+    if (!candidate.member->address.empty()) names.push_back(candidate.member->address);
+    if (candidate.member->kind == MemberKind::Method) names.push_back(candidate.member->name);
+  }
+  if (found.size() == 1) return {*found.front().type, *found.front().member};
+  std::string message;
+  if (found.empty()) {
+    const std::string_view closest = Closest(Shortened(name), names);
+    message = "there is nothing to call by the name " + Quoted(name) +
+              (closest.empty() ? std::string() : "; did you mean " + std::string(closest) + "?");
+  } else {
+    message = Quoted(name) + " is in several classes: say";
+    for (const auto& [type, member] : found) {
+      message.append(" ").append(type->name).append(".").append(member->name);
+      message += &member == &found.back().member ? "" : " or";
+    }
+  }
+  throw RequestError(ErrorNumber::NoSuchMember, std::move(message));
+}
+
 const ClassInfo& NeedClass(std::string_view name) {
   if (const ClassInfo* type = FindClass(name)) return *type;
   Names names;
@@ -92,6 +120,17 @@ const ClassInfo& NeedClass(std::string_view name) {
 
 const MemberInfo& NeedMember(const ClassInfo& type, std::string_view name) {
   return type.members[PlaceIn(FindMember(type, name), type.members, type.name, "member", name)];
+}
+
+void NeedResult(const MemberInfo& member, std::string_view name) {
+  Names names;
+  for (const ParameterInfo& parameter : member.parameters) {
+    if (parameter.byReference) names.push_back(parameter.name);
+  }
+  if (member.result) names.emplace_back("return");
+  names.emplace_back("response");
+  const auto isNamed = [&](std::string_view known) { return SameName(known, name); };
+  if (std::ranges::none_of(names, isNamed)) RaiseUnknown(std::string(member.name), "result", name, names);
 }
 
 std::size_t PlaceOfParameter(const MemberInfo& member, std::string_view name) {

@@ -1,7 +1,9 @@
 #include "amortix2/json/reply.h"
 
 #include <optional>
+#include <span>
 #include <utility>
+#include <vector>
 
 #include "amortix2/json/execution.h"
 #include "amortix2/json/json_text.h"
@@ -13,49 +15,78 @@
 namespace amortix2::json {
 namespace {
 
-void AppendError(std::string& out, const Failure& failure) {
+void AppendError(std::string& out, const Failure& failure, const std::optional<Cause>& cause) {
   ObjectWriter error(out);
   AppendNumber(error.Field("number"), static_cast<std::int64_t>(failure.number));
   AppendText(error.Field("name"), failure.name);
   if (!failure.message.empty()) AppendText(error.Field("message"), failure.message);
+  if (cause && !failure.ofRequest) AppendText(error.Field("text"), cause->text);
+  if (cause && !cause->parameter.empty()) AppendText(error.Field("parameter"), cause->parameter);
   error.Close();
 }
 
-void AppendResults(std::string& out, const Invocation* call, Form form) {
+void AppendNotes(std::string& out, std::span<const Note> notes) {
+  out += '[';
+  AppendSeparated(out, notes, [&](const Note& note) {
+    ObjectWriter object(out);
+    AppendText(object.Field("code"), note.code);
+    AppendText(object.Field("parameter"), note.parameter->name);
+    AppendText(object.Field("text"), note.Text());
+    object.Close();
+  });
+  out += ']';
+}
+
+void AppendResults(std::string& out, const Execution& execution, Form form) {
+  const Invocation* call = execution.Call();
   ObjectWriter results(out);
   for (std::size_t i = 0; call && i < call->Arguments().size(); ++i) {
     const ParameterInfo& parameter = call->Member().parameters[i];
-    if (parameter.byReference) AppendArgument(results.Field(parameter.name), call->Arguments()[i], form);
+    if (!parameter.byReference || !execution.Wants(parameter.name)) continue;
+    AppendArgument(results.Field(parameter.name), call->Arguments()[i], form);
   }
   results.Close();
 }
 
-std::string ErrorReply(const Failure& failure, const Tree* id) {
+std::string ErrorReply(const Failure& failure, const Tree* id, const std::optional<Cause>& cause = {}) {
   std::string out;
   ObjectWriter reply(out);
   if (id) AppendTree(reply.Field("id"), *id);
-  AppendError(reply.Field("error"), failure);
+  AppendError(reply.Field("error"), failure, cause);
   reply.Close();
   return out;
 }
 
-std::string FullReply(const Execution& execution, const Tree* id, Form form) {
+std::optional<Cause> CauseOf(const Execution& execution, const Options& options) {
+  return options.notes ? std::optional(execution.WhyFailed()) : std::nullopt;
+}
+
+std::string FullReply(const Execution& execution, const Tree* id, const Options& options) {
   std::string out;
   ObjectWriter reply(out);
   if (id) AppendTree(reply.Field("id"), *id);
-  if (execution.Error()) AppendError(reply.Field("error"), *execution.Error());
+  if (execution.Error()) {
+    AppendError(reply.Field("error"), *execution.Error(), CauseOf(execution, options));
+  }
   const Invocation* call = execution.Call();
-  AppendResults(reply.Field("results"), call, form);
-  if (call && call->Result()) AppendArgument(reply.Field("return"), *call->Result(), form);
-  if (!execution.Response().empty()) AppendBase64(reply.Field("response"), execution.Response());
+  AppendResults(reply.Field("results"), execution, options.form);
+  if (call && call->Result() && execution.Wants("return")) {
+    AppendArgument(reply.Field("return"), *call->Result(), options.form);
+  }
+  const bool hasResponse = !execution.Response().empty() && execution.Wants("response");
+  if (hasResponse) AppendBase64(reply.Field("response"), execution.Response());
+  if (const auto notes = options.notes ? execution.Notes() : std::vector<Note>(); !notes.empty()) {
+    AppendNotes(reply.Field("notes"), notes);
+  }
   reply.Close();
   return out;
 }
 
-std::string Reply(const Execution& execution, const Tree* id, Form form) {
-  if (execution.Error() && execution.Error()->ofRequest) return ErrorReply(*execution.Error(), id);
+std::string Reply(const Execution& execution, const Tree* id, const Options& options) {
+  const std::optional<Failure>& error = execution.Error();
+  if (error && error->ofRequest) return ErrorReply(*error, id, CauseOf(execution, options));
   std::string reply;
-  const auto failure = Try([&] { reply = FullReply(execution, id, form); });
+  const auto failure = Try([&] { reply = FullReply(execution, id, options); });
   return failure ? ErrorReply(*failure, id) : reply;
 }
 
@@ -77,20 +108,24 @@ Tree ParseRequest(std::string_view text) {
 
 }  // namespace
 
-std::string Answer(std::string_view requestText, const Options& options, const Clock& clock) noexcept {
+std::string Answer(std::string_view requestText, const Options& options, const Clock& clock,
+                   std::string* fault) noexcept {
   std::optional<Tree> tree;
   std::string reply;
   const auto id = [&] { return tree ? FieldNamed(*tree, "id") : nullptr; };
   const auto failure = Try([&] {
     tree = ParseRequest(requestText);
-    reply = Reply(Execution(ReadRequest(*tree), clock), id(), options.form);
+    const Execution execution(ReadRequest(*tree), clock, options.notes ? Keep::Inputs : Keep::Results);
+    if (fault && execution.Error() && execution.Error()->ofRequest) *fault = execution.WhyFailed().text;
+    reply = Reply(execution, id(), options);
   });
+  if (failure && failure->ofRequest && fault) Try([&] { *fault = failure->message; });
   if (failure) Try([&] { reply = ErrorReply(*failure, id()); });
   return reply;
 }
 
 std::string ReplyTo(const Execution& execution, const Options& options) {
-  return Reply(execution, nullptr, options.form);
+  return Reply(execution, nullptr, options);
 }
 
 }  // namespace amortix2::json

@@ -24,12 +24,16 @@ inline constexpr std::string_view kNoMemoryReply = R"({"error":{"number":7,"name
 
 struct Options {
   Form form = Form::Plain;
+  bool notes = false;  ///< "notes" beside results; "text" and "parameter" in errors of the component
 };
 
-/// Answers a request, whatever is in the text. An empty text stands for kNoMemoryReply.
-std::string Answer(std::string_view requestText, const Options& options, const Clock& clock) noexcept;
+/// Answers a request, whatever is in the text. An empty text stands for kNoMemoryReply. Where the request
+/// itself is at fault, `fault` receives what is wrong with it; else it is left as it is.
+std::string Answer(std::string_view requestText, const Options& options, const Clock& clock,
+                   std::string* fault = nullptr) noexcept;
 
-/// The reply to a request that was carried out. A result that cannot be written makes it an error.
+/// The reply to a request that was carried out (with Keep::Inputs, where `options` ask for notes). A result
+/// that cannot be written makes it an error.
 std::string ReplyTo(const Execution& execution, const Options& options);
 
 }  // namespace amortix2::json

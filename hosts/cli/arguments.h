@@ -1,19 +1,31 @@
 #pragma once
 
-// NAME=VALUE arguments of the command line as the named values of a request.
+// NAME=VALUE arguments of the command line as the named values of a request. A value that a person writes is
+// read with what its parameter is: a choice may be given by its name.
 
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "amortix2/component/description.h"
 #include "amortix2/json/tree.h"
 
 namespace amortix2::cli {
 
-/// A VALUE: JSON when it is valid JSON, a date when it reads YYYY-MM-DD, else a text. Raises RequestError for
-/// a value that opens a JSON array or object and is none, and for bytes that are no UTF-8.
-json::Tree ReadValue(const std::string& value);
+/// NAME=VALUE in its parts.
+struct Assignment {
+  std::string name;
+  std::string value;
+};
 
-/// Each argument as a field. Raises RequestError for one without a name or "=", and as ReadValue does.
-json::Fields ReadArguments(const std::vector<std::string>& arguments);
+/// Raises RequestError for an argument without a name or "=".
+std::vector<Assignment> SplitArguments(const std::vector<std::string>& arguments);
+
+/// A VALUE: what is in a file where it begins with "@" ("@-": standard input; JSON or CSV), JSON when it is
+/// valid JSON, a date when it reads YYYY-MM-DD, else a text. A text that names a choice of the parameter
+/// (null: of none) is that choice. Raises RequestError for a value that opens a JSON array or object and is
+/// none, for bytes that are no UTF-8 and for a file that is neither JSON nor CSV; std::system_error when it
+/// cannot be read.
+json::Tree ReadValue(const std::string& value, const ParameterInfo* parameter);
 
 }  // namespace amortix2::cli

@@ -1,7 +1,16 @@
 #include "amortix2/cli/command_line.h"
 
-#include <CLI/CLI.hpp>
+#include <unistd.h>
 
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <sstream>
+#include <string_view>
+
+#include "amortix2/cli/lines.h"
+#include "amortix2/json/lookup.h"
+#include "amortix2/json/request_error.h"
 #include "amortix2/json/variant_reader.h"
 
 namespace amortix2::cli {
@@ -9,13 +18,16 @@ namespace {
 
 constexpr const char* kExamples = R"(Examples:
   amortix2 list
-  amortix2 list Calculator.SimpleLoanCalculator
-  amortix2 call Calculator.SimpleLoanCalculator vPurchaseAmt=200000 vPeriod=360 vIntRate=6.5
+  amortix2 call loan --help
+  amortix2 call loan vPurchaseAmt=200000 vPeriod=360 vIntRate=6.5
+  amortix2 call loan vPurchaseAmt=200000 vPeriod=360 vIntRate=6.5 --csv vDetArray > schedule.csv
   echo '{"call": "Calculator.SimpleLoanCalculator", "args": {"vPurchaseAmt": 200000, "vPeriod": 360, "vIntRate": 6.5}}' \
     | amortix2 batch
 
 Exit status: 0 success, 1 the component raised an error, 2 a wrong command line, 3 reading or writing failed.
 )";
+
+constexpr std::array<std::string_view, 3> kCommands{"list", "call", "batch"};
 
 void AddToday(CLI::App& command, std::optional<Date>& today) {
   const auto read = [&today](const std::string& text) {
@@ -28,36 +40,74 @@ void AddToday(CLI::App& command, std::optional<Date>& today) {
 
 void AddList(CLI::App& app, CommandLine& options) {
   CLI::App& list = *app.add_subcommand("list", "Show classes, methods, properties and parameters");
-  CLI::Option* name = list.add_option("name", options.target, "What to show; everything when left out")
-                          ->type_name("CLASS[.METHOD]");
-  list.add_flag("--json", options.json, "Print everything as JSON")->excludes(name);
+  CLI::Option* names = list.add_option("name", options.names, "What to show; everything when left out")
+                           ->type_name("CLASS[.METHOD]");
+  list.add_flag("--json", options.json, "Print everything as JSON")->excludes(names);
   list.final_callback([&options] { options.command = Command::List; });
+}
+
+void AddOutputs(CLI::App& call, CommandLine& options) {
+  call.add_flag("--json", options.json, "Print the reply as JSON");
+  call.add_flag("--types", options.types, "Print the reply as JSON with the type of every value");
+  call.add_option("--only", options.only, "Print this result alone; may be given again")
+      ->type_name("NAME")
+      ->allow_extra_args(false);
+  call.add_option("--csv", options.csv, "Print this result alone, as CSV with a header")->type_name("NAME");
+  call.add_option("--out", options.out,
+                  "Write the picture or page that a chart makes to this file; -: print it")
+      ->type_name("FILE");
 }
 
 void AddCall(CLI::App& app, CommandLine& options) {
   CLI::App& call = *app.add_subcommand("call", "Call one method of a new object and print the answer");
-  call.add_option("method", options.target, "What to call")->required()->type_name("CLASS.METHOD");
-  call.add_option("arguments", options.arguments,
-                  "Arguments by name; a VALUE is JSON, or a date YYYY-MM-DD, or text")
+  call.add_option("method", options.target, "What to call: CLASS.METHOD, METHOD or its short name")
+      ->type_name("METHOD");
+  call.add_option(
+          "arguments", options.arguments,
+          "Arguments by name; a VALUE is JSON, or a date YYYY-MM-DD, or text (a choice by its name), or "
+          "@FILE with JSON or CSV (@-: standard input)")
       ->type_name("NAME=VALUE");
   call.add_option(
           "--with", options.settings,
           "A setting of the new object before the call: a property's value, or a method's array of arguments")
       ->type_name("NAME=VALUE")
       ->allow_extra_args(false);
-  call.add_flag("--json", options.json, "Print the reply as JSON");
-  call.add_flag("--types", options.types, "Print the reply as JSON with the type of every value");
-  call.add_option("--out", options.out, "Write what a chart sends to its page to this file")
-      ->type_name("FILE");
+  AddOutputs(call, options);
   AddToday(call, options.today);
-  call.final_callback([&options] { options.command = Command::Call; });
+  call.set_help_flag("");
+  call.add_flag("-h,--help", options.help, "Print the page of METHOD, or this help");
+  call.final_callback([&options] {
+    options.command = Command::Call;
+    if (!options.target.empty()) return;
+    if (options.help) throw CLI::CallForHelp();
+    throw CLI::RequiredError("method");
+  });
 }
 
 void AddBatch(CLI::App& app, CommandLine& options) {
   CLI::App& batch = *app.add_subcommand("batch", "Answer JSON requests from standard input, one a line");
   batch.add_flag("--types", options.types, "Write the type of every value");
+  batch.add_flag("--notes", options.notes,
+                 "Write notes on inputs and answers, and what is wrong where a call fails, into the replies");
   AddToday(batch, options.today);
   batch.final_callback([&options] { options.command = Command::Batch; });
+}
+
+bool IsCallable(std::string_view name) {
+  return !json::Try([&] { json::FindCalled(name); });
+}
+
+/// What is wrong with a first word that is no command; empty when it is one.
+std::string WrongCommand(std::string_view word) {
+  const std::string shown = json::Quoted(word);
+  if (word.starts_with('-') || std::ranges::find(kCommands, word) != kCommands.end()) return {};
+  if (IsCallable(word)) return shown + " is no command; did you mean call " + std::string(word) + "?";
+  const std::string_view closest = json::Closest(word, kCommands);
+  std::string message = "there is no command " + shown;
+  message += closest.empty() ? "." : "; did you mean " + std::string(closest) + "?";
+  message += " There are:";
+  for (const std::string_view name : kCommands) message.append(" ").append(name);
+  return message;
 }
 
 }  // namespace
@@ -74,11 +124,21 @@ std::optional<CommandLine> ReadCommandLine(int argc, const char* const* argv, in
   AddCall(app, options);
   AddBatch(app, options);
   app.footer(kExamples);  // after the commands, which would have it too
+  std::string wrong;
+  if (argc > 1 && !(wrong = WrongCommand(argv[1])).empty()) {
+    WriteAll(STDERR_FILENO, "amortix2: " + wrong + "\nTry amortix2 --help.\n");
+    status = kBadRequest;
+    return std::nullopt;
+  }
   try {
     app.parse(argc, argv);
     return options;
   } catch (const CLI::ParseError& error) {
-    status = app.exit(error) == 0 ? kSuccess : kBadRequest;
+    std::ostringstream out;
+    std::ostringstream err;
+    status = app.exit(error, out, err) == 0 ? kSuccess : kBadRequest;
+    WriteAll(STDERR_FILENO, err.str());
+    WriteAll(STDOUT_FILENO, out.str());
     return std::nullopt;
   }
 }

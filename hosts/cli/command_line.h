@@ -14,12 +14,17 @@ enum class Command { List, Call, Batch };
 
 struct CommandLine {
   Command command{};
-  std::string target;                  ///< list: what, empty for everything; call: CLASS.METHOD
+  std::string target;                  ///< call: CLASS.METHOD, or less where that is enough
+  std::vector<std::string> names;      ///< list: what; empty for everything
   std::vector<std::string> arguments;  ///< NAME=VALUE
   std::vector<std::string> settings;   ///< NAME=VALUE
   bool json = false;
   bool types = false;
-  std::optional<std::string> out;  ///< the file for the page's response
+  bool notes = false;              ///< batch: notes in the replies
+  bool help = false;               ///< call: the page of the method
+  std::vector<std::string> only;   ///< names of results; empty for all
+  std::optional<std::string> csv;  ///< the name of a result
+  std::optional<std::string> out;  ///< the file for the page's response, or "-"
   std::optional<Date> today;       ///< instead of the machine's date
 };
 
@@ -30,7 +35,8 @@ inline constexpr int kBadRequest = 2;      ///< a wrong command line or request
 inline constexpr int kInputOutput = 3;     ///< reading or writing failed
 
 /// Nothing when the program has only to end with `status`: help was asked for and printed, or the command
-/// line was wrong and the reason has been written to standard error.
+/// line was wrong and the reason has been written to standard error. Raises std::system_error when it cannot
+/// be printed.
 std::optional<CommandLine> ReadCommandLine(int argc, const char* const* argv, int& status);
 
 }  // namespace amortix2::cli

@@ -1,5 +1,7 @@
 #include "amortix2/cli/lines.h"
 
+#include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -7,16 +9,29 @@
 #include <cstring>
 #include <system_error>
 
+#include "amortix2/json/reply.h"
+#include "amortix2/json/request_error.h"
+
 namespace amortix2::cli {
 namespace {
 
 constexpr std::size_t kReadSize = std::size_t{1} << 16;
 
+/// After a call that failed: waits where it only found a descriptor that does not block not ready.
+void WaitOrRaise(int descriptor, short event, const std::string& what) {
+  if (errno == EINTR) return;
+  if (errno != EAGAIN && errno != EWOULDBLOCK) {
+    throw std::system_error(errno, std::generic_category(), what);
+  }
+  pollfd ready{descriptor, event, 0};
+  poll(&ready, 1, -1);
+}
+
 std::size_t ReadSome(int descriptor, char* place) {
   while (true) {
     const ssize_t count = read(descriptor, place, kReadSize);
     if (count >= 0) return static_cast<std::size_t>(count);
-    if (errno != EINTR) throw std::system_error(errno, std::generic_category(), "cannot read");
+    WaitOrRaise(descriptor, POLLIN, "cannot read");
   }
 }
 
@@ -27,10 +42,25 @@ void WriteAll(int descriptor, std::string_view bytes) {
     const ssize_t count = write(descriptor, bytes.data(), bytes.size());
     if (count >= 0) {
       bytes.remove_prefix(static_cast<std::size_t>(count));
-    } else if (errno != EINTR) {
-      throw std::system_error(errno, std::generic_category(), "cannot write");
+    } else {
+      WaitOrRaise(descriptor, POLLOUT, "cannot write");
     }
   }
+}
+
+std::string ReadWhole(const std::string& path) {
+  const int descriptor = path == "-" ? STDIN_FILENO : open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (descriptor < 0) throw std::system_error(errno, std::generic_category(), "cannot read " + path);
+  std::string text;
+  for (std::size_t count = kReadSize; count > 0 && text.size() <= json::kLongestRequest;) {
+    const std::size_t size = text.size();
+    text.resize(size + kReadSize);
+    count = ReadSome(descriptor, text.data() + size);
+    text.resize(size + count);
+  }
+  if (descriptor != STDIN_FILENO) close(descriptor);
+  if (text.size() > json::kLongestRequest) throw json::RequestError(path + " is too long");
+  return text;
 }
 
 bool LineReader::HasLine() noexcept {

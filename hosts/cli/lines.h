@@ -10,8 +10,13 @@
 
 namespace amortix2::cli {
 
-/// Writes all bytes. Raises std::system_error when that fails.
+/// Writes all bytes; waits where a descriptor that does not block takes none. Raises std::system_error when
+/// that fails.
 void WriteAll(int descriptor, std::string_view bytes);
+
+/// All of a file, or of standard input for "-". Raises std::system_error when it cannot be read, RequestError
+/// when it is longer than a request may be.
+std::string ReadWhole(const std::string& path);
 
 /// Lines of bounded length whatever comes: what a line has beyond the limit is read over. A line ends in LF
 /// or at the end of the input.

@@ -4,16 +4,22 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdint>
 #include <memory>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
 #include <system_error>
-#include <utility>
 
 #include "amortix2/automation/whole_file.h"
 #include "amortix2/cli/arguments.h"
 #include "amortix2/cli/command_line.h"
 #include "amortix2/cli/lines.h"
 #include "amortix2/cli/listing.h"
+#include "amortix2/cli/product.h"
 #include "amortix2/cli/readable.h"
+#include "amortix2/cli/result_table.h"
 #include "amortix2/common/system_clock.h"
 #include "amortix2/json/description_json.h"
 #include "amortix2/json/execution.h"
@@ -23,94 +29,213 @@
 namespace amortix2::cli {
 namespace {
 
+/// A file that could not be written.
+class FileError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
 std::unique_ptr<Clock> ClockOf(const CommandLine& line) {
   if (line.today) return std::make_unique<FixedClock>(*line.today);
   return std::make_unique<SystemClock>();
 }
 
 json::Options ReplyOptions(const CommandLine& line) {
-  return {line.types ? json::Form::WithTypes : json::Form::Plain};
+  return {line.types ? json::Form::WithTypes : json::Form::Plain, line.notes};
 }
 
-void Complain(const std::string& what) { WriteAll(STDERR_FILENO, "amortix2: " + what + "\n"); }
+/// Says something on standard error; one that cannot be written changes nothing.
+void Say(const std::string& what) {
+  try {
+    WriteAll(STDERR_FILENO, what + "\n");
+  } catch (const std::system_error&) {  // there is nobody to tell
+  }
+}
+void Complain(const std::string& what) { Say("amortix2: " + what); }
 
 /// Says what went wrong and returns the exit status that belongs to it.
-int Report(const json::Failure& failure) {
+int Report(const json::Failure& failure, const std::string& cause) {
+  if (failure.ofRequest) {
+    Complain(cause);
+    return kBadRequest;
+  }
   const std::string number = std::to_string(static_cast<std::int32_t>(failure.number));
-  Complain(failure.ofRequest ? failure.message : number + " " + std::string(failure.name));
-  return failure.ofRequest ? kBadRequest : kComponentError;
+  Complain(number + " " + std::string(failure.name) + (cause.empty() ? "" : ": " + cause));
+  return kComponentError;
 }
 
-/// One --with may be followed by several settings, which are no arguments of the method: moves them.
-void TakeSettings(const json::Target& target, json::Fields& arguments, json::Fields& settings) {
-  json::Fields own;
-  for (auto& [name, value] : arguments) {
-    const bool isArgument = FindParameter(target.method, name) || !FindMember(target.type, name);
-    (isArgument ? own : settings).emplace_back(name, std::move(value));
+/// The arguments and the settings of a call, as a person gave them.
+struct Given {
+  json::Fields arguments;
+  json::Fields settings;
+};
+
+Given ReadGiven(const CommandLine& line, const json::Target& target) {
+  Given given;
+  const auto addArgument = [&](const Assignment& argument) {
+    const ParameterInfo* parameter = FindParameter(target.method, argument.name);
+    given.arguments.emplace_back(argument.name, ReadValue(argument.value, parameter));
+  };
+  const auto addSetting = [&](const Assignment& setting) {
+    const MemberInfo* member = FindMember(target.type, setting.name);
+    const bool isProperty = member && member->kind == MemberKind::PropertyPut;
+    given.settings.emplace_back(setting.name,
+                                ReadValue(setting.value, isProperty ? member->parameters.data() : nullptr));
+  };
+  for (const Assignment& setting : SplitArguments(line.settings)) addSetting(setting);
+  for (const Assignment& argument : SplitArguments(line.arguments)) {
+    // One --with may be followed by several settings, which are no arguments of the method.
+    const bool isSetting = !line.settings.empty() && !FindParameter(target.method, argument.name) &&
+                           FindMember(target.type, argument.name);
+    isSetting ? addSetting(argument) : addArgument(argument);
   }
-  arguments = std::move(own);
+  return given;
 }
 
-void SaveResponse(const json::Execution& execution, const std::string& path) {
-  if (path.empty()) throw json::RequestError("--out names no file");
-  if (execution.Response().empty()) {
-    throw json::RequestError("nothing was sent to the page, so there is no " + path);
+std::string MethodName(const json::Target& target) {
+  return std::string(target.type.name) + "." + std::string(target.method.name);
+}
+
+std::span<const std::uint8_t> BytesOf(std::string_view text) {
+  return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+}
+void SaveFile(const std::string& path, std::string_view bytes) {
+  try {
+    WriteWholeFile(path, BytesOf(bytes));
+  } catch (const AutomationError& error) {
+    if (error.Number() == ErrorNumber::OutOfMemory) throw;
+    throw FileError("cannot write " + path + ": " + std::string(ErrorDescription(error.Number())));
   }
-  WriteWholeFile(path, execution.Response());
+  Say("wrote " + path + " (" + std::to_string(bytes.size()) + " bytes)");
+}
+
+void CheckOutputs(const CommandLine& line) {
+  const bool isJson = line.json || line.types;
+  if (line.out && line.out->empty()) throw json::RequestError("--out names no file");
+  if (isJson + line.csv.has_value() + (line.out == "-") > 1) {
+    throw json::RequestError("only one of --json, --csv and --out - can be printed");
+  }
+}
+
+void Print(const CommandLine& line, const json::Execution& execution, const Product& product) {
+  if (line.json || line.types) {
+    WriteAll(STDOUT_FILENO, json::ReplyTo(execution, ReplyOptions(line)) + "\n");
+  } else if (line.csv) {
+    WriteAll(STDOUT_FILENO, ResultAsCsv(execution, *line.csv));
+  } else if (line.out == "-") {
+    WriteAll(STDOUT_FILENO, product.bytes);
+  } else {
+    const Rows rows = isatty(STDOUT_FILENO) == 1 ? Rows::Folded : Rows::All;
+    WriteAll(STDOUT_FILENO, ReadableAnswer(execution, {rows, line.only.empty(), product.name}));
+  }
 }
 
 int RunCall(const CommandLine& line) {
-  json::Fields arguments = ReadArguments(line.arguments);
-  json::Fields settings = ReadArguments(line.settings);
-  if (!settings.empty()) TakeSettings(json::FindTarget(line.target), arguments, settings);
-  const auto clock = ClockOf(line);
-  const json::Execution execution({line.target, arguments, settings}, *clock, json::Keep::GivenToo);
-  if (line.json || line.types) {
-    WriteAll(STDOUT_FILENO, json::ReplyTo(execution, ReplyOptions(line)) + "\n");
-  } else if (!execution.Error()) {
-    WriteAll(STDOUT_FILENO, ReadableAnswer(execution));
+  const json::Target target = json::FindCalled(line.target);
+  const std::string method = MethodName(target);
+  if (line.help) {
+    WriteAll(STDOUT_FILENO, Listing(method));
+    return kSuccess;
   }
-  if (execution.Error()) return Report(*execution.Error());
-  if (line.out) SaveResponse(execution, *line.out);
+  CheckOutputs(line);
+  const auto clock = ClockOf(line);
+  const Given given = ReadGiven(line, target);
+  json::Request request{method, given.arguments, given.settings};
+  if (!line.only.empty()) request.only.emplace(line.only.begin(), line.only.end());
+  if (line.csv) json::NeedResult(target.method, *line.csv);
+  const json::Execution execution(request, *clock, json::Keep::GivenToo);
+  if (execution.Error()) {
+    const bool isJson = line.json || line.types;
+    if (isJson) WriteAll(STDOUT_FILENO, json::ReplyTo(execution, ReplyOptions(line)) + "\n");
+    return Report(*execution.Error(), execution.WhyFailed().text);
+  }
+  const Product product = line.out ? ProductOf(execution) : Product{};
+  Print(line, execution, product);
+  for (const Note& note : execution.Notes()) Say("note: " + note.Text());
+  if (line.out && line.out != "-") SaveFile(*line.out, product.bytes);
   return kSuccess;
 }
+
+/// Tells of lines that are no requests, of the first ones each: nobody may be reading standard error.
+class BadLines {
+ public:
+  void Add(std::uint64_t line, const std::string& fault) {
+    if (++count_ <= kTold) Complain("line " + std::to_string(line) + ": " + fault);
+  }
+  void End() const {
+    if (count_ > kTold) Complain(std::to_string(count_) + " lines could not be carried out");
+  }
+
+ private:
+  static constexpr std::uint64_t kTold = 10;
+  std::uint64_t count_ = 0;
+};
 
 /// Answers until the input ends. Replies are sent at the latest when no complete line is waiting.
 int RunBatch(const CommandLine& line) {
   const auto clock = ClockOf(line);
   LineReader requests(STDIN_FILENO, json::kLongestRequest);
   LineWriter replies(STDOUT_FILENO);
-  while (true) {
+  BadLines badLines;
+  for (std::uint64_t number = 1;; ++number) {
     if (!requests.HasLine()) replies.Flush();
     const auto request = requests.Next();
     if (!request) break;
-    const std::string reply = json::Answer(*request, ReplyOptions(line), *clock);
+    std::string fault;
+    const std::string reply = json::Answer(*request, ReplyOptions(line), *clock, &fault);
     replies.WriteLine(reply.empty() ? json::kNoMemoryReply : reply);
+    if (!fault.empty()) badLines.Add(number, fault);
   }
   replies.Flush();
+  badLines.End();
   return kSuccess;
 }
 
-int Run(const CommandLine& line) {
-  if (line.command == Command::Call) return RunCall(line);
-  if (line.command == Command::Batch) return RunBatch(line);
-  WriteAll(STDOUT_FILENO, line.json ? json::DescriptionJson() + "\n" : Listing(line.target));
+/// "CLASS.METHOD" of what is named without its class; else the name.
+std::string FullName(const std::string& name) {
+  const bool isShort = name.find('.') == std::string::npos && !FindClass(name);
+  return isShort ? MethodName(json::FindCalled(name)) : name;
+}
+
+int RunList(const CommandLine& line) {
+  std::string text = line.json ? json::DescriptionJson() + "\n" : std::string();
+  if (text.empty() && line.names.empty()) text = Listing("");
+  for (const std::string& name : line.names) text += (text.empty() ? "" : "\n") + Listing(FullName(name));
+  WriteAll(STDOUT_FILENO, text);
   return kSuccess;
 }
 
-int Main(int argc, char** argv) {
-  // A reader that goes away is an error of writing, not the end of the process.
-  std::signal(SIGPIPE, SIG_IGN);
+int Run(int argc, char** argv) {
   int status = kSuccess;
   const auto line = ReadCommandLine(argc, argv, status);
   if (!line) return status;
+  if (line->command == Command::Call) return RunCall(*line);
+  return line->command == Command::Batch ? RunBatch(*line) : RunList(*line);
+}
+
+/// Of a reader that went away: ends as other filters do, by the signal that says so.
+int EndQuietly() {
+  std::signal(SIGPIPE, SIG_DFL);
+  std::raise(SIGPIPE);
+  return kInputOutput;  // where the signal is blocked
+}
+
+int Main(int argc, char** argv) {
+  // First an error of writing, so that files are left as they should be. A file that grows too large is one.
+  std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
   try {
-    return Run(*line);
+    return Run(argc, argv);
   } catch (const std::system_error& error) {
+    if (error.code() == std::errc::broken_pipe) return EndQuietly();
+    Complain(error.what());
+    return kInputOutput;
+  } catch (const FileError& error) {
     Complain(error.what());
     return kInputOutput;
   } catch (...) {
-    return Report(json::CurrentFailure());
+    const json::Failure failure = json::CurrentFailure();
+    return Report(failure, failure.message);
   }
 }
 

@@ -1,10 +1,13 @@
 #include "amortix2/cli/readable.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
-#include "amortix2/cli/text_table.h"
+#include "amortix2/component/answer.h"
+#include "amortix2/component/invocation.h"
 
 namespace amortix2::cli {
 namespace {
@@ -25,7 +28,8 @@ std::string_view Note(const Line& line) {
         std::ranges::find(line.enumeration->constants, line.value.GetLong(), &ConstantInfo::value);
     return constant == line.enumeration->constants.end() ? std::string_view{} : constant->name;
   }
-  const bool plain = line.unit == Unit::Text || line.unit == Unit::Currency || line.unit == Unit::Date;
+  const bool plain = line.unit == Unit::Text || line.unit == Unit::Currency ||
+                     line.unit == Unit::MonthlyCurrency || line.unit == Unit::Date;
   return plain ? std::string_view{} : UnitName(line.unit);
 }
 
@@ -39,13 +43,12 @@ std::string About(const Line& line) {
 void AppendLines(std::string& out, const std::vector<Line>& lines) {
   std::vector<std::vector<TextCell>> rows;
   for (const Line& line : lines) {
-    const bool money = line.unit == Unit::Currency || line.unit == Unit::MonthlyCurrency;
     auto& row = rows.emplace_back();
     row.push_back({std::string(line.name)});
     if (line.value.Type() == VariantType::String) {
       row.push_back({PlainText(line.value), Align::Free});
     } else {
-      row.push_back({PlainText(line.value, money ? 2 : 0), Align::Right});
+      row.push_back({PlainText(line.value, line.unit), Align::Right});
       row.push_back({About(line)});
     }
   }
@@ -69,76 +72,25 @@ std::string Range(Bounds bounds) {
   return std::to_string(bounds.lower) + " to " + std::to_string(bounds.upper);
 }
 
-/// Row 0 and column 0 of a result are often unused; what is empty there is left out.
-void AppendGrid(std::string& out, const Title& title, const Array& array) {
-  Bounds rows = array.Dimension(1);
-  Bounds columns = array.Dimension(2);
-  AppendHeading(out, title, "rows " + Range(rows) + ", columns " + Range(columns));
-  const auto emptyCell = [&](std::int64_t row, std::int64_t column) {
-    return array.At(row, column).Type() == VariantType::Empty;
-  };
-  const auto emptyColumn = [&] {
-    for (std::int64_t row = rows.lower; row <= rows.upper; ++row) {
-      if (!emptyCell(row, columns.lower)) return false;
-    }
-    return true;
-  };
-  const auto emptyRow = [&] {
-    for (std::int64_t column = columns.lower; column <= columns.upper; ++column) {
-      if (!emptyCell(rows.lower, column)) return false;
-    }
-    return true;
-  };
-  if (columns.Count() > 1 && emptyColumn()) ++columns.lower;
-  if (rows.Count() > 1 && emptyRow()) ++rows.lower;
-  TextTable table{{}, rows, [&](std::int64_t row, std::size_t column) {
-                    return array.At(row, columns.lower + static_cast<std::int64_t>(column));
-                  }};
-  for (std::int64_t column = columns.lower; column <= columns.upper; ++column) {
-    table.header.push_back(std::to_string(column));
-  }
-  AppendTable(out, table);
-}
-
 bool IsTextOrEmpty(const Variant& cell) {
   return cell.Type() == VariantType::String || cell.Type() == VariantType::Empty;
 }
 
-/// Lines of text stand as they are, other lists one element a line.
-void AppendList(std::string& out, const Title& title, const Array& array) {
-  const Bounds bounds = array.Dimension(1);
-  AppendHeading(out, title, "elements " + Range(bounds));
-  if (std::ranges::all_of(array.Cells(), IsTextOrEmpty)) {
-    for (const Variant& cell : array.Cells()) {
-      if (cell.Type() == VariantType::String) out.append(cell.GetString()).append("\n");
-    }
-  } else {
-    AppendTable(out, {{""}, bounds, [&](std::int64_t row, std::size_t) { return array.At(row); }});
-  }
-}
-
-void AppendArray(std::string& out, const Title& title, const Array& array) {
-  if (array.Rank() == 1) {
-    AppendList(out, title, array);
-  } else {
-    AppendGrid(out, title, array);
+/// Lines of text stand as they are.
+void AppendText(std::string& out, const Array& array) {
+  for (const Variant& cell : array.Cells()) {
+    if (cell.Type() == VariantType::String) out.append(cell.GetString()).append("\n");
   }
 }
 
 bool IsRecords(const TypeInfo& type) noexcept { return type.kind == TypeKind::RecordArray; }
 
 /// A list of lines: one row a record, one column a field.
-void AppendSchedule(std::string& out, const Title& title, const TypeInfo& type, const void* records) {
+void AppendSchedule(std::string& out, const Title& title, const TypeInfo& type, const void* records,
+                    Rows rows) {
   const Bounds bounds = type.bounds(records);
   AppendHeading(out, title, bounds.Count() == 0 ? "none" : "lines " + Range(bounds));
-  if (bounds.Count() == 0) return;
-  const auto fields = type.record->fields;
-  TextTable table{{}, bounds, [&](std::int64_t row, std::size_t column) {
-                    const FieldInfo& field = fields[column];
-                    return field.type->read(PlaceOf(field, PlaceAt(type, records, row)));
-                  }};
-  for (const FieldInfo& field : fields) table.header.emplace_back(field.name);
-  AppendTable(out, table);
+  if (bounds.Count() > 0) AppendTable(out, TableOf(type, records), rows);
 }
 
 /// The fields that are not zero.
@@ -153,21 +105,23 @@ std::vector<Line> FieldLines(const RecordInfo& record, const void* value) {
   return lines;
 }
 
-void AppendRecord(std::string& out, const Title& title, const RecordInfo& record, const void* value) {
+void AppendRecord(std::string& out, const Title& title, const RecordInfo& record, const void* value,
+                  Rows rows) {
   const std::vector<Line> lines = FieldLines(record, value);
   AppendHeading(out, title, std::string(record.name) + (lines.empty() ? ", all zero" : ""));
   AppendLines(out, lines);
   ForEachField(record, value, [&](const FieldInfo& field, const void* place) {
     if (!IsRecords(*field.type)) return;
-    AppendSchedule(out, {title.name + "." + std::string(field.name), field.title}, *field.type, place);
+    AppendSchedule(out, {title.name + "." + std::string(field.name), field.title}, *field.type, place, rows);
   });
 }
 
-void AppendRecords(std::string& out, const Title& title, const Value& value) {
+void AppendRecords(std::string& out, const Title& title, const Value& value, Rows rows) {
   const Bounds bounds = value.Type().bounds(value.Get());
   if (bounds.Count() == 0) AppendHeading(out, title, "none");
   ForEachRecord(value.Type(), value.Get(), [&](std::int64_t index, const void* record) {
-    AppendRecord(out, {title.name + "(" + std::to_string(index) + ")", {}}, *value.Type().record, record);
+    AppendRecord(out, {title.name + "(" + std::to_string(index) + ")", {}}, *value.Type().record, record,
+                 rows);
   });
 }
 
@@ -175,49 +129,86 @@ const Array* ArrayIn(const Variant& value) {
   return value.Type() == VariantType::Array ? &value.GetArray() : nullptr;
 }
 
-void AppendBlock(std::string& out, const Title& title, const Value& value) {
-  switch (value.Type().kind) {
-    case TypeKind::Record:
-      return AppendRecord(out, title, *value.Type().record, value.Get());
-    case TypeKind::RecordArray:
-      return AppendRecords(out, title, value);
-    case TypeKind::Variant:
-      if (const Array* array = ArrayIn(*static_cast<const Variant*>(value.Get()))) {
-        AppendArray(out, title, *array);
-      }
-      return;
-    default:
-      return;
+/// The answer of one call, as it is put together.
+class Answer {
+ public:
+  Answer(const json::Execution& execution, Rows rows) : execution_(execution), rows_(rows) {}
+
+  void Add(const ParameterInfo& info, const Value& value) {
+    const Title title{std::string(info.name), info.title};
+    if (value.Type().kind == TypeKind::Record) {
+      AppendRecord(blocks_, title, *value.Type().record, value.Get(), rows_);
+    } else if (IsRecords(value.Type())) {
+      AppendRecords(blocks_, title, value, rows_);
+    } else if (value.Type().kind == TypeKind::Variant) {
+      const auto& variant = *static_cast<const Variant*>(value.Get());
+      if (const Array* array = ArrayIn(variant)) return AddArray(info, title, *array);
+    }
+    if (!value.Type().read) return;
+    Variant single = value.Type().read(value.Get());
+    lines_.push_back({info.name, std::move(single), info.unit, info.title, value.Type().enumeration});
   }
-}
+
+  std::string Text(const std::string& sentence) const {
+    std::string out = sentence.empty() ? "" : sentence + "\n";
+    const auto separate = [&] { out += out.empty() ? "" : "\n"; };
+    if (!lines_.empty()) {
+      separate();
+      AppendLines(out, lines_);
+    }
+    if (!blocks_.empty()) {
+      separate();
+      out += blocks_;
+    }
+    return out;
+  }
+
+ private:
+  void AddArray(const ParameterInfo& info, const Title& title, const Array& array) {
+    const bool isText = array.Rank() == 1 && std::ranges::all_of(array.Cells(), IsTextOrEmpty);
+    const ResultTable table = TableOf(*execution_.Given(), info, array);
+    AppendHeading(
+        blocks_, title,
+        (array.Rank() == 1 ? "elements " : "rows ") + Range(isText ? array.Dimension(1) : table.rows));
+    if (isText) {
+      AppendText(blocks_, array);
+    } else if (array.Rank() == 1) {
+      ResultTable list = table;
+      list.columns = {""};
+      AppendTable(blocks_, list, rows_);
+    } else {
+      AppendTable(blocks_, table, rows_);
+    }
+  }
+
+  const json::Execution& execution_;
+  Rows rows_;
+  std::vector<Line> lines_;
+  std::string blocks_;
+};
 
 }  // namespace
 
-std::string ReadableAnswer(const json::Execution& execution) {
+std::string ReadableAnswer(const json::Execution& execution, const Shown& shown) {
   const Invocation& call = *execution.Call();
-  std::vector<Line> lines;
-  std::string blocks;
-  const auto add = [&](const ParameterInfo& info, const Value& value) {
-    AppendBlock(blocks, {std::string(info.name), info.title}, value);
-    if (!value.Type().read) return;
-    Variant single = value.Type().read(value.Get());
-    if (ArrayIn(single)) return;
-    lines.push_back({info.name, std::move(single), info.unit, info.title, value.Type().enumeration});
-  };
+  Answer answer(execution, shown.rows);
   for (std::size_t i = 0; i < call.Arguments().size(); ++i) {
     const ParameterInfo& parameter = call.Member().parameters[i];
-    if (parameter.byReference && !execution.IsUnchanged(i)) add(parameter, call.Arguments()[i]);
+    const bool isShown = parameter.byReference && parameter.name != shown.elsewhere;
+    if (isShown && execution.Wants(parameter.name) && !execution.IsUnchanged(i)) {
+      answer.Add(parameter, call.Arguments()[i]);
+    }
   }
   ParameterInfo result;
   result.name = "returns";
-  if (call.Result()) add(result, *call.Result());
+  if (call.Result() && execution.Wants("return")) answer.Add(result, *call.Result());
 
-  std::string out;
-  AppendLines(out, lines);
-  if (!out.empty() && !blocks.empty()) out += '\n';
-  out += blocks;
-  if (const std::size_t bytes = execution.Response().size(); bytes > 0) {
-    AppendHeading(out, {"page response", {}}, std::to_string(bytes) + " bytes");
+  const bool isWhole = shown.sentence;
+  std::string out = answer.Text(
+      isWhole ? AnswerSentence(*execution.Given(), Results(call.Member(), call.Arguments())) : std::string());
+  const std::size_t bytes = execution.Response().size();
+  if (bytes > 0 && execution.Wants("response") && shown.elsewhere != "response") {
+    AppendHeading(out, {"page response", {}}, std::to_string(bytes) + " bytes; --out FILE writes them");
   }
   return out;
 }

@@ -1,8 +1,14 @@
 #include "amortix2/cli/text_table.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <optional>
+#include <utility>
 
+#include "amortix2/automation/array.h"
+#include "amortix2/automation/conversion.h"
 #include "amortix2/json/json_text.h"
 #include "amortix2/json/variant_writer.h"
 
@@ -42,30 +48,85 @@ void Pad(std::string& number, std::size_t decimals) {
   number.append(decimals - std::min(decimals, DecimalsOf(number)), '0');
 }
 
+/// The decimals of a unit's numbers; nothing where they have as many as they need.
+std::optional<int> DecimalsOf(Unit unit) noexcept {
+  switch (unit) {
+    case Unit::Currency:
+    case Unit::MonthlyCurrency:
+      return 2;
+    case Unit::Percent:
+    case Unit::AnnualPercent:
+    case Unit::PercentagePoints:
+      return 3;
+    default:
+      return std::nullopt;
+  }
+}
+
+/// Nothing for a number so large that its decimals say nothing.
+std::optional<std::string> Fixed(double value, int decimals) {
+  constexpr double kLarge = 1e15;
+  if (!(std::abs(value) < kLarge)) return std::nullopt;
+  std::array<char, 32> digits;
+  const auto end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals)
+          .ptr;
+  std::string text(digits.data(), end);
+  if (text.find_first_of("123456789") == std::string::npos && text.starts_with('-')) text.erase(0, 1);
+  return text;
+}
+
 std::size_t Decimals(const Variant& value) {
   return IsNumber(value.Type()) ? DecimalsOf(PlainText(value)) : 0;
 }
 
+/// The rows that are shown; nothing stands for those between.
+std::vector<std::optional<std::int64_t>> ShownRows(Bounds bounds, Rows rows) {
+  constexpr std::int64_t kLong = 36;
+  constexpr std::int64_t kFirst = 13;  // a year's, and the row before
+  constexpr std::int64_t kLast = 12;
+  std::vector<std::optional<std::int64_t>> shown;
+  const bool folds = rows == Rows::Folded && bounds.Count() > kLong;
+  for (std::int64_t row = bounds.lower; row <= bounds.upper; ++row) {
+    if (folds && row == bounds.lower + kFirst) {
+      shown.emplace_back(std::nullopt);
+      row = bounds.upper - kLast + 1;
+    }
+    shown.emplace_back(row);
+  }
+  return shown;
+}
+
+using ShownRow = std::optional<std::int64_t>;
+
 /// Appends a cell to each row, the first of which is the header.
-void AddColumn(std::vector<std::vector<TextCell>>& rows, const TextTable& table, std::size_t column) {
+void AddColumn(std::vector<std::vector<TextCell>>& lines, const ResultTable& table, std::size_t column,
+               const std::vector<ShownRow>& shown) {
   std::size_t decimals = 0;
   Align align = Align::Right;
-  for (std::int64_t row = table.rows.lower; row <= table.rows.upper; ++row) {
-    const Variant value = table.cell(row, column);
+  for (const ShownRow& row : shown) {
+    if (!row) continue;
+    const Variant value = table.cell(*row, column);
     decimals = std::max(decimals, Decimals(value));
     if (!IsNumber(value.Type()) && value.Type() != VariantType::Empty) align = Align::Left;
   }
-  rows.front().push_back({table.header[column], align});
-  for (std::int64_t row = table.rows.lower; row <= table.rows.upper; ++row) {
-    auto& cells = rows[static_cast<std::size_t>(row - table.rows.lower) + 1];
-    cells.push_back({PlainText(table.cell(row, column), decimals), align});
+  lines.front().push_back({table.columns[column], align});
+  for (std::size_t i = 0; i < shown.size(); ++i) {
+    if (!shown[i]) continue;
+    const Unit unit = table.unit(*shown[i], column);
+    // Where units differ by the row, each number has the decimals of its own.
+    const bool isPlain = unit == Unit::None;
+    lines[i + 1].push_back({PlainText(table.cell(*shown[i], column), unit, isPlain ? decimals : 0), align});
   }
 }
 
 }  // namespace
 
-std::string PlainText(const Variant& value, std::size_t decimals) {
+std::string PlainText(const Variant& value, Unit unit, std::size_t decimals) {
   std::string text;
+  if (const auto fixed = DecimalsOf(unit); fixed && IsNumber(value.Type())) {
+    if (auto number = Fixed(NumericOrZero(value), *fixed)) return std::move(*number);
+  }
   switch (value.Type()) {
     case VariantType::Empty:
     case VariantType::Missing:
@@ -117,14 +178,23 @@ void AppendRows(std::string& out, const std::vector<std::vector<TextCell>>& rows
   }
 }
 
-void AppendTable(std::string& out, const TextTable& table) {
-  std::vector<std::vector<TextCell>> rows{{{}}};
-  for (std::int64_t row = table.rows.lower; row <= table.rows.upper; ++row) {
-    rows.push_back({{std::to_string(row), Align::Right}});
+void AppendTable(std::string& out, const ResultTable& table, Rows rows) {
+  const std::vector<ShownRow> shown = ShownRows(table.rows, rows);
+  std::vector<std::vector<TextCell>> lines{{{}}};
+  for (const ShownRow& row : shown) {
+    if (!row) {
+      lines.push_back({{"..."}});
+    } else if (table.rowTitles.empty()) {
+      lines.push_back({{std::to_string(*row), Align::Right}});
+    } else {
+      lines.push_back({{table.rowTitles[static_cast<std::size_t>(*row - table.rows.lower)]}});
+    }
   }
-  for (std::size_t column = 0; column < table.header.size(); ++column) AddColumn(rows, table, column);
-  if (std::ranges::all_of(table.header, &std::string::empty)) rows.erase(rows.begin());
-  AppendRows(out, rows);
+  for (std::size_t column = 0; column < table.columns.size(); ++column) {
+    AddColumn(lines, table, column, shown);
+  }
+  if (std::ranges::all_of(table.columns, &std::string::empty)) lines.erase(lines.begin());
+  AppendRows(out, lines);
 }
 
 }  // namespace amortix2::cli

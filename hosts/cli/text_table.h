@@ -2,13 +2,12 @@
 
 // Tables for a person to read, aligned by blanks.
 
-#include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
-#include "amortix2/automation/array.h"
 #include "amortix2/automation/variant.h"
+#include "amortix2/cli/result_table.h"
+#include "amortix2/component/meaning.h"
 
 namespace amortix2::cli {
 
@@ -26,18 +25,17 @@ struct TextCell {
 /// Appends rows, one a line, in columns that stand two blanks apart.
 void AppendRows(std::string& out, const std::vector<std::vector<TextCell>>& rows);
 
-struct TextTable {
-  std::vector<std::string> header;  ///< one per column; no header line when all are empty
-  Bounds rows;
-  std::function<Variant(std::int64_t row, std::size_t column)> cell;
+enum class Rows {
+  All,
+  Folded,  ///< of a long table the beginning and the end
 };
 
-/// Appends the rows behind their indices. A column of numbers stands to the right, with equally many
-/// decimals, any other to the left.
-void AppendTable(std::string& out, const TextTable& table);
+/// Appends the rows behind their titles or indices, and above them the columns' titles unless all are empty.
+/// A column of numbers stands to the right, any other to the left.
+void AppendTable(std::string& out, const ResultTable& table, Rows rows);
 
-/// A number, date, text or flag as a person reads it, on one line; numbers with at least so many decimals,
-/// and rounded to six.
-std::string PlainText(const Variant& value, std::size_t decimals = 0);
+/// A number, date, text or flag as a person reads it, on one line: money with two decimals, rates with three,
+/// other numbers with at least so many decimals and at most six.
+std::string PlainText(const Variant& value, Unit unit = Unit::None, std::size_t decimals = 0);
 
 }  // namespace amortix2::cli

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Runs each `$ amortix2 ...` of the README and looks for the lines shown below it in the answer.
+# Runs each `$ amortix2 ...` of the README and looks for the lines shown below it in the answer; "..." marks lines
+# that are left out.
 set -euo pipefail
 readme=$1
 amortix2=$2
@@ -9,6 +10,7 @@ checked=0
 while IFS= read -r line; do
   case "$line" in
     '    $ amortix2 '*) answer=$(eval "'$amortix2' ${line#*amortix2 }") ;;
+    '    ...' | '') ;;
     '    '*)
       [ -n "$answer" ] || continue
       checked=$((checked + 1))

@@ -1,10 +1,12 @@
 // The executable as other programs run it.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -144,9 +146,62 @@ TEST_F(Program, OutputThatCannotBeWrittenIsAFailureNotACrash) {
   const std::string batch = "'" AMORTIX2_PROGRAM "' batch <'" + Path("in") + "' 2>/dev/null ";
   EXPECT_EQ(WEXITSTATUS(std::system((batch + ">/dev/full").c_str())), 3);
   EXPECT_EQ(WEXITSTATUS(std::system((batch + ">&-").c_str())), 3);
-  const std::string piped = "( " + batch + "; echo $? >'" + Path("out") + "' ) | head -c 10 >/dev/null";
+  for (const char* output : {" >/dev/full", " >&-"}) {
+    for (const char* command : {"--help", "--version", "list", "call loan --help", "call loan vPeriod=1"}) {
+      const std::string line = std::string("'" AMORTIX2_PROGRAM "' ") + command + " 2>/dev/null" + output;
+      EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), 3) << line;
+    }
+  }
+  // A reader that goes away ends it as it ends other filters, without a word.
+  const std::string piped = "( '" AMORTIX2_PROGRAM "' batch <'" + Path("in") + "' 2>'" + Path("err") +
+                            "'; echo $? >'" + Path("out") + "' ) | head -c 10 >/dev/null";
+  std::ofstream good(Path("in"), std::ios::binary);
+  for (int i = 0; i < 1000; ++i) good << "{" << kLoan << "\n";
+  good.close();
   ASSERT_EQ(std::system(piped.c_str()), 0);
-  EXPECT_EQ(Read("out"), "3\n");
+  EXPECT_EQ(Read("out"), "141\n");
+  EXPECT_EQ(Read("err"), "");
+}
+
+TEST_F(Program, APipeThatDoesNotBlockIsWaitedFor) {
+  std::ofstream(Path("in"), std::ios::binary) << MixedRequests(200);
+  const std::string batch = " '" AMORTIX2_PROGRAM "' batch <'" + Path("in") + "' 2>/dev/null ";
+  ASSERT_EQ(std::system((batch + ">'" + Path("all") + "'").c_str()), 0);
+  int out[2];
+  ASSERT_EQ(pipe2(out, O_NONBLOCK), 0);
+  const pid_t child = fork();
+  if (child == 0) {
+    dup2(out[1], 1);
+    execl("/bin/sh", "sh", "-c", batch.c_str(), nullptr);
+    _exit(127);
+  }
+  close(out[1]);
+  fcntl(out[0], F_SETFL, 0);
+  usleep(100'000);  // until the pipe is full
+  std::string all;
+  std::array<char, 4096> piece;
+  for (ssize_t count; (count = read(out[0], piece.data(), piece.size())) > 0;) {
+    all.append(piece.data(), static_cast<std::size_t>(count));
+  }
+  close(out[0]);
+  int status = -1;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(all, Read("all"));
+}
+
+TEST_F(Program, LongTablesAreFoldedOnATerminalOnly) {
+  const std::string call = "call loan vPurchaseAmt=200000 vPeriod=360 vIntRate=6.5 --today 2026-01-31";
+  ASSERT_EQ(Run(call), 0);
+  const std::size_t all = Lines().size();
+  EXPECT_EQ(all, 11u + 361);
+  const std::string typed =
+      "script -qec \"'" AMORTIX2_PROGRAM "' " + call + "\" /dev/null </dev/null >'" + Path("out") + "'";
+  ASSERT_EQ(std::system(typed.c_str()), 0);
+  const auto lines = Lines();
+  ASSERT_EQ(lines.size(), 11u + 13 + 1 + 12);
+  EXPECT_TRUE(lines[24].starts_with("...")) << lines[24];
+  EXPECT_TRUE(lines[25].starts_with("349  02-")) << lines[25];
 }
 
 TEST_F(Program, ExitStatusesOutputsAndErrorLines) {
@@ -165,6 +220,13 @@ TEST_F(Program, ExitStatusesOutputsAndErrorLines) {
       {"list --json", 0, R"({"classes":[{"name":"Calculator","title":"...)", ""},
       {"list --json BarChart", 2, "", "excludes"},
       {"list calculator.loaddetarray", 0, "Calculator.LoadDetArray\n  ...", ""},
+      {"list refinance", 0, "Calculator.RefinancingCalculator\n  ...", ""},
+      {"call refinance --help", 0, "Calculator.RefinancingCalculator\n  ...", ""},
+      {"call --help", 0, "Call one method of a new object and print the answer\n...", ""},
+      {"lst", 2, "", "there is no command \"lst\"; did you mean list?"},
+      {"refinance", 2, "", "did you mean call refinance?"},
+      {"call refinanc", 2, "", "did you mean refinance?"},
+      {"call stackchart", 2, "", "say BarChart.StackChart or SvgChart.StackChart\n"},
       {"list Calculator.Amorti", 2, "", "did you mean Amortix?"},
       {"", 2, "", "subcommand"},
       {"call", 2, "", "method is required"},
@@ -174,10 +236,18 @@ TEST_F(Program, ExitStatusesOutputsAndErrorLines) {
       {"call Calculator.FixedPayment \"vPeriod=$(printf '\\377')\"", 2, "", "a value is no UTF-8 text"},
       {"call Calculator.FixedPayment vPeriod=1e400", 2, "", "beyond the range of doubles"},
       {"call Calculator.FixedPayment --today 2001-02-29", 2, "", "\"2001-02-29\" is no date"},
-      {"call Calculator.FixedPayment vPurchaseAmt=1 --out x", 2, "...", "nothing was sent"},
-      {"call Calculator.LoadDetArray atCol=40000", 1, "", "amortix2: 6 Overflow\n"},
+      {"call Calculator.FixedPayment vPurchaseAmt=1 --out x", 2, "...", "nothing was made for a page"},
+      {"call Calculator.LoadDetArray atCol=40000", 1, "", "amortix2: 6 Overflow: LoadDetArray: "},
       {"call BarChart.MakeChart --with NegativeBars=1 YLabelMode=11 vColDat=5", 1, "",
-       "amortix2: 9 Subscript"},
+       "amortix2: 9 SubscriptOutOfRange: MakeChart: vColDat=5 is no table\n"},
+      {"call Amortix AmortixType=x", 1, "", "13 TypeMismatch: Amortix: AmortixType: "},
+      {"call save vStartDate=soon", 1, "",
+       "13 TypeMismatch: AmountSavedCalculator: vStartDate=\"soon\" is no date\n"},
+      {"call loan --only vPayment", 2, "", "did you mean vResPayment?"},
+      {"call loan --csv x --json", 2, "", "only one of"},
+      {"call svg-line-chart 'vColDat=[[0,0],[0,1]]' --out ''", 2, "", "--out names no file"},
+      {"call svg-line-chart 'vColDat=[[0,0],[0,1]]' --out -", 0, "<svg ...", ""},
+      {"call loan vPeriod=@/none", 3, "", "amortix2: cannot read /none: No such file or directory\n"},
       {"call BarChart.MakeChart --with NegativeBars=1 YLabel=11", 2, "", "no argument"},
       {"call --types BarChart.MakeChart vColDat=2001-01-31 blnk=2001-02-31 Colgif= Colleg='\"5\"' "
        "Ttl='$1,000' "
@@ -194,20 +264,44 @@ TEST_F(Program, ExitStatusesOutputsAndErrorLines) {
       {chart, 0, "vRes: ...", ""},
       // 1000 at 6.5/12 % a month: 5.42 and 2.72 of interest, so two payments of 504.07.
       {"call Calculator.SimpleLoanCalculator vPurchaseAmt=1000 vPeriod=2 vIntRate=6.5 --today 2001-01-31", 0,
-       R"(vResPurchaseAmt  1000.00  Amount
-vResPayment       504.07  Monthly payment (currency a month)
+       R"(The loan costs 504.07 a month for 2 months; interest comes to 8.14.
+
+vResPurchaseAmt  1000.00  Amount
+vResPayment       504.07  Monthly payment
 vResPeriod             2  Term (months)
-vResIntRate          6.5  Interest rate (annual percent)
+vResIntRate        6.500  Interest rate (annual percent)
 vTotPay          1008.14  Total of payments
 vTotInt             8.14  Total interest
 
-vDetArray: Schedule (rows 0 to 2, columns 0 to 5)
-   1                2       3     4        5
-0  01-31-2001    0.00    0.00  0.00  1000.00
-1  02-28-2001  504.07  498.65  5.42   501.35
-2  03-31-2001  504.07  501.35  2.72     0.00
+vDetArray: Schedule (rows 0 to 2)
+   Date        Payment  Principal  Interest  Balance
+0  01-31-2001     0.00       0.00      0.00  1000.00
+1  02-28-2001   504.07     498.65      5.42   501.35
+2  03-31-2001   504.07     501.35      2.72     0.00
 )",
        ""},
+      {"call LOAN vPurchaseAmt=1000 vPeriod=2 vIntRate=6.5 --today 2001-01-31 --csv vdetarray", 0,
+       "Date,Payment,Principal,Interest,Balance\r\n01-31-2001,0,0,0,1000\r\n02-28-2001,504.07,498.65,5.42,"
+       "501.35\r\n"
+       "03-31-2001,504.07,501.35,2.72,0\r\n",
+       ""},
+      // 1000 / 360, since the rate counts as 0.
+      {"call loan vPurchaseAmt=1000 vPeriod=360 vIntRate=6.5% --only vResPayment", 0,
+       "vResPayment  2.78  Monthly payment\n", "note: vIntRate=\"6.5%\" is no number and counts as 0\n"},
+      {"call loan vPurchaseAmt=1000 vPeriod=2 vIntRate=6.5 --json --only vResPayment --only vtotint", 0,
+       R"({"results":{"vResPayment":504.07,"vTotInt":8.14}})"
+       "\n",
+       ""},
+      // Twelve deposits of 100 without interest; weekly there are 52.
+      {"call save vStartDate=2027-01-01 vPayment=100 vFreq=MONTHLY vPeriod=1 --only vEndBal", 0,
+       "vEndBal  1200.00  Balance at the end\n", ""},
+      {"call save vStartDate=2027-01-01 vPayment=100 vFreq=weekly vPeriod=1 --only vEndBal", 0,
+       "vEndBal  5200.00  Balance at the end\n", ""},
+      // 120000 less 12000, 24000 or 36000 in cash, over a year without interest.
+      {"call PaymentGridCalculator vPrincipal=120000 vDownPayment=24000 vPeriod=12 vIntRate=0 "
+       "vDownChange=12000 "
+       "vStepY=1 --csv vGrid",
+       0, "Interest rate,12000.00,24000.00,36000.00\r\n0.000,9000,8000,7000\r\n", ""},
       {"batch", 0, "", ""},
       {"batch extra", 2, "", "extra"},
   };
@@ -241,8 +335,57 @@ TEST_F(Program, OutKeepsTheOldFileUntilTheNewOneIsComplete) {
   EXPECT_TRUE(image.starts_with("GIF87a") && image.ends_with(";"));
   EXPECT_EQ(Run(call + " nonsense=1"), 2);
   EXPECT_EQ(Read("image"), image);
-  EXPECT_EQ(Run(call + "/none"), 1);
-  EXPECT_NE(Read("err").find("PathNotFound"), std::string::npos);
+  EXPECT_EQ(Run(call + "/none"), 3);
+  EXPECT_EQ(Read("err"),
+            "amortix2: cannot write " + Path("image") + "/none: The folder of the file does not exist.\n");
+}
+
+TEST_F(Program, ValuesComeFromFilesAndStandardInput) {
+  std::ofstream(Path("table.csv"), std::ios::binary)
+      << "\xEF\xBB\xBF,\"A, \"\"B\"\"\"\r\n2001-01-31,1.5\n\nx,2";
+  std::ofstream(Path("list.csv"), std::ios::binary) << "1\n2e3\n";
+  std::ofstream(Path("bad.csv"), std::ios::binary) << "1,2\n\n3\n";
+  std::ofstream(Path("value.json"), std::ios::binary) << " [[1, null]] \n";
+  const auto reply = [&](const std::string& value, const std::string& input = "") {
+    const int status = Run("call LoadDetArray --json 'detArray=" + value + "' atCol=40000", input);
+    const std::string out = Read("out");
+    const std::size_t at = out.find("\"detArray\":");
+    return std::to_string(status) + " " + (at == std::string::npos ? Read("err") : out.substr(at + 11));
+  };
+  EXPECT_EQ(reply("@" + Path("table.csv")), R"(1 [["","A, \"B\""],["2001-01-31",1.5],["x",2]]}})"
+                                            "\n");
+  EXPECT_EQ(reply("@" + Path("list.csv")), "1 [[1],[2000]]}}\n");
+  EXPECT_EQ(reply("@" + Path("value.json")), "1 [[1,null]]}}\n");
+  EXPECT_EQ(reply("@-", "1,2\r\n3,4\r\n"), "1 [[1,2],[3,4]]}}\n");
+  EXPECT_EQ(reply("\"@x\""), "1 \"@x\"}}\n");
+  EXPECT_EQ(reply("@-", "\"1"), "2 amortix2: standard input: line 1: a quote that is not closed\n");
+  EXPECT_EQ(reply("@" + Path("bad.csv")),
+            "2 amortix2: " + Path("bad.csv") + ": line 3 has 1 values, the first one 2\n");
+}
+
+TEST_F(Program, BatchTellsNotesAndBadLinesOnlyWhereTheyAreAskedFor) {
+  const std::string requests =
+      R"({"call":"Calculator.SimpleLoanCalculator","args":{"vPurchaseAmt":1000,"vPeriod":2,"vIntRate":"6.5%"},"only":["vResPayment"]}
+{"call":"Calculator.AmountSavedCalculator","args":{"vStartDate":"soon"},"only":[]}
+{"call":"Calculator.FixedPayment","only":["vGrid"]}
+{
+)";
+  const std::string unknown = R"("FixedPayment has no result \"vGrid\")";
+  ASSERT_EQ(Run("batch", requests), 0);
+  auto lines = Lines();
+  ASSERT_EQ(lines.size(), 4u);
+  EXPECT_EQ(lines[0], R"({"results":{"vResPayment":500}})");
+  EXPECT_EQ(lines[1], R"({"error":{"number":13,"name":"TypeMismatch"},"results":{}})");
+  EXPECT_NE(lines[2].find(unknown), std::string::npos) << lines[2];
+  EXPECT_TRUE(Read("err").starts_with("amortix2: line 3: FixedPayment has no result")) << Read("err");
+  EXPECT_NE(Read("err").find("\namortix2: line 4: the line is no JSON: byte 2 does not fit\n"),
+            std::string::npos);
+  ASSERT_EQ(Run("batch --notes", requests), 0);
+  lines = Lines();
+  EXPECT_EQ(lines[0], R"({"results":{"vResPayment":500},"notes":[{"code":"no-number","parameter":"vIntRate",)"
+                      R"("text":"vIntRate=\"6.5%\" is no number and counts as 0"}]})");
+  EXPECT_EQ(lines[1], R"({"error":{"number":13,"name":"TypeMismatch","text":"AmountSavedCalculator: )"
+                      R"(vStartDate=\"soon\" is no date","parameter":"vStartDate"},"results":{}})");
 }
 
 }  // namespace
