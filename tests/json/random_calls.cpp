@@ -139,9 +139,12 @@ class RandomCalls {
     }
   }
 
-  /// What looks like a schedule's date is one.
+  /// What looks like a schedule's date, which begins with its month, is one.
   static bool IsSoundText(std::string_view text) {
-    return text.size() != sizeof(DateText) || text[2] != '-' || text[5] != '-' || ParseDate(text).has_value();
+    const auto isDigit = [&](std::size_t at) { return text[at] >= '0' && text[at] <= '9'; };
+    const bool looksLikeADate =
+        text.size() == sizeof(DateText) && isDigit(0) && isDigit(1) && text[2] == '-' && text[5] == '-';
+    return !looksLikeADate || ParseDate(text).has_value();
   }
 
   static bool IsSound(const Variant& value) {
