@@ -65,7 +65,7 @@ TEST_P(Rows, HaveTheirAnswers) {
   EXPECT_GT(rows, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Calculator, Rows, testing::Values("loans", "comparisons", "savings"),
+INSTANTIATE_TEST_SUITE_P(Calculator, Rows, testing::Values("loans", "comparisons", "households", "savings"),
                          [](const auto& file) { return file.param; });
 
 }  // namespace
