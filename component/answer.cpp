@@ -40,7 +40,8 @@ bool Holds(const SentenceInfo& sentence, const Inputs& inputs, const Results& re
 std::array<std::string_view, 2> PeriodWords(const Inputs& inputs) {
   for (const ParameterInfo& parameter : inputs.Member().parameters) {
     if (!parameter.choices || !parameter.choices->enumeration || parameter.unit != Unit::Code) continue;
-    switch (static_cast<int>(inputs.Number(parameter.name))) {
+    const double code = inputs.Number(parameter.name);
+    switch (code >= double{dailymode} && code <= double{continuousMode} ? static_cast<int>(code) : 0) {
       case dailymode:
         return {"day", "days"};
       case weeklyMode:
@@ -64,7 +65,7 @@ std::string Counted(double number, std::array<std::string_view, 2> words) {
 }
 
 std::string TextOf(const Variant& value) {
-  return value.Type() == VariantType::Array ? std::string() : ToText(value);
+  return value.Type() == VariantType::Array || !IsGiven(value) ? std::string() : ToText(value);
 }
 
 }  // namespace
@@ -120,7 +121,7 @@ std::string AnswerSentence(const Inputs& inputs, const Results& results, const F
       sentence->text, [&](std::string_view text) { answer += text; },
       [&](const Figure& place) {
         const Variant* value = results.Find(place);
-        if (!value) {
+        if (!value || !IsGiven(*value)) {
           complete = false;
           return;
         }

@@ -81,6 +81,12 @@ class DescribedRequest {
                                        : isJson    ? FromJson(nlohmann::json::parse(text))
                                                    : Variant(std::string_view(text)));
   }
+  /// Any variant in the place of a parameter that is one.
+  void GiveVariant(std::size_t place, const Variant& value) {
+    const ParameterInfo& parameter = Member().parameters[place];
+    if (parameter.type->kind == TypeKind::Variant)
+      parameter.type->write(call_.Arguments()[place].Get(), value);
+  }
   void Call() {
     inputs_.emplace(Member(), call_.Arguments());
     Object object(*type_, clock_);

@@ -379,5 +379,54 @@ TEST(Notes, AreTrueOfSensibleRequests) {
   }
 }
 
+/// Whatever is given, telling of it neither fails nor invents a parameter.
+TEST(Notes, AreFoundForAnything) {
+  const Variant odd[] = {{},
+                         kNull,
+                         kMissing,
+                         "x",
+                         "6.5%",
+                         "1e400",
+                         1e308,
+                         -1e308,
+                         1e-308,
+                         -0.5,
+                         0.0,
+                         1.0,
+                         360.0,
+                         -40000.0,
+                         true,
+                         "C",
+                         "T",
+                         2.5,
+                         6.5,
+                         100.0,
+                         4.0,
+                         70000.0,
+                         Date{46000},
+                         kLastDay,
+                         kFirstDay,
+                         "12/31/9999",
+                         Array({0, -1}),
+                         Array({0, 2}),
+                         Array({1, 2}, {0, 6}),
+                         FromJson(nlohmann::json::parse("[1, \"a\", null]"))};
+  for (int i = 0; i < Cases(3000, 100000); ++i) {
+    Random random(static_cast<unsigned>(i));
+    const ClassMember& member = MembersInOrder()[random() % MembersInOrder().size()];
+    if (member.member->group == Group::Charts) continue;
+    SCOPED_TRACE(std::string(member.member->address) + ", seed " + std::to_string(i));
+    DescribedRequest request(member);
+    request.GiveExamples();
+    for (std::size_t place = 0; place < member.member->parameters.size(); ++place) {
+      if (random() % 3 == 0) request.GiveVariant(place, odd[random() % std::size(odd)]);
+    }
+    request.Call();
+    AnswerSentence(request.In(), request.Out());
+    for (const Note& note : request.Notes()) ASSERT_TRUE(note.parameter && !note.Text().empty()) << note.code;
+    if (request.Error()) FaultOf(request.In(), *request.Error());
+  }
+}
+
 }  // namespace
 }  // namespace amortix2
