@@ -22,7 +22,9 @@ WayToLive Renting(const Tenancy& tenancy, const Outlook& outlook, int months, Da
   const double discountGrowth = MonthlyGrowth(outlook.growthPercent);
   double discount = 1;
   double rise = 1;
-  WayToLive way{.otherCharges = tenancy.chargesEachMonth, .schedule = Schedule(1)};
+  WayToLive way{.payment = RoundToCents(tenancy.rent),
+                .otherCharges = tenancy.chargesEachMonth,
+                .schedule = Schedule(1)};
   way.schedule.front().lineDate = startDate;
   for (int month = 1; month <= months; ++month) {
     discount = Finite(discount * discountGrowth);
@@ -34,7 +36,6 @@ WayToLive Renting(const Tenancy& tenancy, const Outlook& outlook, int months, Da
     way.costInTodaysMoney += Divide(tenancy.chargesEachMonth, discount);
     if (month % 12 == 0) rise *= 1 + tenancy.risePercent / 100;
   }
-  way.payment = way.schedule[1].payment;
   way.totalPayments = Finite(way.totalPayments);
   way.costInTodaysMoney = way.netCost = Finite(way.costInTodaysMoney);
   return way;
