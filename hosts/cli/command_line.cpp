@@ -110,11 +110,7 @@ std::string WrongCommand(std::string_view word) {
   return message;
 }
 
-}  // namespace
-
-std::optional<CommandLine> ReadCommandLine(int argc, const char* const* argv, int& status) {
-  CommandLine options;
-  CLI::App app("Personal-finance calculators and charts from the command line.", "amortix2");
+void AddAll(CLI::App& app, CommandLine& options) {
   app.set_version_flag("--version", "amortix2 " AMORTIX2_VERSION);
   app.require_subcommand(1);
   app.failure_message([](const CLI::App*, const CLI::Error& error) {
@@ -124,6 +120,23 @@ std::optional<CommandLine> ReadCommandLine(int argc, const char* const* argv, in
   AddCall(app, options);
   AddBatch(app, options);
   app.footer(kExamples);  // after the commands, which would have it too
+}
+
+constexpr const char* kPurpose = "Personal-finance calculators and charts from the command line.";
+
+}  // namespace
+
+std::string HelpOf(const std::string& command) {
+  CommandLine options;
+  CLI::App app(kPurpose, "amortix2");
+  AddAll(app, options);
+  return app.get_subcommand(command)->help("amortix2 " + command);
+}
+
+std::optional<CommandLine> ReadCommandLine(int argc, const char* const* argv, int& status) {
+  CommandLine options;
+  CLI::App app(kPurpose, "amortix2");
+  AddAll(app, options);
   std::string wrong;
   if (argc > 1 && !(wrong = WrongCommand(argv[1])).empty()) {
     WriteAll(STDERR_FILENO, "amortix2: " + wrong + "\nTry amortix2 --help.\n");

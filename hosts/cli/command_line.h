@@ -34,6 +34,9 @@ inline constexpr int kComponentError = 1;  ///< the component raised an error
 inline constexpr int kBadRequest = 2;      ///< a wrong command line or request
 inline constexpr int kInputOutput = 3;     ///< reading or writing failed
 
+/// What --help prints of "list", "call" or "batch".
+std::string HelpOf(const std::string& command);
+
 /// Nothing when the program has only to end with `status`: help was asked for and printed, or the command
 /// line was wrong and the reason has been written to standard error. Raises std::system_error when it cannot
 /// be printed.

@@ -1,124 +1,87 @@
 #include "amortix2/cli/listing.h"
 
 #include <algorithm>
-#include <vector>
 
-#include "amortix2/cli/text_table.h"
+#include "amortix2/cli/reference.h"
 #include "amortix2/json/description_json.h"
 #include "amortix2/json/lookup.h"
 
 namespace amortix2::cli {
 namespace {
 
-constexpr std::string_view kIndent = "      ";
-
-using Rows = std::vector<std::vector<TextCell>>;
-
-/// The names of the parameters of one direction after a label, broken into lines.
-void AppendNames(std::string& out, std::string_view label, const MemberInfo& member, bool byReference) {
-  constexpr std::size_t kLineWidth = 100;
-  std::string line;
-  for (const ParameterInfo& parameter : member.parameters) {
-    if (parameter.byReference != byReference) continue;
-    std::string name(parameter.name);
-    if (parameter.optional) name.insert(0, 1, '[').append("]");
-    if (line.empty()) line.append(kIndent).append(label);
-    if (line.size() + 1 + name.size() > kLineWidth) {
-      out += line + "\n";
-      line.assign(kIndent.size() + label.size(), ' ');
-    }
-    line += " " + name;
+/// True when a word of the text begins like this.
+bool HasWord(std::string_view text, std::string_view start) {
+  for (std::size_t i = 0; i + start.size() <= text.size(); ++i) {
+    if ((i == 0 || text[i - 1] == ' ') && SameName(text.substr(i, start.size()), start)) return true;
   }
-  if (!line.empty()) out += line + "\n";
+  return false;
 }
 
-void AppendMember(std::string& out, const MemberInfo& member) {
-  const bool property = member.kind == MemberKind::PropertyPut;
-  out.append("\n  ").append(member.name).append(property ? "  (property, write-only)\n" : "\n");
-  out.append(kIndent).append(member.help).append("\n");
-  if (property) return;
-  AppendNames(out, "in    ", member, false);
-  AppendNames(out, "in/out", member, true);
+template <class Matches>
+std::vector<ClassMember> MembersThat(const Matches& matches) {
+  std::vector<ClassMember> found;
+  std::ranges::copy_if(MembersInOrder(), std::back_inserter(found), matches);
+  return found;
 }
 
-void AppendClass(std::string& out, const ClassInfo& type) {
-  if (!out.empty()) out += "\n\n";
-  out.append(type.name).append("\n  ").append(type.help).append("\n");
-  for (const MemberInfo& member : type.members) AppendMember(out, member);
+/// Members by name, short name or group, and if there are none by how a word in their title or help begins.
+std::vector<ClassMember> MembersCalled(std::string_view name) {
+  auto found = MembersThat([&](const ClassMember& member) {
+    return SameName(member.member->name, name) || SameName(member.member->address, name);
+  });
+  if (!found.empty() || name.empty()) return found;
+  found = MembersThat([&](const ClassMember& member) {
+    return SameName(GroupTitle(member.member->group), name) || HasWord(member.member->title, name);
+  });
+  if (!found.empty()) return found;
+  return MembersThat([&](const ClassMember& member) { return HasWord(member.member->help, name); });
 }
 
-/// A row of texts, indented.
-std::vector<TextCell> Row(const auto&... texts) { return {TextCell{}, TextCell{std::string(texts)}...}; }
-
-/// The records and enumerations that a member's parameters are made of, each once, in the order met.
-struct Types {
-  std::vector<const RecordInfo*> records;
-  std::vector<const EnumerationInfo*> enumerations;
-
-  void Add(const TypeInfo& type) {
-    AddOnce(enumerations, type.enumeration);
-    if (!AddOnce(records, type.record)) return;
-    for (const FieldInfo& field : type.record->fields) Add(*field.type);
-  }
-
- private:
-  template <class Item>
-  static bool AddOnce(std::vector<const Item*>& items, const Item* item) {
-    if (!item || std::ranges::find(items, item) != items.end()) return false;
-    items.push_back(item);
-    return true;
-  }
-};
-
-void AppendTypes(std::string& out, const Types& types) {
-  for (const RecordInfo* record : types.records) {
-    out.append("\n").append(record->name).append("  ").append(record->help).append("\n");
-    Rows rows;
-    for (const FieldInfo& field : record->fields) {
-      rows.push_back(Row(field.name, json::TypeText(*field.type), UnitName(field.unit), field.help));
-    }
-    AppendRows(out, rows);
-  }
-  for (const EnumerationInfo* enumeration : types.enumerations) {
-    out.append("\n").append(enumeration->name).append("  ").append(enumeration->help).append("\n");
-    Rows rows;
-    for (const ConstantInfo& constant : enumeration->constants) {
-      rows.push_back(Row(std::to_string(constant.value), constant.name, constant.help));
-    }
-    AppendRows(out, rows);
-  }
+Document MembersOf(const std::vector<ClassMember>& members) {
+  constexpr std::size_t kMostPages = 2;
+  if (members.size() > kMostPages) return Overview(members);
+  Document pages;
+  for (const ClassMember& member : members) Append(pages, MemberReference(*member.type, *member.member));
+  return pages;
 }
 
-std::string MemberListing(const ClassInfo& type, const MemberInfo& member) {
-  std::string out(type.name);
-  out.append(".").append(member.name).append("\n  ").append(member.help).append("\n\n");
-  Rows rows;
-  Types types;
-  for (const ParameterInfo& parameter : member.parameters) {
-    rows.push_back(Row(parameter.name, json::Direction(parameter), json::TypeText(*parameter.type),
-                       UnitName(parameter.unit), parameter.help));
-    types.Add(*parameter.type);
+Document Found(std::string_view name) {
+  if (const std::size_t dot = name.find('.'); dot != std::string_view::npos) {
+    const ClassInfo& type = json::NeedClass(name.substr(0, dot));
+    return MemberReference(type, json::NeedMember(type, name.substr(dot + 1)));
   }
-  AppendRows(out, rows);
-  if (member.result) out += "  returns " + json::TypeText(*member.result) + "\n";
-  AppendTypes(out, types);
-  return out;
+  if (const ClassInfo* type = FindClass(name)) return ClassReference(*type);
+  for (const RecordInfo* record : Records()) {
+    if (SameName(record->name, name)) return RecordReference(*record);
+  }
+  for (const EnumerationInfo* enumeration : Enumerations()) {
+    if (SameName(enumeration->name, name)) return EnumerationReference(*enumeration);
+  }
+  const std::vector<ClassMember> members = MembersCalled(name);
+  if (members.empty()) {
+    const json::Target near = json::FindCalled(name);  // raises, and names what is near
+    return MemberReference(near.type, near.method);
+  }
+  return MembersOf(members);
 }
 
 }  // namespace
 
-std::string Listing(std::string_view name) {
-  std::string out;
-  const std::size_t dot = name.find('.');
-  if (name.empty()) {
-    for (const ClassInfo* type : Classes()) AppendClass(out, *type);
-  } else if (dot == std::string_view::npos) {
-    AppendClass(out, json::NeedClass(name));
-  } else {
-    const ClassInfo& type = json::NeedClass(name.substr(0, dot));
-    out = MemberListing(type, json::NeedMember(type, name.substr(dot + 1)));
+std::string MemberPage(const ClassInfo& type, const MemberInfo& member) {
+  return TerminalText(MemberReference(type, member));
+}
+
+std::string ListingOf(const std::vector<std::string>& names, bool asJson) {
+  if (asJson) return json::DescriptionJson() + "\n";
+  Document document;
+  if (names.empty()) {
+    document =
+        Overview(MembersThat([](const ClassMember& member) { return !member.member->address.empty(); }));
+    document.push_back(Paragraph{
+        "amortix2 list NAME says all about a short name, CLASS.METHOD, class, record or enumeration."});
   }
-  return out;
+  for (const std::string& name : names) Append(document, Found(name));
+  return TerminalText(document);
 }
 
 }  // namespace amortix2::cli

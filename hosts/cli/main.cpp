@@ -21,7 +21,6 @@
 #include "amortix2/cli/readable.h"
 #include "amortix2/cli/result_table.h"
 #include "amortix2/common/system_clock.h"
-#include "amortix2/json/description_json.h"
 #include "amortix2/json/execution.h"
 #include "amortix2/json/lookup.h"
 #include "amortix2/json/reply.h"
@@ -134,7 +133,7 @@ int RunCall(const CommandLine& line) {
   const json::Target target = json::FindCalled(line.target);
   const std::string method = MethodName(target);
   if (line.help) {
-    WriteAll(STDOUT_FILENO, Listing(method));
+    WriteAll(STDOUT_FILENO, MemberPage(target.type, target.method));
     return kSuccess;
   }
   CheckOutputs(line);
@@ -191,17 +190,8 @@ int RunBatch(const CommandLine& line) {
   return kSuccess;
 }
 
-/// "CLASS.METHOD" of what is named without its class; else the name.
-std::string FullName(const std::string& name) {
-  const bool isShort = name.find('.') == std::string::npos && !FindClass(name);
-  return isShort ? MethodName(json::FindCalled(name)) : name;
-}
-
 int RunList(const CommandLine& line) {
-  std::string text = line.json ? json::DescriptionJson() + "\n" : std::string();
-  if (text.empty() && line.names.empty()) text = Listing("");
-  for (const std::string& name : line.names) text += (text.empty() ? "" : "\n") + Listing(FullName(name));
-  WriteAll(STDOUT_FILENO, text);
+  WriteAll(STDOUT_FILENO, ListingOf(line.names, line.json));
   return kSuccess;
 }
 

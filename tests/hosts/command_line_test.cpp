@@ -216,7 +216,7 @@ TEST_F(Program, ExitStatusesOutputsAndErrorLines) {
   const Case cases[] = {
       {"--version", 0, "amortix2 1.0.0\n", ""},
       {"--help", 0, "Personal-finance calculators and charts from the command line.\n...", ""},
-      {"list", 0, "Calculator\n  ...", ""},
+      {"list", 0, "Loans\n    loan  Loan\n...", ""},
       {"list --json", 0, R"({"classes":[{"name":"Calculator","title":"...)", ""},
       {"list --json BarChart", 2, "", "excludes"},
       {"list calculator.loaddetarray", 0, "Calculator.LoadDetArray\n  ...", ""},

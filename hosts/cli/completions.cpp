@@ -1,0 +1,202 @@
+#include "amortix2/cli/completions.h"
+
+#include <string_view>
+#include <vector>
+
+#include "amortix2/cli/reference.h"
+
+namespace amortix2::cli {
+namespace {
+
+constexpr std::string_view kMade = "# Made by ./dev renew from the component's description; change that.\n";
+
+/// A choice as one word that the command line takes: its title where that is one, else its name or value.
+std::string ChoiceWord(const ChoiceInfo& choice) {
+  if (choice.name.empty()) return std::string(choice.text);
+  std::string title(choice.title);
+  for (char& c : title) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  return title.find_first_not_of("abcdefghijklmnopqrstuvwxyz-") == std::string::npos
+             ? title
+             : std::string(choice.name);
+}
+
+std::string ChoiceWords(const ParameterInfo& parameter) {
+  std::string words;
+  if (!parameter.choices) return words;
+  for (const ChoiceInfo& choice : parameter.choices->choices) {
+    words += (words.empty() ? "" : " ") + ChoiceWord(choice);
+  }
+  return words;
+}
+
+/// Within single quotes.
+std::string Quoted(std::string_view text) {
+  std::string quoted = "'";
+  for (const char c : text) quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+  return quoted + "'";
+}
+
+std::vector<ClassMember> Callable() {
+  std::vector<ClassMember> members;
+  for (const ClassMember& member : MembersInOrder()) {
+    if (member.member->kind == MemberKind::Method) members.push_back(member);
+  }
+  return members;
+}
+
+/// The names that call a member: "loan|Calculator.SimpleLoanCalculator".
+std::string NamesOf(const ClassMember& member, std::string_view separator) {
+  std::string names(member.member->address);
+  if (!names.empty()) names += separator;
+  return names + FullName(member);
+}
+
+/// A shell function that prints the inputs of a member as lines "NAME=CHOICES", for bash and zsh.
+std::string InputsFunction() {
+  std::string text = "_amortix2_inputs() {\n  case $1 in\n";
+  for (const ClassMember& member : Callable()) {
+    std::string inputs;
+    for (const ParameterInfo& parameter : member.member->parameters) {
+      if (!parameter.IsInput()) continue;
+      inputs.append(" ").append(Quoted(std::string(parameter.name) + "=" + ChoiceWords(parameter)));
+    }
+    if (inputs.empty()) continue;
+    text += "    " + NamesOf(member, "|") + ") printf '%s\\n'" + inputs + " ;;\n";
+  }
+  return text + "  esac\n}\n";
+}
+
+std::string Targets() {
+  std::string text;
+  for (const ClassMember& member : Callable()) text += (text.empty() ? "" : " ") + NamesOf(member, " ");
+  return text;
+}
+
+/// What list knows beside what can be called.
+std::string Types() {
+  std::string text;
+  for (const ClassInfo* type : Classes()) text += " " + std::string(type->name);
+  for (const RecordInfo* record : Records()) text += " " + std::string(record->name);
+  for (const EnumerationInfo* enumeration : Enumerations()) text += " " + std::string(enumeration->name);
+  return text;
+}
+
+constexpr std::string_view kCallOptions = "--with --json --types --out --only --csv --today --help";
+constexpr std::string_view kBatchOptions = "--types --notes --today --help";
+
+std::string Words() {
+  return "_amortix2_targets=" + Quoted(Targets()) + "\n_amortix2_types=" + Quoted(Types()) + "\n";
+}
+
+}  // namespace
+
+std::string BashCompletion() {
+  return std::string("# bash completion for amortix2\n") + std::string(kMade) + "\n" + Words() +
+         InputsFunction() + R"(
+_amortix2() {
+  local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD-1]} command=${COMP_WORDS[1]} target=${COMP_WORDS[2]}
+  local name='' line
+  # A "=" is a word of its own here.
+  if [[ $cur == = ]]; then name=$prev cur=''
+  elif [[ $prev == = ]]; then name=${COMP_WORDS[COMP_CWORD-2]}
+  fi
+  COMPREPLY=()
+  if ((COMP_CWORD == 1)); then
+    COMPREPLY=($(compgen -W 'list call batch --help --version' -- "$cur"))
+  elif [[ $command == list ]]; then
+    COMPREPLY=($(compgen -W "$_amortix2_targets $_amortix2_types --json" -- "$cur"))
+  elif [[ $command == batch ]]; then
+    COMPREPLY=($(compgen -W ')" +
+         std::string(kBatchOptions) + R"(' -- "$cur"))
+  elif [[ $command == call ]] && ((COMP_CWORD == 2)); then
+    COMPREPLY=($(compgen -W "$_amortix2_targets" -- "$cur"))
+  elif [[ $prev == --out ]]; then
+    COMPREPLY=($(compgen -f -- "$cur"))
+  elif [[ $cur == -* ]]; then
+    COMPREPLY=($(compgen -W ')" +
+         std::string(kCallOptions) + R"(' -- "$cur"))
+  else
+    while IFS= read -r line; do
+      if [[ -n $name ]]; then
+        [[ ${line%%=*} == "$name" ]] && COMPREPLY=($(compgen -W "${line#*=}" -- "$cur"))
+      elif [[ ${line%%=*}= == "$cur"* ]]; then
+        COMPREPLY+=("${line%%=*}=")
+      fi
+    done < <(_amortix2_inputs "$target")
+    [[ -z $name ]] && compopt -o nospace 2>/dev/null
+  fi
+  return 0
+}
+complete -F _amortix2 amortix2
+)";
+}
+
+std::string ZshCompletion() {
+  return std::string("#compdef amortix2\n") + std::string(kMade) + "\n" + Words() + InputsFunction() + R"(
+_amortix2() {
+  local line current=$words[CURRENT]
+  if ((CURRENT == 2)); then
+    compadd -- list call batch --help --version
+  elif [[ $words[2] == list ]]; then
+    compadd -- ${=_amortix2_targets} ${=_amortix2_types} --json
+  elif [[ $words[2] == batch ]]; then
+    compadd -- )" +
+         std::string(kBatchOptions) + R"(
+  elif ((CURRENT == 3)); then
+    compadd -- ${=_amortix2_targets}
+  elif [[ $current == -* ]]; then
+    compadd -- )" +
+         std::string(kCallOptions) + R"(
+  elif [[ $words[CURRENT-1] == --out ]]; then
+    _files
+  else
+    _amortix2_inputs $words[3] | while IFS= read -r line; do
+      if [[ $current == *=* ]]; then
+        [[ ${line%%=*} == ${current%%=*} ]] && compadd -P "${current%%=*}=" -- ${=line#*=}
+      else
+        compadd -S '' -- "${line%%=*}="
+      fi
+    done
+  fi
+}
+_amortix2 "$@"
+)";
+}
+
+std::string FishCompletion() {
+  std::string text = std::string("# fish completion for amortix2\n") + std::string(kMade) + R"(
+complete -c amortix2 -f
+complete -c amortix2 -n __fish_use_subcommand -a 'list call batch'
+complete -c amortix2 -n '__fish_seen_subcommand_from list' -l json -a ')" +
+                     Types() + "'\n";
+  for (const std::string_view option : {"with", "json", "types", "out", "only", "csv", "today", "help"}) {
+    text.append("complete -c amortix2 -n '__fish_seen_subcommand_from call' -l ").append(option).append("\n");
+  }
+  for (const std::string_view option : {"types", "notes", "today", "help"}) {
+    text.append("complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l ")
+        .append(option)
+        .append("\n");
+  }
+  for (const ClassMember& member : Callable()) {
+    const std::string names = NamesOf(member, " ");
+    text +=
+        "complete -c amortix2 -n '__fish_seen_subcommand_from list call; and not "
+        "__fish_seen_subcommand_from " +
+        names + "' -a '" + names + "' -d " + Quoted(member.member->title) + "\n";
+    for (const ParameterInfo& parameter : member.member->parameters) {
+      if (!parameter.IsInput()) continue;
+      std::string words = std::string(parameter.name) + "=";
+      if (parameter.choices) {
+        words.clear();
+        for (const ChoiceInfo& choice : parameter.choices->choices) {
+          words += (words.empty() ? "" : " ") + std::string(parameter.name) + "=" + ChoiceWord(choice);
+        }
+      }
+      text += "complete -c amortix2 -n '__fish_seen_subcommand_from " + names + "' -a " + Quoted(words) +
+              " -d " + Quoted(parameter.title) + "\n";
+    }
+  }
+  return text;
+}
+
+}  // namespace amortix2::cli
