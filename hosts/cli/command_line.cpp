@@ -130,7 +130,7 @@ std::string HelpOf(const std::string& command) {
   CommandLine options;
   CLI::App app(kPurpose, "amortix2");
   AddAll(app, options);
-  return app.get_subcommand(command)->help("amortix2 " + command);
+  return app.get_subcommand(command)->help("amortix2");
 }
 
 std::optional<CommandLine> ReadCommandLine(int argc, const char* const* argv, int& status) {

@@ -1,8 +1,10 @@
 #include "amortix2/cli/completions.h"
 
+#include <sstream>
 #include <string_view>
 #include <vector>
 
+#include "amortix2/cli/command_line.h"
 #include "amortix2/cli/reference.h"
 
 namespace amortix2::cli {
@@ -81,8 +83,23 @@ std::string Types() {
   return text;
 }
 
-constexpr std::string_view kCallOptions = "--with --json --types --out --only --csv --today --help";
-constexpr std::string_view kBatchOptions = "--types --notes --today --help";
+/// The options of a command, as its help has them.
+std::vector<std::string> OptionsOf(const char* command) {
+  std::vector<std::string> options;
+  std::istringstream help(HelpOf(command));
+  for (std::string line; std::getline(help, line);) {
+    const std::size_t start = line.find("--");
+    if (!line.starts_with("  -") || start > 5) continue;
+    options.push_back(line.substr(start, line.find(' ', start) - start));
+  }
+  return options;
+}
+
+std::string OptionWords(const char* command) {
+  std::string words;
+  for (const std::string& option : OptionsOf(command)) words += (words.empty() ? "" : " ") + option;
+  return words;
+}
 
 std::string Words() {
   return "_amortix2_targets=" + Quoted(Targets()) + "\n_amortix2_types=" + Quoted(Types()) + "\n";
@@ -107,14 +124,14 @@ _amortix2() {
     COMPREPLY=($(compgen -W "$_amortix2_targets $_amortix2_types --json" -- "$cur"))
   elif [[ $command == batch ]]; then
     COMPREPLY=($(compgen -W ')" +
-         std::string(kBatchOptions) + R"(' -- "$cur"))
+         OptionWords("batch") + R"(' -- "$cur"))
   elif [[ $command == call ]] && ((COMP_CWORD == 2)); then
     COMPREPLY=($(compgen -W "$_amortix2_targets" -- "$cur"))
   elif [[ $prev == --out ]]; then
     COMPREPLY=($(compgen -f -- "$cur"))
   elif [[ $cur == -* ]]; then
     COMPREPLY=($(compgen -W ')" +
-         std::string(kCallOptions) + R"(' -- "$cur"))
+         OptionWords("call") + R"(' -- "$cur"))
   else
     while IFS= read -r line; do
       if [[ -n $name ]]; then
@@ -141,12 +158,12 @@ _amortix2() {
     compadd -- ${=_amortix2_targets} ${=_amortix2_types} --json
   elif [[ $words[2] == batch ]]; then
     compadd -- )" +
-         std::string(kBatchOptions) + R"(
+         OptionWords("batch") + R"(
   elif ((CURRENT == 3)); then
     compadd -- ${=_amortix2_targets}
   elif [[ $current == -* ]]; then
     compadd -- )" +
-         std::string(kCallOptions) + R"(
+         OptionWords("call") + R"(
   elif [[ $words[CURRENT-1] == --out ]]; then
     _files
   else
@@ -167,15 +184,13 @@ std::string FishCompletion() {
   std::string text = std::string("# fish completion for amortix2\n") + std::string(kMade) + R"(
 complete -c amortix2 -f
 complete -c amortix2 -n __fish_use_subcommand -a 'list call batch'
-complete -c amortix2 -n '__fish_seen_subcommand_from list' -l json -a ')" +
+complete -c amortix2 -n '__fish_seen_subcommand_from list' -a ')" +
                      Types() + "'\n";
-  for (const std::string_view option : {"with", "json", "types", "out", "only", "csv", "today", "help"}) {
-    text.append("complete -c amortix2 -n '__fish_seen_subcommand_from call' -l ").append(option).append("\n");
-  }
-  for (const std::string_view option : {"types", "notes", "today", "help"}) {
-    text.append("complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l ")
-        .append(option)
-        .append("\n");
+  for (const char* command : {"list", "call", "batch"}) {
+    for (const std::string& option : OptionsOf(command)) {
+      text.append("complete -c amortix2 -n '__fish_seen_subcommand_from ").append(command);
+      text.append("' -l ").append(option.substr(2)).append("\n");
+    }
   }
   for (const ClassMember& member : Callable()) {
     const std::string names = NamesOf(member, " ");

@@ -177,14 +177,20 @@ class RoffWriter {
  public:
   void operator()(const Heading& heading) {
     out_ += (heading.level == 1 ? ".SH \"" : ".SS \"") + RoffLine(heading.text) + "\"\n";
+    afterHeading_ = true;
   }
-  void operator()(const Paragraph& paragraph) { out_ += ".PP\n" + RoffLine(paragraph.text) + "\n"; }
+  void operator()(const Paragraph& paragraph) {
+    Separate();
+    out_ += RoffLine(paragraph.text) + "\n";
+  }
   void operator()(const Code& code) {
-    out_ += ".PP\n.nf\n.RS 4\n";
+    Separate();
+    out_ += ".nf\n.RS 4\n";
     ForEachLine(code.text, [&](std::string_view line) { out_ += RoffLine(line) + "\n"; });
     out_ += ".RE\n.fi\n";
   }
   void operator()(const Items& items) {
+    afterHeading_ = false;
     for (const Item& item : items.items) {
       out_ += ".TP\n\\fB" + RoffLine(item.term) + "\\fR";
       out_ += item.title.empty() ? "\n" : "  " + RoffLine(item.title) + "\n";
@@ -199,7 +205,14 @@ class RoffWriter {
   std::string Take() { return std::move(out_); }
 
  private:
+  /// A heading is a separation enough.
+  void Separate() {
+    if (!afterHeading_) out_ += ".PP\n";
+    afterHeading_ = false;
+  }
+
   std::string out_;
+  bool afterHeading_ = false;
 };
 
 template <class Writer>

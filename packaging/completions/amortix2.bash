@@ -71,13 +71,13 @@ _amortix2() {
   elif [[ $command == list ]]; then
     COMPREPLY=($(compgen -W "$_amortix2_targets $_amortix2_types --json" -- "$cur"))
   elif [[ $command == batch ]]; then
-    COMPREPLY=($(compgen -W '--types --notes --today --help' -- "$cur"))
+    COMPREPLY=($(compgen -W '--help --types --notes --today' -- "$cur"))
   elif [[ $command == call ]] && ((COMP_CWORD == 2)); then
     COMPREPLY=($(compgen -W "$_amortix2_targets" -- "$cur"))
   elif [[ $prev == --out ]]; then
     COMPREPLY=($(compgen -f -- "$cur"))
   elif [[ $cur == -* ]]; then
-    COMPREPLY=($(compgen -W '--with --json --types --out --only --csv --today --help' -- "$cur"))
+    COMPREPLY=($(compgen -W '--with --json --types --only --csv --out --today --help' -- "$cur"))
   else
     while IFS= read -r line; do
       if [[ -n $name ]]; then

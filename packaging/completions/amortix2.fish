@@ -3,19 +3,21 @@
 
 complete -c amortix2 -f
 complete -c amortix2 -n __fish_use_subcommand -a 'list call batch'
-complete -c amortix2 -n '__fish_seen_subcommand_from list' -l json -a ' Calculator BarChart GifChart InvestmentStrategy SvgChart tSchedule tLoanDesc tSavingsDesc tGoalDesc tCreditQualification GifHeader ImageBlock specialConstants enumAmortixType enumLoanType enumSavingsType enumFrequencyType'
+complete -c amortix2 -n '__fish_seen_subcommand_from list' -a ' Calculator BarChart GifChart InvestmentStrategy SvgChart tSchedule tLoanDesc tSavingsDesc tGoalDesc tCreditQualification GifHeader ImageBlock specialConstants enumAmortixType enumLoanType enumSavingsType enumFrequencyType'
+complete -c amortix2 -n '__fish_seen_subcommand_from list' -l help
+complete -c amortix2 -n '__fish_seen_subcommand_from list' -l json
 complete -c amortix2 -n '__fish_seen_subcommand_from call' -l with
 complete -c amortix2 -n '__fish_seen_subcommand_from call' -l json
 complete -c amortix2 -n '__fish_seen_subcommand_from call' -l types
-complete -c amortix2 -n '__fish_seen_subcommand_from call' -l out
 complete -c amortix2 -n '__fish_seen_subcommand_from call' -l only
 complete -c amortix2 -n '__fish_seen_subcommand_from call' -l csv
+complete -c amortix2 -n '__fish_seen_subcommand_from call' -l out
 complete -c amortix2 -n '__fish_seen_subcommand_from call' -l today
 complete -c amortix2 -n '__fish_seen_subcommand_from call' -l help
+complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l help
 complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l types
 complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l notes
 complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l today
-complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l help
 complete -c amortix2 -n '__fish_seen_subcommand_from list call; and not __fish_seen_subcommand_from loan Calculator.SimpleLoanCalculator' -a 'loan Calculator.SimpleLoanCalculator' -d 'Loan'
 complete -c amortix2 -n '__fish_seen_subcommand_from loan Calculator.SimpleLoanCalculator' -a 'vLoanType=S vLoanType=C' -d 'Kind of loan'
 complete -c amortix2 -n '__fish_seen_subcommand_from loan Calculator.SimpleLoanCalculator' -a 'vPurchaseAmt=' -d 'Amount'
