@@ -7,6 +7,7 @@ namespace amortix2 {
 namespace {
 
 const Variant kEmpty;
+const Variant kUnseen;
 
 const Variant* VariantIn(const Value& value) {
   return value.Type().kind == TypeKind::Variant ? static_cast<const Variant*>(value.Get()) : nullptr;
@@ -53,7 +54,7 @@ Inputs::Inputs(const MemberInfo& member, std::span<const Value> arguments) : mem
     if (value && parameter.byReference) {
       // A chart's table is never looked at, and may be large.
       const bool isTable = value->Type() == VariantType::Array;
-      value = isTable ? nullptr : &kept_.emplace_back(*value);
+      value = isTable ? &kUnseen : &kept_.emplace_back(*value);
     }
     values_.push_back(value ? value : &kEmpty);
   }
@@ -63,6 +64,8 @@ const Variant& Inputs::At(std::string_view name) const {
   const ParameterInfo* parameter = FindParameter(*member_, name);
   return parameter ? At(static_cast<std::size_t>(parameter - member_->parameters.data())) : kEmpty;
 }
+
+bool Inputs::IsSeen(std::size_t place) const noexcept { return values_[place] != &kUnseen; }
 
 double Inputs::Number(std::string_view name) const { return NumericOrZero(At(name)); }
 

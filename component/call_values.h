@@ -35,6 +35,9 @@ class Inputs {
   const Variant& At(std::size_t place) const { return *values_[place]; }
   const Variant& At(std::string_view name) const;
 
+  /// False for a table by reference, which is not looked at: it may be large, and stands as Empty.
+  bool IsSeen(std::size_t place) const noexcept;
+
   /// The input as calculators read it: 0 for what is no number.
   double Number(std::string_view name) const;
 

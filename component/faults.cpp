@@ -110,7 +110,8 @@ std::optional<Note> FaultOf(const Inputs& inputs, ErrorNumber error) {
     if (cause.error != error) continue;
     for (std::size_t i = 0; i < member.parameters.size(); ++i) {
       const ParameterInfo& parameter = member.parameters[i];
-      if (!parameter.IsInput() || parameter.type->kind != TypeKind::Variant) continue;
+      const bool isVariant = parameter.type->kind == TypeKind::Variant;
+      if (!parameter.IsInput() || !isVariant || !inputs.IsSeen(i)) continue;
       std::string sentence = cause.look(parameter, inputs.At(i));
       if (sentence.empty()) continue;
       if (!IsGiven(inputs.At(i))) return Note{"fault", &parameter, {}, "Not given."};

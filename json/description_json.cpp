@@ -1,5 +1,8 @@
 #include "amortix2/json/description_json.h"
 
+#include <array>
+#include <utility>
+
 #include "amortix2/json/tree.h"
 
 namespace amortix2::json {
@@ -28,15 +31,92 @@ Tree Typed(const auto& item) {
   return typed;
 }
 
+/// Adds a text that says something.
+void Put(Tree& tree, const char* name, std::string_view text) {
+  if (!text.empty()) tree[name] = text;
+}
+
+void PutUnit(Tree& tree, Unit unit) { Put(tree, "unit", UnitName(unit)); }
+
+void PutList(Tree& tree, const char* name, Tree list) {
+  if (!list.empty()) tree[name] = std::move(list);
+}
+
+void PutRange(Tree& tree, const char* name, const Range& range) {
+  if (!range.IsGiven()) return;
+  tree[name] = {{"least", range.least}, {"most", range.most}};
+  if (range.step != 0) tree[name]["step"] = range.step;
+}
+
+Tree DescribeChoice(const ChoiceInfo& choice) {
+  Tree tree{{"value", choice.text}, {"title", choice.title}};
+  Put(tree, "help", choice.help);
+  Put(tree, "constant", choice.name);
+  return tree;
+}
+
+Tree DescribeQuestion(const QuestionInfo& question) {
+  return {{"question", question.text}, {"answers", List(question.answers, DescribeChoice)}};
+}
+
+Tree DescribeHeading(const HeadingInfo& heading) {
+  Tree tree{{"title", heading.title}};
+  PutUnit(tree, heading.unit);
+  return tree;
+}
+
+Tree DescribeAxis(const AxisInfo& axis) {
+  Tree tree{{"title", axis.title}, {"centre", axis.centre}, {"step", axis.step}, {"steps", axis.steps}};
+  PutUnit(tree, axis.unit);
+  return tree;
+}
+
+Tree DescribeTable(const TableInfo& table) {
+  Tree tree{{"title", table.title}, {"firstRow", table.firstRow}, {"firstColumn", table.firstColumn}};
+  PutUnit(tree, table.unit);
+  PutList(tree, "columns", List(table.columns, DescribeHeading));
+  PutList(tree, "rows", List(table.rows, DescribeHeading));
+  if (table.repeats) tree["repeats"] = true;
+  if (table.rowAxis) tree["rowAxis"] = DescribeAxis(*table.rowAxis);
+  if (table.columnAxis) tree["columnAxis"] = DescribeAxis(*table.columnAxis);
+  return tree;
+}
+
+/// In the order of their enumerations.
+constexpr std::array<std::string_view, 4> kRoles{"input", "result", "both", "not read"};
+constexpr std::array<std::string_view, 6> kOmitted{"required", "zero", "today", "whole term", "find it", ""};
+
 Tree DescribeParameter(const ParameterInfo& parameter) {
   Tree tree = Typed(parameter);
   tree["direction"] = Direction(parameter);
+  tree["role"] = kRoles[static_cast<std::size_t>(parameter.role)];
+  if (parameter.IsInput()) Put(tree, "omitted", kOmitted[static_cast<std::size_t>(parameter.omitted)]);
+  PutRange(tree, "range", parameter.range);
+  PutRange(tree, "limit", parameter.limit);
+  Put(tree, "example", parameter.example);
+  Put(tree, "echoes", parameter.echoes);
+  if (parameter.choices) {
+    tree["choices"] = List(parameter.choices->choices, DescribeChoice);
+    Put(tree, "otherwise", parameter.choices->otherwise);
+  }
+  if (parameter.table) tree["table"] = DescribeTable(*parameter.table);
+  PutList(tree, "questions", List(parameter.questions, DescribeQuestion));
+  return tree;
+}
+
+Tree DescribeFind(const FindInfo& find) {
+  Tree tree{{"figure", find.figure}};
+  Put(tree, "input", find.input);
   return tree;
 }
 
 Tree DescribeMember(const MemberInfo& member) {
   Tree tree = Named(member);
   tree["kind"] = member.kind == MemberKind::Method ? "method" : "property";
+  tree["group"] = GroupTitle(member.group);
+  Put(tree, "address", member.address);
+  PutList(tree, "finds", List(member.finds, DescribeFind));
+  Put(tree, "horizon", member.horizon);
   tree["parameters"] = List(member.parameters, DescribeParameter);
   if (member.result) tree["returns"] = TypeText(*member.result);
   return tree;

@@ -2,7 +2,9 @@
 
 // The component's description as JSON, for whoever makes a form, a page or a client of it: {"classes": [{...,
 // "members": [{..., "parameters": [...]}]}], "records": [{..., "fields": [...]}], "enumerations": [{...,
-// "constants": [...]}]}. Everything has its name and its help; a parameter or field its type and its unit.
+// "constants": [...]}]}. Everything has its name, its title and its help; a parameter or field its type and
+// its unit; a member and its parameters besides what meaning.h says of them, each thing left out that there
+// is not.
 
 #include <string>
 

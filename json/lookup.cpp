@@ -86,6 +86,43 @@ Target FindTarget(std::string_view name) {
   return {type, method};
 }
 
+namespace {
+
+bool HasWord(std::string_view text, std::string_view word) {
+  for (std::size_t i = 0; i + word.size() <= text.size(); ++i) {
+    if (SameName(text.substr(i, word.size()), word)) return true;
+  }
+  return false;
+}
+
+/// True when a member's titles, help or choices have a word.
+bool IsAbout(const MemberInfo& member, std::string_view word) {
+  const auto has = [&](std::string_view text) { return HasWord(text, word); };
+  const auto offers = [&](const ParameterInfo& parameter) {
+    return parameter.choices && std::ranges::any_of(parameter.choices->choices, has, &ChoiceInfo::title);
+  };
+  return has(member.title) || has(member.name) || has(member.help) ||
+         std::ranges::any_of(member.parameters, offers);
+}
+
+/// What a person who wrote `name` may have looked for: what has it in a title or a line of help, else what is
+/// written much the same.
+std::string Suggestion(std::string_view name, std::span<const std::string_view> names) {
+  constexpr std::size_t kShortest = 3;
+  std::string message;
+  for (const auto& [type, member] : MembersInOrder()) {
+    if (name.size() < kShortest || member->address.empty()) continue;
+    if (!IsAbout(*member, name)) continue;
+    message += message.empty() ? "; what comes near: " : ", ";
+    message.append(member->address).append(" (").append(member->title).append(")");
+  }
+  if (!message.empty()) return message;
+  const std::string_view closest = Closest(Shortened(name), names);
+  return closest.empty() ? "; amortix2 list shows all" : "; did you mean " + std::string(closest) + "?";
+}
+
+}  // namespace
+
 Target FindCalled(std::string_view name) {
   if (name.find('.') != std::string_view::npos) return FindTarget(name);
   std::vector<ClassMember> found;
@@ -98,9 +135,7 @@ Target FindCalled(std::string_view name) {
   if (found.size() == 1) return {*found.front().type, *found.front().member};
   std::string message;
   if (found.empty()) {
-    const std::string_view closest = Closest(Shortened(name), names);
-    message = "there is nothing to call by the name " + Quoted(name) +
-              (closest.empty() ? std::string() : "; did you mean " + std::string(closest) + "?");
+    message = "there is nothing to call by the name " + Quoted(name) + Suggestion(name, names);
   } else {
     message = Quoted(name) + " is in several classes: say";
     for (const auto& [type, member] : found) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "amortix2/automation/text_scanner.h"
 #include "amortix2/cli/csv.h"
 #include "amortix2/cli/lines.h"
 #include "amortix2/json/request_error.h"
@@ -110,6 +111,31 @@ json::Tree ReadSurvey(json::Tree given, std::span<const QuestionInfo> questions)
   return {{"lower", json::Tree::array({1})}, {"values", std::move(answers)}};
 }
 
+bool IsList(const MemberInfo& member, const ParameterInfo& parameter) {
+  return std::ranges::any_of(member.lists, [&](const ListInfo& list) {
+    return std::ranges::find(list.inputs, parameter.name) != list.inputs.end();
+  });
+}
+
+json::Tree ReadList(std::string_view text) {
+  json::Tree list = json::Tree::array();
+  for (;;) {
+    const std::size_t comma = text.find(',');
+    list.push_back(ReadCell(std::string(text.substr(0, comma))));
+    if (comma == std::string_view::npos) return list;
+    text.remove_prefix(comma + 1);
+  }
+}
+
+/// The letters and digits of a name, all small: "Interest rate" is "interest-rate".
+std::string Letters(std::string_view name) {
+  std::string letters;
+  for (const char c : name) {
+    if (IsLetter(c) || IsDigit(c)) letters += ToLower(c);
+  }
+  return letters;
+}
+
 }  // namespace
 
 std::vector<Assignment> SplitArguments(const std::vector<std::string>& arguments) {
@@ -117,21 +143,46 @@ std::vector<Assignment> SplitArguments(const std::vector<std::string>& arguments
   for (const std::string& argument : arguments) {
     const std::size_t equals = argument.find('=');
     if (equals == 0 || equals == std::string::npos) {
-      throw json::RequestError(json::Quoted(argument) + " is no NAME=VALUE");
+      throw json::RequestError(json::Quoted(argument) +
+                               " is no NAME=VALUE; call METHOD --help has the names");
     }
     assignments.push_back({argument.substr(0, equals), argument.substr(equals + 1)});
   }
   return assignments;
 }
 
-json::Tree ReadValue(const std::string& value, const ParameterInfo* parameter) {
-  json::Tree tree = value.starts_with('@') ? ReadFile(value.substr(1), parameter) : ReadText(value);
-  if (!parameter) return tree;
-  if (!parameter->questions.empty()) return ReadSurvey(std::move(tree), parameter->questions);
+const ParameterInfo* FindInput(const MemberInfo& member, std::string_view name) {
+  if (const ParameterInfo* parameter = FindParameter(member, name)) return parameter;
+  const std::string asked = Letters(name);
+  const ParameterInfo* meant = nullptr;
+  int like = 0;
+  for (const ParameterInfo& parameter : member.parameters) {
+    if (!parameter.IsInput() || asked.empty()) continue;
+    const std::string title = Letters(parameter.title);
+    if (title == asked || Letters(parameter.name) == "v" + asked) return &parameter;
+    if (title.find(asked) == std::string::npos) continue;
+    meant = &parameter;
+    ++like;
+  }
+  if (like != 1) return nullptr;
+  throw json::RequestError(std::string(member.name) + " has no argument " + json::Quoted(name) +
+                           "; did you mean " + std::string(meant->name) + " (" + std::string(meant->title) +
+                           ")?");
+}
+
+json::Tree ReadValue(const std::string& value) {
+  return value.starts_with('@') ? ReadFile(value.substr(1), nullptr) : ReadText(value);
+}
+
+json::Tree ReadValue(const std::string& value, const MemberInfo& member, const ParameterInfo& parameter) {
+  json::Tree tree = value.starts_with('@') ? ReadFile(value.substr(1), &parameter) : ReadText(value);
+  if (!parameter.questions.empty()) return ReadSurvey(std::move(tree), parameter.questions);
   const std::string* text = json::TextOf(tree);
-  const ChoiceInfo* choice = text && parameter->choices ? FindChoice(*parameter->choices, *text) : nullptr;
+  if (!text) return tree;
+  if (text->find(',') != std::string::npos && IsList(member, parameter)) return ReadList(*text);
+  const ChoiceInfo* choice = parameter.choices ? FindChoice(*parameter.choices, *text) : nullptr;
   if (!choice) return tree;
-  return parameter->unit == Unit::Text ? json::Tree(choice->text) : ReadText(std::string(choice->text));
+  return parameter.unit == Unit::Text ? json::Tree(choice->text) : ReadText(std::string(choice->text));
 }
 
 }  // namespace amortix2::cli

@@ -72,14 +72,16 @@ struct Given {
 Given ReadGiven(const CommandLine& line, const json::Target& target) {
   Given given;
   const auto addArgument = [&](const Assignment& argument) {
-    const ParameterInfo* parameter = FindParameter(target.method, argument.name);
-    given.arguments.emplace_back(argument.name, ReadValue(argument.value, parameter));
+    const ParameterInfo* input = FindInput(target.method, argument.name);
+    if (!input) json::PlaceOfParameter(target.method, argument.name);  // raises, and says what there is
+    given.arguments.emplace_back(input->name, ReadValue(argument.value, target.method, *input));
   };
   const auto addSetting = [&](const Assignment& setting) {
     const MemberInfo* member = FindMember(target.type, setting.name);
     const bool isProperty = member && member->kind == MemberKind::PropertyPut;
     given.settings.emplace_back(setting.name,
-                                ReadValue(setting.value, isProperty ? member->parameters.data() : nullptr));
+                                isProperty ? ReadValue(setting.value, *member, member->parameters.front())
+                                           : ReadValue(setting.value));
   };
   for (const Assignment& setting : SplitArguments(line.settings)) addSetting(setting);
   for (const Assignment& argument : SplitArguments(line.arguments)) {

@@ -18,40 +18,51 @@ Unit UnitAt(std::span<const HeadingInfo> headings, std::int64_t place) {
   return isThere ? headings[static_cast<std::size_t>(place)].unit : Unit::None;
 }
 
-/// Titles of one axis of an array, from `first` to the end of `bounds`.
+/// Titles of one axis of an array, from the first that is described on.
 class Titles {
  public:
   Titles(const Inputs& inputs, std::span<const HeadingInfo> headings, const AxisInfo* axis, bool repeats)
-      : headings_(headings), axis_(axis), repeats_(repeats) {
-    if (!axis) return;
-    centre_ = inputs.Number(axis->centre);
-    step_ = inputs.Number(axis->step);
-    steps_ = inputs.Number(axis->steps);
+      : headings_(headings), axis_(axis) {
+    if (axis) {
+      centre_ = inputs.Number(axis->centre);
+      step_ = inputs.Number(axis->step);
+      steps_ = inputs.Number(axis->steps);
+    }
+    if (!repeats || inputs.Member().lists.empty()) return;
+    const ListInfo& list = *inputs.Member().lists.begin();
+    items_ = std::ssize(ElementsOf(inputs.At(*list.inputs.begin())));
   }
 
   bool AreGiven() const { return axis_ || !headings_.empty(); }
 
-  /// `place` counts from 0.
+  /// `place` counts from 0. Behind the columns of a list's items stand those of all of them together.
   std::string At(std::int64_t place, std::int64_t index) const {
     if (axis_) return PlainText(centre_ + (static_cast<double>(place) - steps_) * step_, axis_->unit);
-    const std::int64_t count = std::ssize(headings_);
-    if (count == 0 || (place >= count && !repeats_)) return std::to_string(index);
-    std::string title(headings_[static_cast<std::size_t>(place % count)].title);
-    if (place >= count) title += " " + std::to_string(place / count + 1);
-    return title;
+    const HeadingInfo* heading = HeadingAt(place);
+    if (!heading) return std::to_string(index);
+    if (items_ == 0) return std::string(heading->title);
+    const std::int64_t item = place / std::ssize(headings_);
+    return std::string(heading->title) + (item < items_ ? " " + std::to_string(item + 1) : ", all");
   }
 
   Unit UnitOf(std::int64_t place) const {
-    return UnitAt(headings_, repeats_ && !headings_.empty() ? place % std::ssize(headings_) : place);
+    const HeadingInfo* heading = HeadingAt(place);
+    return heading ? heading->unit : Unit::None;
   }
 
  private:
+  const HeadingInfo* HeadingAt(std::int64_t place) const {
+    const std::int64_t count = std::ssize(headings_);
+    if (count == 0 || (place >= count && items_ == 0)) return nullptr;
+    return &headings_[static_cast<std::size_t>(place % count)];
+  }
+
   std::span<const HeadingInfo> headings_;
   const AxisInfo* axis_;
-  bool repeats_;
   double centre_ = 0;
   double step_ = 0;
   double steps_ = 0;
+  std::int64_t items_ = 0;  // of the list for each of which the headings stand again; 0: they do not
 };
 
 bool IsEmptyRow(const Array& array, std::int64_t row) {

@@ -108,7 +108,7 @@ void AddColumn(std::vector<std::vector<TextCell>>& lines, const ResultTable& tab
     if (!row) continue;
     const Variant value = table.cell(*row, column);
     decimals = std::max(decimals, Decimals(value));
-    if (!IsNumber(value.Type()) && value.Type() != VariantType::Empty) align = Align::Left;
+    if (!IsNumber(value.Type()) && IsGiven(value)) align = Align::Left;
   }
   lines.front().push_back({table.columns[column], align});
   for (std::size_t i = 0; i < shown.size(); ++i) {
@@ -130,9 +130,7 @@ std::string PlainText(const Variant& value, Unit unit, std::size_t decimals) {
   switch (value.Type()) {
     case VariantType::Empty:
     case VariantType::Missing:
-      break;
     case VariantType::Null:
-      text = "Null";
       break;
     case VariantType::Boolean:
       text = value.GetBoolean() ? "True" : "False";

@@ -292,6 +292,18 @@ vDetArray: Schedule (rows 0 to 2)
        R"({"results":{"vResPayment":504.07,"vTotInt":8.14}})"
        "\n",
        ""},
+      // The same by titles: 1000 over two months without interest.
+      {"call loan AMOUNT=1000 term=2 --only vTotPay --only vResPayment", 0,
+       "vResPayment   500.00  Monthly payment\nvTotPay      1000.00  Total of payments\n", "vIntRate: "},
+      {"call loan rate=6.5", 2, "", "did you mean vIntRate (Interest rate)?"},
+      {"call credit", 2, "", "what comes near: loan (Loan)\n"},
+      // 600 and 1200 over a year without interest.
+      {"call consolidate vCurrBal=600,1200 vCurrPay=50,100 vCurrRate=0,0 vNewRate=0 vNewTerm=12 --csv "
+       "vCurrGrid",
+       0,
+       "Current loans,Current loan 1,Current loan 2,\"Current loan, all\"\r\nMonthly "
+       "payment,50,100,150\r\n...",
+       ""},
       // Twelve deposits of 100 without interest; weekly there are 52.
       {"call save vStartDate=2027-01-01 vPayment=100 vFreq=MONTHLY vPeriod=1 --only vEndBal", 0,
        "vEndBal  1200.00  Balance at the end\n", ""},
