@@ -225,7 +225,7 @@ TEST_F(Program, ExitStatusesOutputsAndErrorLines) {
       {"call --help", 0, "Call one method of a new object and print the answer\n...", ""},
       {"lst", 2, "", "there is no command \"lst\"; did you mean list?"},
       {"refinance", 2, "", "did you mean call refinance?"},
-      {"call refinanc", 2, "", "did you mean refinance?"},
+      {"call refinnace", 2, "", "did you mean refinance?"},
       {"call stackchart", 2, "", "say BarChart.StackChart or SvgChart.StackChart\n"},
       {"list Calculator.Amorti", 2, "", "did you mean Amortix?"},
       {"", 2, "", "subcommand"},
