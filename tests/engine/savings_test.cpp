@@ -1,12 +1,10 @@
-#include "amortix2/engine/savings_solver.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "amortix2/engine/amortix.h"
 #include "amortix2/engine/savings_rate.h"
 #include "amortix2/engine/savings_schedule.h"
+#include "amortix2/engine/savings_solver.h"
 #include "automation/raises.h"
 #include "engine/random_savings.h"
 #include "sweep.h"
@@ -20,81 +18,7 @@ void Solve(tSavingsDesc& plan) {
   SolveSavings(plan, goals, qualification);
 }
 
-tSavingsDesc Plan(enumFrequencyType mode, int years, double balance, double deposit, double rate,
-                  double goal) {
-  tSavingsDesc plan;
-  plan.startDate = MakeDate(2026, 1, 1);
-  plan.endDate = MakeDate(2026 + years, 1, 1);
-  plan.paymentMode = mode;
-  plan.startingBalance = balance;
-  plan.deposit = deposit;
-  plan.intRate = rate;
-  plan.endingBalance = goal;
-  return plan;
-}
-
 constexpr double kUnknown = UNKNOWNLOANVALUE;
-
-// Figures computed independently.
-TEST(SavingsSolver, FindsEachQuantity) {
-  struct Row {
-    tSavingsDesc plan;
-    double tSavingsDesc::*unknown;
-    double found, endingBalance;
-  };
-  tSavingsDesc spending = Plan(monthlyMode, 10, 100000, 0, 6, 0);
-  spending.withdrawal = kUnknown;
-  tSavingsDesc spendingRate = Plan(monthlyMode, 10, 100000, 0, kUnknown, 0);
-  spendingRate.withdrawal = 1000;
-  tSavingsDesc taxed = Plan(monthlyMode, 10, 0, kUnknown, 6, 10000);
-  taxed.taxRate = 25;
-  tSavingsDesc continuous = Plan(monthlyMode, 10, 0, kUnknown, 6, 10000);
-  continuous.compoundingMode = continuousMode;
-  tSavingsDesc leftover = Plan(annualMode, 2, kUnknown, 0, 6, 10000);
-  leftover.startDate = MakeDate(2026, 1, 15);
-  leftover.endDate = MakeDate(2027, 12, 15);
-  tSavingsDesc once = Plan(continuousMode, 0, 0, 100, kUnknown, 1500);
-  once.endDate = MakeDate(2026, 2, 1);
-  const Row rows[] = {
-      {Plan(monthlyMode, 10, 0, kUnknown, 6, 16387.98), &tSavingsDesc::deposit, 100, 16387.98},
-      {Plan(monthlyMode, 10, kUnknown, 100, 6, 20000), &tSavingsDesc::startingBalance, 1985.31, 19999.97},
-      {taxed, &tSavingsDesc::deposit, 66.14, 10000.29},
-      {continuous, &tSavingsDesc::deposit, 60.95, 9999.38},
-      {leftover, &tSavingsDesc::startingBalance, 8942.96, 10000.01},
-      {Plan(exactDaysMode, 5, 1000, kUnknown, 6, 2000), &tSavingsDesc::deposit, -43.33, 2000.20},
-      {spending, &tSavingsDesc::withdrawal, 1110.21, 0},
-      {Plan(monthlyMode, 10, 0, 100, kUnknown, 16387.98), &tSavingsDesc::intRate, 6, 16387.98},
-      {Plan(annualMode, 5, 1000, 0, kUnknown, 2000), &tSavingsDesc::intRate, 14.87, 2000.01},
-      {Plan(monthlyMode, 5, 1000, 0, kUnknown, 2000), &tSavingsDesc::intRate, 13.944, 2000.03},
-      {spendingRate, &tSavingsDesc::intRate, 3.737, 0},
-      // Losses, no interest, more than even a total loss leaves, and a goal beyond any rate.
-      {Plan(annualMode, 5, 1000, 0, kUnknown, 800), &tSavingsDesc::intRate, -4.365, 800},
-      {Plan(annualMode, 2, 1000, 0, kUnknown, 250), &tSavingsDesc::intRate, -50, 250},
-      {Plan(annualMode, 5, 1000, 100, kUnknown, 1200), &tSavingsDesc::intRate, -5.532, 1200.01},
-      {Plan(annualMode, 5, 1000, 100, kUnknown, 1500), &tSavingsDesc::intRate, 0, 1500},
-      {Plan(annualMode, 5, 1000, 100, kUnknown, 50), &tSavingsDesc::intRate, 0, 1500},
-      {Plan(annualMode, 5, 0, -1, kUnknown, 50), &tSavingsDesc::intRate, 0, 0},
-      // Nothing that could grow, and debts, which grow with the rate.
-      {once, &tSavingsDesc::intRate, 0, 100},
-      {Plan(annualMode, 5, -1000, 0, kUnknown, 1500), &tSavingsDesc::intRate, 0, -1000},
-      {Plan(monthlyMode, 5, -1000, 100, kUnknown, 1000000), &tSavingsDesc::intRate, 0, 5000},
-  };
-  for (Row row : rows) {
-    Solve(row.plan);
-    EXPECT_NEAR(row.plan.*row.unknown, row.found, 1e-9);
-    EXPECT_NEAR(row.plan.endingBalance, row.endingBalance, 1e-9) << row.found;
-  }
-}
-
-TEST(SavingsSolver, RaisesWhereNothingDeterminesTheUnknown) {
-  tSavingsDesc rows[] = {
-      Plan(monthlyMode, 0, 0, kUnknown, 6, 100),        // no period to deposit in
-      Plan(monthlyMode, 0, 10, 100, kUnknown, 1000),    // nor to grow in
-      Plan(monthlyMode, 1, 0, 0, kUnknown, 1000),       // nothing to grow
-      Plan(annualMode, 10, 1000, -100, kUnknown, 2000)  // deposits that take out all of the balance
-  };
-  for (tSavingsDesc& plan : rows) EXPECT_EQ(ErrorOf([&] { Solve(plan); }), ErrorNumber::DivisionByZero);
-}
 
 /// What a solved plan's schedule makes of 1 opened with, of deposits of 1, and of a rounding of 1 on each
 /// line.
@@ -210,16 +134,34 @@ TEST(SavingsSolver, EveryRateSearchEnds) {
   EXPECT_LE(most, 64 + 53 + 1024);  // secants, then bits of a double, then its exponents
 }
 
-TEST(SavingsSolver, GoalsAreAcceptedAndNotComputed) {
-  RecordArray<tLoanDesc> loans;
-  RecordArray<tSavingsDesc> plans(0, 1), none;
-  RecordArray<tGoalDesc> goals;
-  tCreditQualification qualification;
-  plans.At(1) = Plan(monthlyMode, 10, 0, 100, 6, kUnknown);
-  EXPECT_EQ(Amortix(SavingsGoalsCalculator, loans, plans, goals, qualification), 0);
-  EXPECT_EQ(plans.At(1).endingBalance, kUnknown);
-  EXPECT_EQ(ErrorOf([&] { Amortix(SavingsGoalsCalculator, loans, none, goals, qualification); }),
-            ErrorNumber::SubscriptOutOfRange);
+TEST(SavingsSchedule, LinesJoinAndTotalsAdd) {
+  RandomSavings random(1);
+  int built = 0;
+  for (int i = 0; i < 20000; ++i) {
+    tSavingsDesc plan = random.Wild();
+    const tSavingsDesc before = plan;
+    if (ErrorOf([&] { BuildSavingsSchedule(plan); })) {
+      EXPECT_EQ(plan.endDate, before.endDate);
+      EXPECT_EQ(plan.endingBalance, before.endingBalance);
+      EXPECT_TRUE(plan.schedule.empty());
+      continue;
+    }
+    ++built;
+    double interest = 0;
+    for (std::size_t k = 1; k < plan.schedule.size(); ++k) {
+      const tSchedule& line = plan.schedule[k];
+      EXPECT_EQ(line.startingBalance, plan.schedule[k - 1].endingBalance);
+      const double size =
+          std::abs(line.startingBalance) + std::abs(line.payment) + std::abs(line.endingBalance);
+      EXPECT_NEAR(line.endingBalance, line.startingBalance + line.intCredited + line.payment,
+                  0.0051 + 1e-15 * size);
+      interest += line.intCredited;
+    }
+    EXPECT_TRUE(std::isfinite(plan.endingBalance) &&
+                plan.endingBalance == plan.schedule.back().endingBalance);
+    EXPECT_EQ(plan.totIntCredited, interest);
+  }
+  EXPECT_GT(built, 10000);
 }
 
 }  // namespace
