@@ -194,10 +194,14 @@ complete -c amortix2 -n '__fish_seen_subcommand_from list' -a ')" +
   }
   for (const ClassMember& member : Callable()) {
     const std::string names = NamesOf(member, " ");
-    text +=
-        "complete -c amortix2 -n '__fish_seen_subcommand_from list call; and not "
-        "__fish_seen_subcommand_from " +
-        names + "' -a '" + names + "' -d " + Quoted(member.member->title) + "\n";
+    text.append("complete -c amortix2 -n '__fish_seen_subcommand_from list call; and not ")
+        .append("__fish_seen_subcommand_from ")
+        .append(names)
+        .append("' -a '")
+        .append(names)
+        .append("' -d ")
+        .append(Quoted(member.member->title))
+        .append("\n");
     for (const ParameterInfo& parameter : member.member->parameters) {
       if (!parameter.IsInput()) continue;
       std::string words = std::string(parameter.name) + "=";
@@ -207,8 +211,8 @@ complete -c amortix2 -n '__fish_seen_subcommand_from list' -a ')" +
           words += (words.empty() ? "" : " ") + std::string(parameter.name) + "=" + ChoiceWord(choice);
         }
       }
-      text += "complete -c amortix2 -n '__fish_seen_subcommand_from " + names + "' -a " + Quoted(words) +
-              " -d " + Quoted(parameter.title) + "\n";
+      text.append("complete -c amortix2 -n '__fish_seen_subcommand_from ").append(names).append("' -a ");
+      text.append(Quoted(words)).append(" -d ").append(Quoted(parameter.title)).append("\n");
     }
   }
   return text;

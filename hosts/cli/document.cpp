@@ -8,7 +8,7 @@ namespace amortix2::cli {
 namespace {
 
 /// A line that ends, whatever ended it before.
-std::string Line(std::string text) { return text.ends_with('\n') ? text : text + "\n"; }
+std::string Line(const std::string& text) { return text.ends_with('\n') ? text : text + "\n"; }
 
 template <class Line>
 void ForEachLine(std::string_view text, const Line& line) {

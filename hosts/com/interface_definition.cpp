@@ -24,6 +24,13 @@ std::string Quoted(std::string_view text) {
   return quoted + '"';
 }
 
+/// What an editor shows of a class, a member or a parameter.
+std::string HelpOf(const auto& item) {
+  std::string help(item.title);
+  if (!item.help.empty() && item.help != item.title) help.append(": ").append(item.help);
+  return Quoted(help);
+}
+
 /// An identifier as C and C++ programs write it: widl's header names those of records nowhere else.
 std::string Initializer(std::string_view identifier) {
   const auto part = [&](std::size_t start, std::size_t length) {
@@ -36,9 +43,9 @@ std::string Initializer(std::string_view identifier) {
   return text + "}}";
 }
 
-std::string Attributes(std::string_view name, std::string_view help, std::string_view more = "") {
-  return "[uuid(" + std::string(Identifier(name)) + ")" + std::string(more) + ", helpstring(" + Quoted(help) +
-         ")]";
+std::string Attributes(std::string_view name, const auto& described, std::string_view more = "") {
+  return "[uuid(" + std::string(Identifier(name)) + ")" + std::string(more) + ", helpstring(" +
+         HelpOf(described) + ")]";
 }
 
 std::string TypeName(const TypeInfo& type) {
@@ -70,7 +77,7 @@ std::string TypeName(const TypeInfo& type) {
 }
 
 void WriteEnumeration(std::ostream& out, const EnumerationInfo& type) {
-  out << "\n  typedef " << Attributes(type.name, type.help) << "\n  enum " << type.name << " {\n";
+  out << "\n  typedef " << Attributes(type.name, type) << "\n  enum " << type.name << " {\n";
   for (const ConstantInfo& constant : type.constants) {
     out << "    " << constant.name << " = " << constant.value << ",  // " << constant.help << '\n';
   }
@@ -78,7 +85,7 @@ void WriteEnumeration(std::ostream& out, const EnumerationInfo& type) {
 }
 
 void WriteRecord(std::ostream& out, const RecordInfo& record) {
-  out << "\n  typedef " << Attributes(record.name, record.help) << "\n  struct " << record.name << " {\n";
+  out << "\n  typedef " << Attributes(record.name, record) << "\n  struct " << record.name << " {\n";
   for (const FieldInfo& field : record.fields) {
     out << "    " << TypeName(*field.type) << ' ' << field.name << ";  // " << field.help << '\n';
   }
@@ -88,13 +95,13 @@ void WriteRecord(std::ostream& out, const RecordInfo& record) {
 
 void WriteParameter(std::ostream& out, const ParameterInfo& parameter) {
   out << "\n        [" << (parameter.byReference ? "in, out" : "in")
-      << (parameter.optional ? ", optional" : "") << ", HELP(" << Quoted(parameter.help) << ")] "
+      << (parameter.optional ? ", optional" : "") << ", HELP(" << HelpOf(parameter) << ")] "
       << TypeName(*parameter.type) << (parameter.byReference ? "* " : " ") << parameter.name;
 }
 
 void WriteMember(std::ostream& out, const MemberInfo& member, std::size_t number) {
   out << "      [id(" << number << (member.kind == MemberKind::PropertyPut ? "), propput" : ")")
-      << ", helpstring(" << Quoted(member.help) << ")]\n      HRESULT " << member.name << '(';
+      << ", helpstring(" << HelpOf(member) << ")]\n      HRESULT " << member.name << '(';
   std::string_view separator;
   for (const ParameterInfo& parameter : member.parameters) {
     out << separator;
@@ -109,11 +116,11 @@ void WriteMember(std::ostream& out, const MemberInfo& member, std::size_t number
 
 void WriteClass(std::ostream& out, const ClassInfo& type) {
   const std::string interfaceName = InterfaceName(type.name);
-  out << "\n  " << Attributes(interfaceName, type.help, ", dual, oleautomation, nonextensible")
-      << "\n  interface " << interfaceName << " : IDispatch {\n";
+  out << "\n  " << Attributes(interfaceName, type, ", dual, oleautomation, nonextensible") << "\n  interface "
+      << interfaceName << " : IDispatch {\n";
   std::size_t number = 0;
   for (const MemberInfo& member : type.members) WriteMember(out, member, ++number);
-  out << "  };\n\n  " << Attributes(type.name, type.help) << "\n  coclass " << type.name
+  out << "  };\n\n  " << Attributes(type.name, type) << "\n  coclass " << type.name
       << " {\n    [default] interface " << interfaceName << ";\n  };\n";
 }
 

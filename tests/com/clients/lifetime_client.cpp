@@ -176,6 +176,11 @@ std::string Taken(BSTR text) {
   return utf8;
 }
 
+std::string TitleAndHelp(const auto& item) {
+  const std::string title(item.title);
+  return item.help.empty() || item.help == title ? title : title + ": " + std::string(item.help);
+}
+
 void CheckMember(ITypeInfo& type, UINT index, const MemberInfo& member) {
   const auto number = static_cast<MEMBERID>(index) + 1;
   const bool put = member.kind == MemberKind::PropertyPut;
@@ -186,7 +191,7 @@ void CheckMember(ITypeInfo& type, UINT index, const MemberInfo& member) {
   BSTR name = nullptr;
   BSTR help = nullptr;
   type.GetDocumentation(number, &name, &help, nullptr, nullptr);
-  CHECK(SameName(Taken(name), member.name) && Taken(help) == member.help);
+  CHECK(SameName(Taken(name), member.name) && Taken(help) == TitleAndHelp(member));
   const std::size_t results = member.result != nullptr ? 1 : 0;
   CHECK(static_cast<std::size_t>(function->cParams) == member.parameters.size() + results);
   BSTR names[32] = {};
@@ -200,7 +205,8 @@ void CheckMember(ITypeInfo& type, UINT index, const MemberInfo& member) {
     const USHORT flags = function->lprgelemdescParam[i - 1].paramdesc.wParamFlags;
     OwnedVariant parameterHelp;
     custom->GetParamCustData(index, i - 1, ToGuid(IdentifierOf(kParameterHelp)), &parameterHelp.Get());
-    CHECK((put || SameName(parameter, info.name)) && ReadValue(parameterHelp.Get()) == Variant(info.help));
+    CHECK((put || SameName(parameter, info.name)) &&
+          ReadValue(parameterHelp.Get()) == Variant(TitleAndHelp(info)));
     CHECK(((flags & PARAMFLAG_FOPT) != 0) == info.optional);
     CHECK(((flags & PARAMFLAG_FOUT) != 0) == info.byReference);
   }
