@@ -111,6 +111,12 @@ json::Tree ReadSurvey(json::Tree given, std::span<const QuestionInfo> questions)
   return {{"lower", json::Tree::array({1})}, {"values", std::move(answers)}};
 }
 
+/// Constants of frequencies end in a word that nobody says: "annual" is annualMode.
+const ChoiceInfo* FindChoiceMeant(const ChoicesInfo& choices, const std::string& text) {
+  const ChoiceInfo* choice = FindChoice(choices, text);
+  return choice ? choice : FindChoice(choices, text + "mode");
+}
+
 bool IsList(const MemberInfo& member, const ParameterInfo& parameter) {
   return std::ranges::any_of(member.lists, [&](const ListInfo& list) {
     return std::ranges::find(list.inputs, parameter.name) != list.inputs.end();
@@ -180,7 +186,7 @@ json::Tree ReadValue(const std::string& value, const MemberInfo& member, const P
   const std::string* text = json::TextOf(tree);
   if (!text) return tree;
   if (text->find(',') != std::string::npos && IsList(member, parameter)) return ReadList(*text);
-  const ChoiceInfo* choice = parameter.choices ? FindChoice(*parameter.choices, *text) : nullptr;
+  const ChoiceInfo* choice = parameter.choices ? FindChoiceMeant(*parameter.choices, *text) : nullptr;
   if (!choice) return tree;
   return parameter.unit == Unit::Text ? json::Tree(choice->text) : ReadText(std::string(choice->text));
 }

@@ -307,6 +307,8 @@ vDetArray: Schedule (rows 0 to 2)
       // Twelve deposits of 100 without interest; weekly there are 52.
       {"call save vStartDate=2027-01-01 vPayment=100 vFreq=MONTHLY vPeriod=1 --only vEndBal", 0,
        "vEndBal  1200.00  Balance at the end\n", ""},
+      {"call save vStartDate=2027-01-01 vPayment=100 vFreq=annual vPeriod=1 --only vEndBal", 0,
+       "vEndBal  100.00  Balance at the end\n", ""},
       {"call save vStartDate=2027-01-01 vPayment=100 vFreq=weekly vPeriod=1 --only vEndBal", 0,
        "vEndBal  5200.00  Balance at the end\n", ""},
       // 120000 less 12000, 24000 or 36000 in cash, over a year without interest.
@@ -350,6 +352,19 @@ TEST_F(Program, OutKeepsTheOldFileUntilTheNewOneIsComplete) {
   EXPECT_EQ(Run(call + "/none"), 3);
   EXPECT_EQ(Read("err"),
             "amortix2: cannot write " + Path("image") + "/none: The folder of the file does not exist.\n");
+}
+
+TEST_F(Program, AFileThatGrowsTooLargeIsAnErrorAndLeavesNothing) {
+  std::ofstream(Path("table.csv")) << ",A\na,1\nb,2\n";
+  const std::string call =
+      "call svg-bar-chart vColDat=@'" + Path("table.csv") + "' --out '" + Path("chart") + "'";
+  ASSERT_EQ(Run(call, "", "ulimit -f 1;"), 3);
+  EXPECT_EQ(Read("err"),
+            "amortix2: cannot write " + Path("chart") + ": The file cannot be read or written.\n");
+  EXPECT_FALSE(std::filesystem::exists(Path("chart")));
+  ASSERT_EQ(Run(call), 0);
+  EXPECT_EQ(Read("err"),
+            "wrote " + Path("chart") + " (" + std::to_string(Read("chart").size()) + " bytes)\n");
 }
 
 TEST_F(Program, ValuesComeFromFilesAndStandardInput) {
