@@ -1,80 +1,70 @@
-// The plain functions and the methods of Calculator, on random questions: the same doubles and dates in
-// every figure and line, or the same error.
+// The plain functions and the methods of Calculator, on random questions: the same results of the same types
+// to the last bit, or the same error.
 
 #include <optional>
 #include <random>
 #include <vector>
 
-#include "amortix2/automation/conversion.h"
-#include "amortix2/calculators/comparisons.h"
+#include "amortix2/calculators/comparison_results.h"
 #include "amortix2/calculators/leases.h"
 #include "amortix2/calculators/savings.h"
+#include "amortix2/calculators/tables.h"
+#include "amortix2/component/invocation.h"
 #include "automation/raises.h"
-#include "calculators/ask.h"
 #include "sweep.h"
 
 namespace amortix2 {
 namespace {
 
+using namespace calculators;
+using Values = std::vector<Variant>;
 using Numbers = std::vector<double>;
 
-double Serial(Date date) { return date.serial; }
+const Date kToday = MakeDate(2001, 1, 31);
 
-/// A result's numbers, a table's row after row; dates by their day, empty cells left out.
-void Append(Numbers& numbers, const Variant& result) {
-  if (result.Type() == VariantType::Array) {
-    for (const Variant& cell : result.GetArray().Cells()) Append(numbers, cell);
-  } else if (IsDate(result)) {
-    numbers.push_back(Serial(ToDate(result)));
-  } else if (result.Type() != VariantType::Empty) {
-    numbers.push_back(ToDouble(result));
-  }
+std::int32_t Last(const Schedule& lines) { return static_cast<std::int32_t>(lines.size()) - 1; }
+
+// An answer's members as the method hands them back.
+
+Values ResultsOf(const LoanAnswer& a) {
+  return {a.amount,
+          a.payment,
+          a.months,
+          a.annualPercent,
+          a.totalPayments,
+          a.totalInterest,
+          LoanTable(a.schedule, Last(a.schedule))};
 }
 
-Numbers And(Numbers numbers, const Schedule& lines, bool hasRates = false) {
-  for (const tSchedule& line : lines) {
-    for (const double cell : {Serial(line.lineDate), line.payment, line.startingBalance - line.endingBalance,
-                              line.intCharged, line.endingBalance})
-      numbers.push_back(cell);
-    if (hasRates) numbers.push_back(line.intRate);
-  }
-  return numbers;
+Values ResultsOf(const MortgageAnswer& a) {
+  return {a.loan.amount, a.loan.payment, a.propertyTax, a.fees, ResultsOf(a.loan).back()};
 }
 
-/// Row 0 has a date and a balance alone.
-Numbers AndSavings(Numbers numbers, const Schedule& lines) {
-  for (const tSchedule& line : lines) {
-    numbers.push_back(Serial(line.lineDate));
-    if (&line != &lines.front())
-      for (const double cell : {line.payment, line.intCredited, line.payment + line.intCredited})
-        numbers.push_back(cell);
-    numbers.push_back(line.endingBalance);
-  }
-  return numbers;
+Values ResultsOf(const LeaseAnswer& a) {
+  return {a.amount,
+          a.payment,
+          a.payments,
+          a.annualPercent,
+          static_cast<std::int16_t>(a.prepaid),
+          a.residual,
+          a.totalPayments,
+          a.totalInterest,
+          LoanTable(a.schedule, Last(a.schedule))};
 }
 
-Numbers FiguresOf(const LoanAnswer& a) {
-  return And({a.amount, a.payment, a.months, a.annualPercent, a.totalPayments, a.totalInterest}, a.schedule);
+Values ResultsOf(const LoanComparison& c) {
+  return {ComparisonGrid(c.current, c.proposed, Difference::FirstLessSecond, false), TermTable(c.current),
+          LoanTable(c.proposed.schedule, Last(c.proposed.schedule))};
 }
 
-Numbers FiguresOf(const MortgageAnswer& a) {
-  return And({a.loan.amount, a.loan.payment, a.propertyTax, a.fees}, a.loan.schedule);
+Values ResultsOf(const SavingsAnswer& a) {
+  return {a.balance, a.deposit,       a.endingBalance,
+          a.endDate, a.annualPercent, SavingsTable(a.schedule, Last(a.schedule))};
 }
 
-/// The grid's rows, column 3 being a less b times `sign`.
-Numbers Grid(const ComparedLoan& a, const ComparedLoan& b, double sign, bool areOffers) {
-  Numbers grid;
-  const auto add = [&](double x, double y) { grid.insert(grid.end(), {x, y, sign * (x - y)}); };
-  add(a.payment, b.payment);
-  add(a.upFrontCost, b.upFrontCost);
-  add(a.months, b.months);
-  add(a.costInTodaysMoney, b.costInTodaysMoney);
-  if (areOffers) add(a.annualPercentageRate, b.annualPercentageRate);
-  return grid;
-}
-
-Numbers FiguresOf(const LoanComparison& c) {
-  return And(And(Grid(c.current, c.proposed, 1, false), c.current.schedule), c.proposed.schedule);
+Values ResultsOf(const SpendingAnswer& a) {
+  const auto periods = static_cast<std::int16_t>(a.lastsForEver ? -1 : Last(a.schedule));
+  return {a.balance, a.withdrawal, a.annualPercent, periods, SavingsTable(a.schedule, Last(a.schedule))};
 }
 
 /// Random questions. No value is 0, which would stand for the unknown.
@@ -82,18 +72,21 @@ class PlainQuestions : public testing::Test {
  protected:
   static int Cases() { return amortix2::Cases(60, 20000); }
 
-  /// The method's inputs are given in its order.
+  /// `plain` gives the results; the method's inputs stand in its order.
   template <class Plain>
-  void Check(const Plain& plain, std::string_view method, const std::vector<Variant>& inputs) {
-    Numbers expected, actual;
+  void Check(std::string_view method, const Values& inputs, const Plain& plain) {
+    Values expected, actual;
     const auto error = ErrorOf([&] { expected = plain(); });
-    const Answer answer = Ask(method, inputs);
-    if (!error) {
-      for (std::size_t i = inputs.size(); i < answer.values.size(); ++i) Append(actual, answer.values[i]);
-      ++answered_;
-    }
-    EXPECT_EQ(answer.error, error.value_or(ErrorNumber{})) << method;
-    EXPECT_EQ(actual, expected) << method;
+    const FixedClock clock(kToday);
+    Object calculator(*FindClass("Calculator"), clock);
+    Invocation call(*FindMember(calculator.Class(), method));
+    const auto value = [&](std::size_t i) { return static_cast<Variant*>(call.Arguments()[i].Get()); };
+    for (std::size_t i = 0; i < inputs.size(); ++i) *value(i) = inputs[i];
+    EXPECT_EQ(ErrorOf([&] { call.Call(calculator); }), error) << method;
+    if (error) return;
+    for (std::size_t i = inputs.size(); i < call.Arguments().size(); ++i) actual.push_back(*value(i));
+    EXPECT_TRUE(actual == expected) << method;
+    ++answered_;
   }
   void TearDown() override { EXPECT_GT(answered_, Cases() / 2) << "mostly errors"; }
 
@@ -133,72 +126,57 @@ TEST_F(PlainQuestions, Loans) {
     LoanQuestion q{Amount(300000), 2000 + Amount(3000), Count(400), Percent(9), kToday, simpleLoan};
     if (i % 2 == 0) q.type = creditCard;
     LeaveOneOut(q.amount, q.payment, q.months, q.annualPercent);
-    Check([&] { return FiguresOf(Solve(q)); }, "SimpleLoanCalculator",
+    Check("SimpleLoanCalculator",
           {q.type == creditCard ? "C" : "", Given(q.amount), Given(q.payment), Given(q.months),
-           Given(q.annualPercent)});
-  }
-}
+           Given(q.annualPercent)},
+          [&] { return ResultsOf(Solve(q)); });
 
-TEST_F(PlainQuestions, Purchases) {
-  for (int i = 0; i < Cases(); ++i) {
-    PurchaseQuestion q{Purchase(Amount(500000)), StartBefore(kToday), {}};
-    q.closingDate = Date(q.startDate.serial - Below(30));
-    auto& [price, down, months, rate, points, fees, changes] = q.loan;
+    PurchaseQuestion p{Purchase(Amount(500000)), StartBefore(kToday), {}};
+    p.closingDate = Date(p.startDate.serial - Below(30));
+    auto& [price, down, months, rate, points, fees, c] = p.loan;
     points = fees = 0;
-    const BalloonQuestion balloon{q.loan, Count(200), kToday};
-    changes = Changes();
-    Check(
-        [&] {
-          LoanAnswer a = Solve(q);
-          a.schedule[0].lineDate = *q.closingDate;
-          return FiguresOf(a);
-        },
-        "AdjustablePayment",
-        {"", price, down, months, rate, *q.closingDate, kToday, changes.cap, changes.firstIncrease,
-         changes.laterIncrease, changes.firstPayment, changes.everyMonths});
-    Check(
-        [&] {
-          const BalloonAnswer a = Solve(balloon);
-          Numbers numbers =
-              And({a.amount, a.payment, a.balloon, a.amount, a.totalPayments, a.totalInterest}, a.schedule);
-          numbers[numbers.size() - 3] = a.lastPrincipal;
-          return numbers;
-        },
-        "BalloonLoanPaymentCalculator", {price, down, kToday, months, balloon.paymentsBefore, rate});
-  }
-}
+    const BalloonQuestion balloon{p.loan, Count(200), kToday};
+    c = Changes();
+    Check("AdjustablePayment",
+          {"", price, down, months, rate, *p.closingDate, kToday, c.cap, c.firstIncrease, c.laterIncrease,
+           c.firstPayment, c.everyMonths},
+          [&] {
+            const LoanAnswer a = Solve(p);
+            Values results = ResultsOf(a);
+            results.back() = LoanTable(a.schedule, Last(a.schedule), kDetailColumns, p.closingDate);
+            return results;
+          });
+    Check("BalloonLoanPaymentCalculator", {price, down, kToday, months, balloon.paymentsBefore, rate},
+          [&]() -> Values {
+            const BalloonAnswer a = Solve(balloon);
+            Array table = LoanTable(a.schedule, Last(a.schedule));
+            table.At(Last(a.schedule), 3) = a.lastPrincipal;
+            table.At(Last(a.schedule), 5) = std::int16_t{0};
+            return {a.amount, a.payment, a.balloon, a.amount, a.totalPayments, a.totalInterest, table};
+          });
 
-TEST_F(PlainQuestions, Mortgages) {
-  for (int i = 0; i < Cases(); ++i) {
     const HomeCosts home{Percent(2), Amount(90), Amount(90)};
-    const Debts debts{Amount(90), Amount(90), Amount(90), Amount(90)};
-    const double budget = 800 + Amount(2000), down = Amount(50000), months = Count(400), rate = Percent(9);
-    const QualificationQuestion q{budget * 40, debts, home, down, months, rate, kToday};
-    const AffordabilityQuestion a{budget, home, down, months, rate, kToday};
-    Check([&] { return FiguresOf(Solve(q)); }, "MortgageQualificationCalculator",
-          {q.annualIncome, debts.creditCard, debts.car, debts.childSupport, debts.other,
-           home.propertyTaxPercent, home.insurance, home.dues, down, months, rate});
-    Check([&] { return FiguresOf(Solve(a)); }, "HomeAffordabilityCalculator",
-          {budget, home.propertyTaxPercent, home.insurance, home.dues, down, months, rate});
-  }
-}
+    const Debts d{Amount(90), Amount(90), Amount(90), Amount(90)};
+    const AffordabilityQuestion a{800 + Amount(2000), home, Amount(50000), Count(400), Percent(9), kToday};
+    const QualificationQuestion income{a.monthlyBudget * 40, d,     home, a.downPayment, a.months,
+                                       a.annualPercent,      kToday};
+    Check("MortgageQualificationCalculator",
+          {income.annualIncome, d.creditCard, d.car, d.childSupport, d.other, home.propertyTaxPercent,
+           home.insurance, home.dues, a.downPayment, a.months, a.annualPercent},
+          [&] { return ResultsOf(Solve(income)); });
+    Check("HomeAffordabilityCalculator",
+          {a.monthlyBudget, home.propertyTaxPercent, home.insurance, home.dues, a.downPayment, a.months,
+           a.annualPercent},
+          [&] { return ResultsOf(Solve(a)); });
 
-TEST_F(PlainQuestions, Leases) {
-  for (int i = 0; i < Cases(); ++i) {
-    LeaseQuestion q{
+    LeaseQuestion l{
         15000 + Amount(20000), 300 + Amount(900), Percent(9), Amount(9000), Count(60), Count(4), kToday,
         Frequency(),           Frequency()};
-    LeaveOneOut(q.amount, q.payment, q.residual);
-    Check(
-        [&] {
-          const LeaseAnswer a = Solve(q);
-          return And({a.amount, a.payment, a.payments, a.annualPercent, static_cast<double>(a.prepaid),
-                      a.residual, a.totalPayments, a.totalInterest},
-                     a.schedule);
-        },
-        "SimpleLeaseCalculator",
-        {"", Given(q.amount), Given(q.payment), q.payments, Given(q.annualPercent), q.prepaid,
-         Given(q.residual), kToday, std::int32_t{q.paymentFrequency}, std::int32_t{q.interestFrequency}});
+    LeaveOneOut(l.amount, l.payment, l.residual);
+    Check("SimpleLeaseCalculator",
+          {"", Given(l.amount), Given(l.payment), l.payments, Given(l.annualPercent), l.prepaid,
+           Given(l.residual), kToday, std::int32_t{l.paymentFrequency}, std::int32_t{l.interestFrequency}},
+          [&] { return ResultsOf(Solve(l)); });
   }
 }
 
@@ -209,53 +187,46 @@ TEST_F(PlainQuestions, Comparisons) {
     const Outlook future{Percent(40), Percent(8), Count(400)};
     const double extra = Amount(300);
     const Date later(kToday.serial + Below(900));
-    Check(
-        [&] {
-          return FiguresOf(Compare(RefinancingQuestion{loan, next, future, kToday}));
-        },
-        "RefinancingCalculator",
-        {loan.balance, loan.payment, loan.annualPercent, next.annualPercent, next.points, next.fees,
-         next.months, future.taxPercent, future.growthPercent, future.monthsKept});
-    Check(
-        [&] {
-          return FiguresOf(Compare(PrepaymentQuestion{loan, extra, future, kToday}));
-        },
-        "PrePayCalculator",
-        {loan.balance, loan.payment, loan.annualPercent, extra, future.taxPercent, future.growthPercent,
-         future.monthsKept});
-    Check(
-        [&] {
-          return FiguresOf(Compare(BiWeeklyQuestion{loan, later, next.fees, future, kToday}));
-        },
-        "BiWeeklyComparison",
-        {loan.balance, loan.payment, loan.annualPercent, kToday, next.fees, later, future.taxPercent,
-         future.growthPercent, future.monthsKept});
-  }
-}
+    Check("RefinancingCalculator",
+          {loan.balance, loan.payment, loan.annualPercent, next.annualPercent, next.points, next.fees,
+           next.months, future.taxPercent, future.growthPercent, future.monthsKept},
+          [&] {
+            return ResultsOf(Compare(RefinancingQuestion{loan, next, future, kToday}));
+          });
+    Check("PrePayCalculator",
+          {loan.balance, loan.payment, loan.annualPercent, extra, future.taxPercent, future.growthPercent,
+           future.monthsKept},
+          [&] {
+            return ResultsOf(Compare(PrepaymentQuestion{loan, extra, future, kToday}));
+          });
+    Check("BiWeeklyComparison",
+          {loan.balance, loan.payment, loan.annualPercent, kToday, next.fees, later, future.taxPercent,
+           future.growthPercent, future.monthsKept},
+          [&] {
+            return ResultsOf(Compare(BiWeeklyQuestion{loan, later, next.fees, future, kToday}));
+          });
 
-TEST_F(PlainQuestions, Offers) {
-  for (int i = 0; i < Cases(); ++i) {
     const double price = 150000 + Amount(300000);
     OfferQuestion q{Purchase(price), Purchase(price), {Percent(40), 0, Count(400)}, kToday};
     const bool isAdjustable = i % 2 == 0;
-    std::vector<Variant> inputs{price, q.outlook.taxPercent, q.outlook.monthsKept};
+    Values inputs{price, q.outlook.taxPercent, q.outlook.monthsKept};
     for (PurchaseLoan* offer : {&q.first, &q.second}) {
-      for (const double input :
-           {offer->downPayment, offer->months, offer->annualPercent, offer->points, offer->fees})
-        inputs.emplace_back(input);
-      if (!isAdjustable) continue;
-      const auto [delay, increase, unused1, unused2, cap] = offer->changes = Changes();
-      offer->changes.everyMonths = delay;
-      offer->changes.laterIncrease = increase;
-      for (const double input : {increase, delay, cap}) inputs.emplace_back(input);
+      Numbers terms{offer->downPayment, offer->months, offer->annualPercent, offer->points, offer->fees};
+      if (isAdjustable) {
+        RateChanges& changes = offer->changes = Changes();
+        changes.everyMonths = changes.firstPayment;
+        changes.laterIncrease = changes.firstIncrease;
+        terms.insert(terms.end(), {changes.firstIncrease, changes.firstPayment, changes.cap});
+      }
+      inputs.insert(inputs.end(), terms.begin(), terms.end());
     }
-    Check(
-        [&] {
-          const auto [first, second] = Compare(q);
-          Numbers numbers = Grid(first, second, isAdjustable ? 1 : -1, true);
-          return And(And(numbers, second.schedule, isAdjustable), first.schedule, isAdjustable);
-        },
-        isAdjustable ? "ARMComparison" : "PointsAdvisor", inputs);
+    Check(isAdjustable ? "ARMComparison" : "PointsAdvisor", inputs, [&]() -> Values {
+      const auto [first, second] = Compare(q);
+      const auto difference = isAdjustable ? Difference::FirstLessSecond : Difference::SecondLessFirst;
+      const auto columns = isAdjustable ? kDetailColumnsWithRate : kDetailColumns;
+      return {ComparisonGrid(first, second, difference, true), TermTable(second, columns),
+              TermTable(first, columns)};
+    });
   }
 }
 
@@ -272,41 +243,28 @@ TEST_F(PlainQuestions, Savings) {
          .taxPercent = Percent(40),
          .startDate = kToday};
     LeaveOneOut(q.balance, q.deposit, q.annualPercent, q.endingBalance, q.periods);
-    Check(
-        [&] {
-          const SavingsAnswer a = Solve(q);
-          return AndSavings({a.balance, a.deposit, a.endingBalance, Serial(a.endDate), a.annualPercent},
-                            a.schedule);
-        },
-        "SimpleSavingsCalculator",
-        {kToday, Given(q.balance), Given(q.deposit), std::int32_t{q.frequency}, Given(q.endingBalance),
-         Given(q.periods), Given(q.annualPercent), q.taxPercent});
-    Check(
-        [&] {
-          const auto& [plan, afterTax] = Solve(r);
-          return AndSavings({plan.balance, plan.deposit, plan.endingBalance, afterTax, Serial(plan.endDate),
-                             plan.annualPercent},
-                            plan.schedule);
-        },
-        "IRACalculator",
-        {kToday, r.isTaxedOnWithdrawal ? "T" : "", Given(q.balance), Given(q.deposit), Given(q.endingBalance),
-         Given(q.periods), Given(q.annualPercent), r.taxPercent});
-  }
-}
+    Check("SimpleSavingsCalculator",
+          {kToday, Given(q.balance), Given(q.deposit), std::int32_t{q.frequency}, Given(q.endingBalance),
+           Given(q.periods), Given(q.annualPercent), q.taxPercent},
+          [&] { return ResultsOf(Solve(q)); });
+    Check("IRACalculator",
+          {kToday, r.isTaxedOnWithdrawal ? "T" : "", Given(q.balance), Given(q.deposit),
+           Given(q.endingBalance), Given(q.periods), Given(q.annualPercent), r.taxPercent},
+          [&]() -> Values {
+            const auto& [plan, afterTax] = Solve(r);
+            Values results = ResultsOf(plan);
+            Array grid(Bounds{0, 6});
+            for (int k = 0; k < 5; ++k) grid.At(k < 3 ? k + 1 : k + 2) = results[static_cast<std::size_t>(k)];
+            grid.At(4) = afterTax;
+            return {grid, results.back()};
+          });
 
-TEST_F(PlainQuestions, Spending) {
-  for (int i = 0; i < Cases(); ++i) {
-    SpendingQuestion q{Amount(90000), 500 + Amount(900), Percent(6), Count(200), {}, Frequency(), kToday};
-    LeaveOneOut(q.balance, q.withdrawal, q.annualPercent, q.periods);
-    Check(
-        [&] {
-          const SpendingAnswer a = Solve(q);
-          const double periods = a.lastsForEver ? -1 : static_cast<double>(a.schedule.size()) - 1;
-          return AndSavings({a.balance, a.withdrawal, a.annualPercent, periods}, a.schedule);
-        },
-        "SpendingCalculator",
-        {kToday, Given(q.balance), Given(q.withdrawal), Given(q.annualPercent), std::int32_t{q.frequency},
-         Given(q.periods)});
+    SpendingQuestion s{Amount(90000), 500 + Amount(900), Percent(6), Count(200), {}, Frequency(), kToday};
+    LeaveOneOut(s.balance, s.withdrawal, s.annualPercent, s.periods);
+    Check("SpendingCalculator",
+          {kToday, Given(s.balance), Given(s.withdrawal), Given(s.annualPercent), std::int32_t{s.frequency},
+           Given(s.periods)},
+          [&] { return ResultsOf(Solve(s)); });
   }
 }
 
