@@ -12,9 +12,10 @@
 #include <vector>
 
 #include "amortix2/automation/error.h"
+#include "amortix2/automation/public.h"
 #include "amortix2/automation/variant.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// The first and the last index of one dimension, both inclusive. An empty dimension has upper = lower - 1.
 struct Bounds {

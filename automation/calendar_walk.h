@@ -6,8 +6,9 @@
 #include <algorithm>
 
 #include "amortix2/automation/date.h"
+#include "amortix2/automation/public.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// One month of the calendar, which moves forward.
 class CalendarMonth {

@@ -8,8 +8,9 @@
 #include <utility>
 
 #include "amortix2/automation/error.h"
+#include "amortix2/automation/public.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// `x` itself. Raises Overflow when it is infinite or not a number.
 inline double Finite(double x) {

@@ -8,9 +8,10 @@
 #include <string>
 #include <string_view>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/automation/variant.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// The value of a variant as a double: Boolean (True is -1), Byte, Integer, Long, Double, Currency, and text
 /// that ParseNumber reads. 0 for everything else (Empty, Null, Missing, Date, other text, arrays, and a

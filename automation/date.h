@@ -10,7 +10,9 @@
 #include <cstdint>
 #include <string_view>
 
-namespace amortix2 {
+#include "amortix2/automation/public.h"
+
+namespace AMORTIX2_PUBLIC amortix2 {
 
 struct Date {
   std::int32_t serial = 0;  ///< days since 30 December 1899, from kFirstDay to kLastDay

@@ -8,7 +8,9 @@
 #include <exception>
 #include <string_view>
 
-namespace amortix2 {
+#include "amortix2/automation/public.h"
+
+namespace AMORTIX2_PUBLIC amortix2 {
 
 enum class ErrorNumber : std::int32_t {
   InvalidProcedureCall = 5,

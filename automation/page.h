@@ -6,7 +6,9 @@
 #include <cstdint>
 #include <span>
 
-namespace amortix2 {
+#include "amortix2/automation/public.h"
+
+namespace AMORTIX2_PUBLIC amortix2 {
 
 class PageResponse {
  public:

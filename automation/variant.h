@@ -14,8 +14,9 @@
 
 #include "amortix2/automation/checked.h"
 #include "amortix2/automation/date.h"
+#include "amortix2/automation/public.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 class Array;
 

@@ -7,7 +7,9 @@
 #include <span>
 #include <string>
 
-namespace amortix2 {
+#include "amortix2/automation/public.h"
+
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// Writes `bytes` as the file `path`, in place of a file that is there. They go to a new file in the same
 /// folder, which takes the name, and the old file's permissions, once it is complete; after an error the old

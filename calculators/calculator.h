@@ -12,10 +12,11 @@
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
 #include "amortix2/automation/date.h"
+#include "amortix2/automation/public.h"
 #include "amortix2/automation/variant.h"
 #include "amortix2/engine/records.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 class Calculator {
  public:

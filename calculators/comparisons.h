@@ -9,10 +9,11 @@
 //
 // answers with current.months 180 and proposed.months 151.
 
+#include "amortix2/automation/public.h"
 #include "amortix2/calculators/loans.h"
 #include "amortix2/calculators/question.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// The loan that the borrower has; its remaining term is found.
 struct CurrentLoan {

@@ -5,9 +5,10 @@
 
 #include <vector>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/calculators/comparisons.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 struct ConsolidationQuestion {
   std::vector<CurrentLoan> current = {};

@@ -6,9 +6,10 @@
 #include <cstdint>
 #include <optional>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/calculators/question.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// For example 20000 over 36 payments of 400 at 6 %, nothing in advance: a residual of 8199.16.
 struct LeaseQuestion {

@@ -7,9 +7,10 @@
 
 #include <optional>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/calculators/question.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 // ---- Amount, payment, term, rate
 

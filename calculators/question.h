@@ -24,9 +24,10 @@
 
 #include "amortix2/automation/date.h"
 #include "amortix2/automation/error.h"
+#include "amortix2/automation/public.h"
 #include "amortix2/engine/records.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// 1 January 2000: the start of a question that names none. The start decides the lines' dates, and no
 /// amount but the interest of days that make no whole period.

@@ -4,9 +4,10 @@
 // question.h. Rent and charges fall due at the end of each month, as a loan's payments do, and what either
 // way leaves over is invested: that is what discounting to today's money stands for.
 
+#include "amortix2/automation/public.h"
 #include "amortix2/calculators/comparisons.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 struct Tenancy {
   double rent = 0;              ///< a month of the first year

@@ -3,7 +3,9 @@
 // The value axis that bar charts and line charts share: from the extremes of the data to round numbers at the
 // ends of ten equal grid intervals, with zero on the axis. Pure arithmetic; knows no chart, table or pixel.
 
-namespace amortix2 {
+#include "amortix2/automation/public.h"
+
+namespace AMORTIX2_PUBLIC amortix2 {
 
 inline constexpr int kGridIntervals = 10;
 

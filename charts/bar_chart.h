@@ -5,10 +5,11 @@
 // them. Texts of the page (titles, labels, legends, URLs) go out as they are, markup included: a page that
 // shows texts of strangers escapes them first. One object serves one thread at a time.
 
+#include "amortix2/automation/public.h"
 #include "amortix2/automation/variant.h"
 #include "amortix2/charts/bar_settings.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 class BarChart {
  public:

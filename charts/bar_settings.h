@@ -6,9 +6,10 @@
 #include <cstdint>
 #include <string>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/charts/graph_size.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// Which of the eleven values of the axis are labelled. The ends and zero always are.
 enum class ValueLabels : std::int16_t {

@@ -9,9 +9,10 @@
 #include <vector>
 
 #include "amortix2/automation/array.h"
+#include "amortix2/automation/public.h"
 #include "amortix2/charts/axis_range.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// Rows 0 to `rows` of series 1 to `series`. Row 0 is never drawn but counts for the axis.
 class ChartTable {

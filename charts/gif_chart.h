@@ -8,10 +8,11 @@
 #include <string>
 
 #include "amortix2/automation/page.h"
+#include "amortix2/automation/public.h"
 #include "amortix2/automation/variant.h"
 #include "amortix2/charts/graph_size.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 class GifChart {
  public:

@@ -8,9 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/charts/raster.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// The start of a GIF file: signature and logical screen.
 struct GifHeader {

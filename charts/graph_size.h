@@ -4,9 +4,10 @@
 
 #include <cstdint>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/automation/variant.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 struct GraphSize {
   std::int16_t height = 300;  ///< pixels

@@ -3,13 +3,14 @@
 // Line charts: a table of numbers drawn as lines over a grid into a raster. Draws no text and no legend, and
 // knows neither pages nor files.
 
+#include "amortix2/automation/public.h"
 #include "amortix2/automation/variant.h"
 #include "amortix2/charts/axis_range.h"
 #include "amortix2/charts/chart_table.h"
 #include "amortix2/charts/graph_size.h"
 #include "amortix2/charts/raster.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// Draws a chart.
 ///

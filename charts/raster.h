@@ -8,9 +8,10 @@
 #include <span>
 #include <vector>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/automation/variant.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 class Raster {
  public:

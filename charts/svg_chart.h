@@ -6,10 +6,11 @@
 // change. Every text is escaped: none of a page's texts can become markup. One object serves one thread at a
 // time.
 
+#include "amortix2/automation/public.h"
 #include "amortix2/automation/variant.h"
 #include "amortix2/charts/svg_settings.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 class SvgChart {
  public:

@@ -8,10 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/charts/bar_settings.h"
 #include "amortix2/charts/graph_size.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 enum class LegendPlace : std::uint8_t { Below, Above, None };
 enum class PointLabelMode : std::uint8_t { Off, On, Ends };  ///< Ends: of the first and the last row

@@ -5,9 +5,10 @@
 #include <algorithm>
 
 #include "amortix2/automation/calendar_walk.h"
+#include "amortix2/automation/public.h"
 #include "amortix2/engine/frequency.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// The dates 1, 2, 3, ... steps after a start, as StepDate gives them, without its divisions for steps of
 /// days and months.

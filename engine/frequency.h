@@ -7,9 +7,10 @@
 #include <cstdint>
 
 #include "amortix2/automation/date.h"
+#include "amortix2/automation/public.h"
 #include "amortix2/engine/records.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// Periods a year: 365, 52, 26, 12, 6, 4, 2 for dailymode to semiannualMode, 1 for everything else (also for
 /// exactDaysMode and continuousMode, although AdvanceDate steps those by a month).

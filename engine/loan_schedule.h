@@ -16,9 +16,10 @@
 #include <cstdint>
 #include <optional>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/engine/records.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// Fills `schedule`, the totals and the present values of a loan whose payment, amount and rate are known,
 /// and finds a `period` that holds UNKNOWNLOANVALUE (FindTerm), adding what is left after its last line to

@@ -3,10 +3,11 @@
 // Finds the quantity of a loan that holds UNKNOWNLOANVALUE, then schedules the loan. Amounts, payments and
 // residuals have a closed form; the rate is searched for; the term is found while the schedule is built.
 
+#include "amortix2/automation/public.h"
 #include "amortix2/engine/payment_factors.h"
 #include "amortix2/engine/records.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// Solves `loan` in place: first a marked payment, amount or residual, rounded to cents; then a marked rate;
 /// then writes the household's monthly propertyTaxCharge; then, when asked to, builds the schedule and its

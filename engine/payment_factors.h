@@ -6,9 +6,10 @@
 
 #include <cstdint>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/engine/records.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// Payments at the end of each month: ((g^n - 1) / (g - 1)) / g^n; n when g is 1.
 double AnnuityFactor(double growth, std::int32_t payments);

@@ -9,8 +9,9 @@
 
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/date.h"
+#include "amortix2/automation/public.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 enum specialConstants : std::int32_t {
   /// Marks the one quantity of a record that the engine is to find. A real value of exactly -12345 cannot be

@@ -7,8 +7,9 @@
 #include <cstdint>
 
 #include "amortix2/automation/checked.h"
+#include "amortix2/automation/public.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 namespace rounding {
 

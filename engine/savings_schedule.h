@@ -14,11 +14,12 @@
 #include <cstdint>
 #include <vector>
 
+#include "amortix2/automation/public.h"
 #include "amortix2/engine/date_steps.h"
 #include "amortix2/engine/frequency.h"
 #include "amortix2/engine/records.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// Fills `schedule`, the totals and `endingBalance` of a plan with nothing unknown but perhaps its end. With
 /// the end unknown (`endDate` before `startDate`) `endDate` becomes that of the line where the goal,

@@ -5,9 +5,10 @@
 // schedule is built (savings_schedule.h).
 
 #include "amortix2/automation/array.h"
+#include "amortix2/automation/public.h"
 #include "amortix2/engine/records.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 /// Solves one marked quantity of `save` in place and builds its schedule. Let n lines make of an opening
 /// balance of 1 the factor f, and of deposits of 1 the factor a: with growth G a line f = G^n and a = (G^n -

@@ -4,9 +4,10 @@
 // and the split of an amount over asset classes. Keeps nothing between calls.
 
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/public.h"
 #include "amortix2/automation/variant.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 class InvestmentStrategy {
  public:

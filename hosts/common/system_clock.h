@@ -4,8 +4,9 @@
 // below them asks the machine for a date.
 
 #include "amortix2/automation/date.h"
+#include "amortix2/automation/public.h"
 
-namespace amortix2 {
+namespace AMORTIX2_PUBLIC amortix2 {
 
 class SystemClock final : public Clock {
  public:
