@@ -17,9 +17,11 @@ class AdjustableRate {
 
   double Rate() const { return rate_; }  ///< annual percent
 
+  bool MayChange() const { return hasFirst_ || hasLater_; }
+
   /// Moves on to payment number k (called for 1, 2, 3, ...). True when the rate differs from the one before.
   bool StepTo(int k) {
-    if (!hasFirst_ && !hasLater_) return false;
+    if (!MayChange()) return false;
     const double before = rate_;
     bool isStep = false;
     if (hasFirst_ && k == loan_.firstRatePeriod) {

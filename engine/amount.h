@@ -19,6 +19,9 @@
 
 namespace amortix2 {
 
+/// 1.5 * 2^52: a sum with it has no room for a fraction.
+inline constexpr double kNoFraction = 6755399441055744.0;
+
 struct Amount {
   double value = 0;
   double hundredfold = 0;
@@ -39,8 +42,6 @@ constexpr Amount operator*(Amount a, double factor) { return {a.value * factor, 
 /// To cents, halves up: the value is RoundToCents(exact.value) to the bit. Raises Overflow for an infinity or
 /// NaN.
 inline Amount RoundToCents(Amount exact) {
-  // 1.5 * 2^52: a sum with it has no room for a fraction.
-  constexpr double kNoFraction = 6755399441055744.0;
   constexpr double kMostCents = 2251799813685248.0;  // 2^51
   const double cents = exact.hundredfold + kNoFraction - kNoFraction;
   if (std::abs(exact.value * 100 - cents) < 0.5 && std::abs(cents) <= kMostCents) [[likely]] {

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "amortix2/automation/conversion.h"
 #include "amortix2/automation/error.h"
@@ -15,6 +16,7 @@
 #include "amortix2/engine/frequency.h"
 #include "amortix2/engine/payment_factors.h"
 #include "amortix2/engine/schedule_parts.h"
+#include "amortix2/engine/whole_cents.h"
 
 namespace amortix2 {
 namespace {
@@ -35,90 +37,130 @@ struct Layout {
   }
 };
 
-/// Writes the lines. What changes from line to line stands in locals, which stay in registers; members would
-/// go through memory beside each line.
+/// Writes the lines. The loops work on locals, which stay in registers; members would go through memory
+/// beside each line.
 class MonthlyLines {
  public:
   MonthlyLines(const tLoanDesc& loan, const Layout& layout, bool settleRemainder)
-      : loan_(loan), layout_(layout), settleRemainder_(settleRemainder) {}
+      : loan_(loan),
+        layout_(layout),
+        settleRemainder_(settleRemainder),
+        dates_(loan.startDate, StepOf(monthlyMode), std::max(layout.payments, layout.regular)),
+        rate_(loan),
+        growth_(MonthlyGrowth(loan.intRate)),
+        running_{Amount(loan.startingBalance), Amount(loan.payment), loan.taxRate / 100} {}
 
   /// Raises what BuildLoanSchedule raises.
-  std::vector<tSchedule> Write() {
-    DateSteps dates(loan_.startDate, StepOf(monthlyMode), std::max(layout_.payments, layout_.regular));
+  std::vector<tSchedule> Write() && {
     const bool isLease = loan_.typ == loanAsLease;
-    std::vector<tSchedule> lines(static_cast<std::size_t>(layout_.last) + (isLease ? 2 : 1));
-    tSchedule* line = lines.data();
-    *line++ = OpeningLine(loan_);
-    RunningLoan running{Amount(loan_.startingBalance), Amount(loan_.payment), loan_.taxRate / 100};
-    if (isLease) WritePrepaidLine(*line++, running);
-    const double growth = WriteRegularLines(line, running, dates);
-    if (settleRemainder_ && layout_.regular > 0) SettleRemainder(line[layout_.regular - 1], running);
-    if (isLease) CloseLease(lines.back(), running, growth);
-    return lines;
+    lines_.reserve(static_cast<std::size_t>(layout_.last) + (isLease ? 2 : 1));
+    lines_.push_back(OpeningLine(loan_));
+    if (isLease) WritePrepaidLine();
+    WriteRegularLines();
+    if (settleRemainder_ && layout_.regular > 0) SettleRemainder();
+    if (isLease) CloseLease();
+    return std::move(lines_);
   }
 
  private:
-  void WritePrepaidLine(tSchedule& line, RunningLoan& running) const {
+  void WritePrepaidLine() {
+    tSchedule& line = lines_.emplace_back();
     line.lineDate = loan_.startDate;
-    line.startingBalance = running.balance.value;
-    line.payment = WithoutMinusZero(running.payment.value * loan_.numberPrepays);
-    running.balance = running.balance - Amount(line.payment);
-    line.endingBalance = running.balance.value;
+    line.startingBalance = running_.balance.value;
+    line.payment = WithoutMinusZero(running_.payment.value * loan_.numberPrepays);
+    running_.balance = running_.balance - Amount(line.payment);
+    line.endingBalance = running_.balance.value;
   }
 
-  /// Returns the growth of the last line.
-  [[gnu::noinline]] double WriteRegularLines(tSchedule* line, RunningLoan& runningLoan,
-                                             DateSteps dates) const {
-    RunningLoan running = runningLoan;
-    AdjustableRate rate(loan_);
-    double growth = MonthlyGrowth(loan_.intRate);
-    double annualRate = (growth - 1) * 1200;
+  void WriteRegularLines() {
+    constexpr int kPlainLines = 16;  // before whole cents are tried again
     const int count = layout_.regular;
-    const int firstOfCard = loan_.typ == creditCard ? 2 : count + 1;
-    for (int k = 1; k <= count; ++k, ++line) {
-      if (rate.StepTo(k)) {
-        growth = MonthlyGrowth(rate.Rate());
-        annualRate = (growth - 1) * 1200;
-        const double factor = AnnuityFactor(growth, count - k + 1);
+    const bool isLevel = loan_.typ != creditCard && !rate_.MayChange();
+    for (int k = 1; k <= count;) {
+      if (isLevel) k += WriteWholeCents(count + 1 - k);
+      const int last = isLevel ? std::min(count, k + kPlainLines - 1) : count;
+      WritePlainLines(k, last);
+      k = last + 1;
+    }
+  }
+
+  /// Writes lines as long as they are certain, at most `most`, and returns how many. Each is written once, as
+  /// a whole.
+  [[gnu::noinline, gnu::flatten]] int WriteWholeCents(int most) {
+    WholeCents cents(running_.balance.value, -running_.payment.value);
+    DateSteps dates = dates_;
+    const double growth = growth_;
+    const double annualRate = (growth - 1) * 1200;
+    const double payment = running_.payment.value;
+    const double taxFraction = running_.taxFraction;
+    int written = 0;
+    for (; written < most && cents.Next(growth); ++written) {
+      lines_.push_back({.lineDate = dates.Next(),
+                        .startingBalance = cents.Before(),
+                        .intRate = annualRate,
+                        .payment = payment,
+                        .intCharged = cents.Interest(),
+                        .taxCredited = WithoutMinusZero(taxFraction * cents.Interest()),
+                        .endingBalance = cents.Balance()});
+    }
+    dates_ = dates;
+    running_.balance = Amount(cents.Balance());
+    return written;
+  }
+
+  /// Writes the lines of the payments `first` to `last`.
+  [[gnu::noinline, gnu::flatten]] void WritePlainLines(int first, int last) {
+    RunningLoan running = running_;
+    const int firstOfCard = loan_.typ == creditCard ? 2 : last + 1;
+    for (int k = first; k <= last; ++k) {
+      if (rate_.StepTo(k)) {
+        growth_ = MonthlyGrowth(rate_.Rate());
+        const double factor = AnnuityFactor(growth_, layout_.regular - k + 1);
         running.payment = Amount(RoundToCents(Divide(running.balance.value, factor)));
       }
-      line->lineDate = dates.Next();
-      line->intRate = annualRate;
+      tSchedule& line = lines_.emplace_back();
+      line.lineDate = dates_.Next();
+      line.intRate = (growth_ - 1) * 1200;
       if (k >= firstOfCard) {
         // The card's payments fall in mid-month: half of this one has been owed all month.
-        const Amount interest = RoundToCents((running.balance + running.payment * 0.5) * (growth - 1));
-        running.Pay(*line, running.balance + interest, interest);
+        const Amount interest = RoundToCents((running.balance + running.payment * 0.5) * (growth_ - 1));
+        running.Pay(line, running.balance + interest, interest);
       } else {
-        const Amount grown = RoundToCents(running.balance * growth);
-        running.Pay(*line, grown, RoundToCents(grown - running.balance));
+        const Amount grown = RoundToCents(running.balance * growth_);
+        running.Pay(line, grown, RoundToCents(grown - running.balance));
       }
     }
-    runningLoan = running;
-    return growth;
+    running_ = running;
   }
 
   /// What a term that was searched for leaves is paid with its last payment.
-  static void SettleRemainder(tSchedule& last, RunningLoan& running) {
-    last.payment += running.balance.value;
-    running.balance = {};
-    last.endingBalance = 0;
+  void SettleRemainder() {
+    lines_.back().payment += running_.balance.value;
+    running_.balance = {};
+    lines_.back().endingBalance = 0;
   }
 
   /// A lease's balance grows on for each month that was paid in advance; then it is paid at once.
-  void CloseLease(tSchedule& line, const RunningLoan& running, double growth) const {
+  void CloseLease() {
+    tSchedule& line = lines_.emplace_back();
     line.lineDate = AdvanceDate(loan_.startDate, monthlyMode, layout_.payments);
-    line.startingBalance = running.balance.value;
-    line.intRate = (growth - 1) * 1200;
-    Amount grown = running.balance;
-    for (int month = 0; month < loan_.numberPrepays; ++month) grown = RoundToCents(grown * growth);
-    line.intCharged = RoundToCents(grown - running.balance).value;
-    line.taxCredited = WithoutMinusZero(running.taxFraction * line.intCharged);
+    line.startingBalance = running_.balance.value;
+    line.intRate = (growth_ - 1) * 1200;
+    Amount grown = running_.balance;
+    for (int month = 0; month < loan_.numberPrepays; ++month) grown = RoundToCents(grown * growth_);
+    line.intCharged = RoundToCents(grown - running_.balance).value;
+    line.taxCredited = WithoutMinusZero(running_.taxFraction * line.intCharged);
     line.payment = grown.value;
   }
 
   const tLoanDesc& loan_;
   const Layout& layout_;
   bool settleRemainder_;
+  DateSteps dates_;
+  AdjustableRate rate_;
+  double growth_;
+  RunningLoan running_;
+  std::vector<tSchedule> lines_;
 };
 
 /// Sums the lines up to the sale into the loan's totals and present values.

@@ -54,6 +54,9 @@ class SavingsGrowth {
     return RoundToCents(balance * (annualRate_ / 365 / 100) * days);
   }
 
+  /// What every line's balance is multiplied by; 0 where the lines differ.
+  double LineFactor() const { return mode_ == continuousMode || mode_ == exactDaysMode ? 0 : growth_; }
+
   double AfterTaxRate() const { return afterTaxRate_; }  ///< annual percent
 
  private:

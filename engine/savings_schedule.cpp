@@ -10,6 +10,7 @@
 #include "amortix2/engine/rounding.h"
 #include "amortix2/engine/running_savings.h"
 #include "amortix2/engine/savings_goal.h"
+#include "amortix2/engine/whole_cents.h"
 
 namespace amortix2 {
 namespace {
@@ -28,8 +29,9 @@ tSchedule OpeningLine(const tSavingsDesc& save) {
 class SavingsSchedule {
  public:
   SavingsSchedule(const tSavingsDesc& save, WholePeriods periods, std::optional<double> goal)
-      : save_(save), growth_(save, save.intRate), running_(save), lines_(LineCount(periods)) {
-    lines_.front() = OpeningLine(save);
+      : save_(save), growth_(save, save.intRate), running_(save) {
+    lines_.reserve(LineCount(periods));
+    lines_.push_back(OpeningLine(save));
     WriteRegularLines(periods.periods);
     if (goal) StopAtGoal(*goal);
     if (periods.days != 0) WriteLeftoverLine(periods.days);
@@ -60,26 +62,47 @@ class SavingsSchedule {
     return static_cast<std::size_t>(ToInteger(periods.periods)) + 1 + (periods.days != 0 ? 1 : 0);
   }
 
-  /// On locals, which stay in registers; members would go through memory beside each line.
-  [[gnu::noinline]] void WriteRegularLines(std::int32_t count) {
+  void WriteRegularLines(std::int32_t count) {
+    constexpr std::int32_t kPlainLines = 16;  // before whole cents are tried again
     DateSteps dates = SavingsDates(save_, count);
-    RunningSavings running = running_;
-    const double rate = growth_.AfterTaxRate();
-    Date previous = save_.startDate;
-    tSchedule* line = lines_.data();
     for (std::int32_t i = 1; i <= count; ++i) {
-      const Amount before = running.balance;
+      if (i % kPlainLines == 1) i += WriteWholeCents(count + 1 - i, dates);
+      if (i > count) break;
+      const Amount before = running_.balance;
       const Date date = dates.Next();
-      running.NextLine(growth_, date.serial - previous.serial);
-      ++line;
-      line->lineDate = previous = date;
-      line->startingBalance = before.value;
-      line->intRate = rate;
-      line->payment = running.deposit.value;
-      line->intCredited = RoundToCents(running.grown - before).value;
-      line->endingBalance = running.balance.value;
+      running_.NextLine(growth_, date.serial - lines_.back().lineDate.serial);
+      tSchedule& line = lines_.emplace_back();
+      line.lineDate = date;
+      line.startingBalance = before.value;
+      line.intRate = growth_.AfterTaxRate();
+      line.payment = running_.deposit.value;
+      line.intCredited = RoundToCents(running_.grown - before).value;
+      line.endingBalance = running_.balance.value;
     }
-    running_ = running;
+  }
+
+  /// Writes lines as long as they are certain, at most `most`, and returns how many. What changes stands in
+  /// locals, which stay in registers, and each line is written once, as a whole.
+  [[gnu::noinline, gnu::flatten]] int WriteWholeCents(int most, DateSteps& dateSteps) {
+    const double factor = growth_.LineFactor();
+    if (factor == 0) return 0;
+    WholeCents cents(running_.balance.value, running_.deposit.value);
+    DateSteps dates = dateSteps;
+    std::vector<tSchedule>& lines = lines_;
+    const double rate = growth_.AfterTaxRate();
+    const double deposit = running_.deposit.value;
+    int written = 0;
+    for (; written < most && cents.Next(factor); ++written) {
+      lines.push_back({.lineDate = dates.Next(),
+                       .startingBalance = cents.Before(),
+                       .intRate = rate,
+                       .payment = deposit,
+                       .intCredited = cents.Interest(),
+                       .endingBalance = cents.Balance()});
+    }
+    dateSteps = dates;
+    running_.balance = Amount(cents.Balance());
+    return written;
   }
 
   /// A last line that interest and deposit carry across the goal ends on it.
@@ -97,9 +120,9 @@ class SavingsSchedule {
   }
 
   void WriteLeftoverLine(std::int32_t days) {
-    const tSchedule& previous = lines_[lines_.size() - 2];
-    tSchedule& line = lines_.back();
-    line.lineDate = AddDays(previous.lineDate, days);
+    const Date date = AddDays(lines_.back().lineDate, days);
+    tSchedule& line = lines_.emplace_back();
+    line.lineDate = date;
     const Amount interest = growth_.OfDays(running_.balance, days);
     line.startingBalance = running_.balance.value;
     line.intRate = save_.intRate;
