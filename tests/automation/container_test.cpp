@@ -1,10 +1,12 @@
+#include <gtest/gtest.h>
+
 #include <array>
 #include <functional>
 #include <vector>
 
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/variant.h"
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

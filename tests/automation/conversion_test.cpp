@@ -1,11 +1,13 @@
 #include "amortix2/automation/conversion.h"
 
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <limits>
 #include <vector>
 
 #include "amortix2/automation/array.h"
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

@@ -1,10 +1,12 @@
 #include "amortix2/automation/date.h"
 
+#include <gtest/gtest.h>
+
 #include <array>
 
 #include "amortix2/automation/calendar_walk.h"
 #include "amortix2/automation/conversion.h"
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

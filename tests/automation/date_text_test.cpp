@@ -1,7 +1,9 @@
+#include <gtest/gtest.h>
+
 #include <vector>
 
 #include "amortix2/automation/conversion.h"
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

@@ -1,8 +1,10 @@
 #include "amortix2/automation/number_format.h"
 
+#include <gtest/gtest.h>
+
 #include <vector>
 
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

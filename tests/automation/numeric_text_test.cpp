@@ -1,8 +1,10 @@
+#include <gtest/gtest.h>
+
 #include <random>
 #include <vector>
 
 #include "amortix2/automation/conversion.h"
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

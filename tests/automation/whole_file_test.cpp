@@ -11,7 +11,7 @@
 #include <iterator>
 #include <vector>
 
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "amortix2/charts/tag_balance.h"
-#include "automation/raises.h"
 #include "charts/bar_page.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

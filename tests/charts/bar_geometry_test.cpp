@@ -85,6 +85,18 @@ TEST(BarGeometry, BarHeights) {
   EXPECT_EQ(large.BarHeight(-180), -150);
 }
 
+TEST(BarGeometry, HorizontalBars) {
+  // 300 pixels by bars and gaps, between 3 and 80; figures worked out by hand.
+  EXPECT_EQ(HorizontalBarThickness(Settings(), 1, 2), 75);  // 2 bars, 2 gaps
+  EXPECT_EQ(HorizontalBarThickness(Settings(), 12, 3), 6);  // 49 spaces of 6.1
+  EXPECT_EQ(HorizontalBarThickness(Settings(), 100, 2), 3);
+  EXPECT_EQ(HorizontalBarThickness(Settings(), 1, 1), 80);
+  const AxisRange axis{50, 0, 5};
+  EXPECT_EQ(HorizontalBarLength(40, axis, 380), 304);
+  EXPECT_EQ(HorizontalBarLength(0.07, axis, 380), 1);  // 0.53
+  EXPECT_EQ(HorizontalBarLength(50.1, axis, 380), 380);
+}
+
 // Cells fill a row of `width` pixels, have room for their labels, and those inside stand at `placeOf` them.
 template <class WidthOf, class PlaceOf>
 void CheckLabelRow(const std::vector<LabelCell>& cells, Pixels width, WidthOf widthOf, PlaceOf placeOf) {

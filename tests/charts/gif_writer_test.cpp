@@ -8,8 +8,8 @@
 #include "amortix2/automation/array.h"
 #include "amortix2/charts/gif_chart.h"
 #include "amortix2/charts/gif_lzw.h"
-#include "automation/raises.h"
 #include "charts/sample_rasters.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {
@@ -137,7 +137,9 @@ TEST(GifWriter, ReadsRastersAndPalettes) {
     EXPECT_EQ(ErrorOf([&] { ReadPalette(row.table); }), row.error) << "row " << &row - rows;
   }
   // With both bad the raster's error is the answer.
-  EXPECT_EQ(ErrorOf([] { GifChart().writeGifFile("x", 5, Filled({1, 2}, {0, 2}, 1)); }),
+  EXPECT_EQ(ErrorOf([] {
+              GifChart().writeGifFile("x", 5, Filled({1, 2}, {0, 2}, 1));
+            }),
             ErrorNumber::TypeMismatch);
   EXPECT_EQ(ErrorOf([] { ReadRaster(Filled({0, -1}, {0, 2}, 1)); }), ErrorNumber::SubscriptOutOfRange);
   EXPECT_EQ(ErrorOf([] { ReadRaster(Filled({0, 32767}, {0, 0}, 1)); }), ErrorNumber::Overflow);

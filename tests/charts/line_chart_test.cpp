@@ -15,7 +15,7 @@
 #include "amortix2/charts/gif_chart.h"
 #include "amortix2/charts/gif_writer.h"
 #include "amortix2/charts/thick_line.h"
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

@@ -1,11 +1,12 @@
 #include "amortix2/charts/read_through.h"
 
+#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
 
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

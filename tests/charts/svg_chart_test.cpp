@@ -12,9 +12,9 @@
 #include "amortix2/charts/gif_chart.h"
 #include "amortix2/charts/svg_scale.h"
 #include "amortix2/charts/text_width.h"
-#include "automation/raises.h"
 #include "charts/bar_page.h"
 #include "charts/svg_page.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

@@ -13,7 +13,7 @@
 #include "amortix2/component/answer.h"
 #include "amortix2/engine/frequency.h"
 #include "component/described_request.h"
-#include "sweep.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

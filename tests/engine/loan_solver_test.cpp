@@ -6,7 +6,7 @@
 #include <random>
 
 #include "amortix2/engine/rounding.h"
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

@@ -17,7 +17,7 @@
 #include "amortix2/engine/payment_factors.h"
 #include "amortix2/engine/running_savings.h"
 #include "amortix2/engine/savings_schedule.h"
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

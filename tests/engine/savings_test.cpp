@@ -5,9 +5,8 @@
 #include "amortix2/engine/savings_rate.h"
 #include "amortix2/engine/savings_schedule.h"
 #include "amortix2/engine/savings_solver.h"
-#include "automation/raises.h"
 #include "engine/random_savings.h"
-#include "sweep.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {

@@ -14,6 +14,7 @@
 #include "amortix2/json/request_error.h"
 #include "amortix2/json/variant_reader.h"
 #include "json/random_values.h"
+#include "support.h"
 
 namespace amortix2::json {
 namespace {
@@ -106,20 +107,18 @@ TEST(Json, DepthIsBounded) {
 }
 
 TEST(Json, RequestsGetTheirReplies) {
-  const FixedClock clock(MakeDate(2001, 1, 31));
   const auto rows = Rows("replies.txt");
   ASSERT_GE(rows.size(), 40u);
   for (const auto& row : rows) {
-    EXPECT_EQ(Answer(row[0], {}, clock), row[1]) << row[0];
-    EXPECT_EQ(Answer(row[0], {Form::WithTypes}, clock), row.back()) << row[0];
+    EXPECT_EQ(Answer(row[0], {}, kClock), row[1]) << row[0];
+    EXPECT_EQ(Answer(row[0], {Form::WithTypes}, kClock), row.back()) << row[0];
   }
 }
 
 TEST(Json, WhatAnAmortizationReturnsCanBeGivenAgain) {
-  const FixedClock clock(MakeDate(2001, 1, 31));
   const auto solved = [&](const std::string& loans) {
     const std::string reply = Answer(
-        R"({"call":"Calculator.Amortix","args":{"AmortixType":4,"LoanArray":)" + loans + "}}", {}, clock);
+        R"({"call":"Calculator.Amortix","args":{"AmortixType":4,"LoanArray":)" + loans + "}}", {}, kClock);
     return ParseTree(reply).tree->at("results").at("LoanArray").dump();
   };
   const std::string loans =

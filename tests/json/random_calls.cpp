@@ -21,7 +21,7 @@
 #include "amortix2/component/invocation.h"
 #include "amortix2/json/typed_value.h"
 #include "json/random_values.h"
-#include "sweep.h"
+#include "support.h"
 
 namespace amortix2::testing {
 namespace {
@@ -44,7 +44,7 @@ class RandomCalls {
     random_ = RandomValues(number);
     const auto classes = Classes();
     const ClassInfo& type = *classes[static_cast<std::size_t>(random_.Pick(std::ssize(classes)))];
-    Object object(type, clock_);
+    Object object(type, kClock);
     // Some calls meet an object that others have changed.
     for (std::int64_t calls = random_.Pick(4) == 0 ? 3 : 1; calls > 0; --calls) {
       const MemberInfo& member =
@@ -159,7 +159,6 @@ class RandomCalls {
   }
 
   RandomValues random_{0};
-  FixedClock clock_{Date{36922}};
   std::shared_ptr<ScriptingContext> page_ = std::make_shared<SilentPage>();
   std::map<ErrorNumber, long> outcomes_;
   long faults_ = 0;

@@ -9,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include "amortix2/json/reply.h"
+#include "support.h"
 
 namespace amortix2::json {
 namespace {
@@ -50,7 +51,6 @@ bool Agree(const Tree& actual, const Tree& expected) {
 class Rows : public testing::TestWithParam<const char*> {};
 
 TEST_P(Rows, HaveTheirAnswers) {
-  const FixedClock clock(MakeDate(2001, 1, 31));
   std::ifstream file(AMORTIX2_ROWS + std::string(GetParam()) + ".txt");
   int rows = 0;
   for (std::string line; std::getline(file, line);) {
@@ -59,7 +59,7 @@ TEST_P(Rows, HaveTheirAnswers) {
     ++rows;
     const std::string request = R"({"call":"Calculator.)" + line.substr(0, arguments) + R"(","args":)" +
                                 line.substr(arguments + 1, results - arguments - 1) + "}";
-    const Tree reply = Tree::parse(Answer(request, {}, clock));
+    const Tree reply = Tree::parse(Answer(request, {}, kClock));
     Tree actual = Summary(reply.value("results", Tree::object()));
     if (reply.contains("error")) actual["error"] = reply["error"]["name"];
     EXPECT_TRUE(Agree(actual, Tree::parse(line.substr(results + 3)))) << line << "\nis " << actual;

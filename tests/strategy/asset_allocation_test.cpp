@@ -9,7 +9,7 @@
 #include "amortix2/automation/array.h"
 #include "amortix2/strategy/ansi_code.h"
 #include "amortix2/strategy/investment_strategy.h"
-#include "automation/raises.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {
