@@ -46,6 +46,7 @@ class TerminalWriter {
       out_.append("    ").append(item.term);
       out_.append(item.title.empty() ? "" : "  ").append(item.title).append("\n");
       for (const std::string& sentence : item.sentences) Wrap(sentence, 8);
+      for (const std::string& point : item.points) Wrap(point, 10);
     }
   }
   void operator()(const Grid& grid) {
@@ -143,6 +144,7 @@ class MarkdownWriter {
       if (!item.title.empty()) out_.append(" **").append(Plain(item.title)).append("**");
       const std::string text = Joined(item.sentences);
       out_ += Line(text.empty() ? text : ": " + Plain(text));
+      for (const std::string& point : item.points) out_ += "  - " + Line(Plain(point));
     }
   }
   void operator()(const Grid& grid) {
@@ -195,6 +197,7 @@ class RoffWriter {
       out_ += ".TP\n\\fB" + RoffLine(item.term) + "\\fR";
       out_ += item.title.empty() ? "\n" : "  " + RoffLine(item.title) + "\n";
       for (const std::string& sentence : item.sentences) out_ += RoffLine(sentence) + "\n";
+      for (const std::string& point : item.points) out_ += ".br\n" + RoffLine(point) + "\n";
     }
   }
   void operator()(const Grid& grid) {

@@ -25,6 +25,7 @@ struct Item {
   std::string term;
   std::string title;
   std::vector<std::string> sentences;
+  std::vector<std::string> points{};  ///< each on a line of its own
 };
 struct Items {
   std::vector<Item> items;

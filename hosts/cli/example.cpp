@@ -54,12 +54,8 @@ class ExampleCall {
     return error_ ? std::vector<Note>{} : NotesOn(In(), Out(), ExampleClock().Today());
   }
 
-  std::string ErrorText() const {
-    if (!error_) return {};
-    const auto fault = FaultOf(In(), *error_);
-    return std::to_string(static_cast<int>(*error_)) + " " + std::string(ErrorName(*error_)) + ": " +
-           (fault ? fault->Text() : std::string(ErrorDescription(*error_)));
-  }
+  const std::optional<ErrorNumber>& Error() const { return error_; }
+  std::optional<Note> Fault() const { return FaultOf(In(), *error_); }
 
  private:
   Invocation call_;
@@ -67,7 +63,10 @@ class ExampleCall {
   std::optional<ErrorNumber> error_;
 };
 
-constexpr std::size_t kLongestTyped = 200;
+bool IsLong(const ParameterInfo& parameter) {
+  constexpr std::size_t kLongestTyped = 200;
+  return parameter.example.size() > kLongestTyped;
+}
 
 std::string ForShell(std::string_view text) {
   constexpr std::string_view kPlain =
@@ -79,7 +78,7 @@ std::string ForShell(std::string_view text) {
 }
 
 std::string ShownValue(const ParameterInfo& parameter) {
-  if (parameter.example.size() > kLongestTyped) return "@" + std::string(parameter.name) + ".json";
+  if (IsLong(parameter)) return "@" + std::string(parameter.name) + ".json";
   return ForShell(parameter.example);
 }
 
@@ -88,7 +87,7 @@ std::vector<std::vector<std::string>> SmallGrid(const ExampleCall& call, const P
   constexpr std::size_t kMostRows = 8;
   const TableInfo* table = parameter.table;
   std::vector<std::vector<std::string>> rows;
-  if (!table || table->rows.empty() || table->rows.size() > kMostRows) return rows;
+  if (!table || table->repeats || table->rows.empty() || table->rows.size() > kMostRows) return rows;
   if (!table->columns.empty()) {
     std::vector<std::string>& header = rows.emplace_back(1);
     for (const HeadingInfo& column : table->columns) header.emplace_back(column.title);
@@ -131,6 +130,10 @@ std::vector<std::string> Mistypings(const ParameterInfo& parameter) {
   return typed;
 }
 
+std::string With(const ParameterInfo& parameter, const std::string& typed) {
+  return "With " + std::string(parameter.name) + "=" + ForShell(typed);
+}
+
 }  // namespace
 
 bool HasAnswer(const MemberInfo& member) { return member.group != Group::Charts && !member.address.empty(); }
@@ -153,6 +156,18 @@ std::string ExampleCommand(const ClassInfo& type, const MemberInfo& member) {
     command.append(" ").append(parameter.name).append("=").append(ShownValue(parameter));
   }
   return command;
+}
+
+std::vector<std::string> ExampleFiles(const MemberInfo& member) {
+  constexpr std::size_t kShown = 40;
+  std::vector<std::string> files;
+  for (const ParameterInfo& parameter : member.parameters) {
+    if (!IsLong(parameter)) continue;
+    const std::string_view text = parameter.example;
+    const std::string name = std::string(parameter.name) + ".json holds ";
+    files.push_back(name + std::string(text.substr(0, text.find("],", kShown) + 2)) + " and so on.");
+  }
+  return files;
 }
 
 ExampleAnswer AnswerOfExample(const ClassInfo& type, const MemberInfo& member) {
@@ -181,13 +196,17 @@ Mistakes MistakesIn(const ClassInfo& type, const MemberInfo& member) {
     if (!parameter.IsInput()) continue;
     for (const std::string& typed : Mistypings(parameter)) {
       const ExampleCall call(type, member, &parameter, typed);
-      if (std::string error = call.ErrorText(); !error.empty() && errors.insert(error).second) {
-        mistakes.errors.push_back(std::move(error));
+      if (call.Error()) {
+        const auto fault = call.Fault();
+        const std::string number =
+            std::to_string(static_cast<int>(*call.Error())) + " " + std::string(ErrorName(*call.Error()));
+        if (errors.insert(number + std::string(parameter.name)).second) {
+          mistakes.errors.push_back(number + ": " + (fault ? fault->Text() : With(parameter, typed)));
+        }
       }
       for (const Note& note : call.Notes()) {
         if (!known.insert(note.code).second) continue;
-        mistakes.notes.push_back("With " + std::string(parameter.name) + "=" + ForShell(typed) + ": " +
-                                 note.Text());
+        mistakes.notes.push_back(With(parameter, typed) + ": " + note.Text());
       }
     }
   }

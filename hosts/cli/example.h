@@ -15,6 +15,9 @@ namespace amortix2::cli {
 /// long to type stands in a file named after its parameter. A setting is shown with "--with".
 std::string ExampleCommand(const ClassInfo& type, const MemberInfo& member);
 
+/// What stands in such files, a sentence for each.
+std::vector<std::string> ExampleFiles(const MemberInfo& member);
+
 struct ExampleCell {
   std::string name;                            ///< of the result
   std::vector<std::vector<std::string>> rows;  ///< of a small grid, with its headings; else empty

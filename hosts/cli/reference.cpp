@@ -114,13 +114,15 @@ std::vector<std::string> TableText(const TableInfo& table) {
   return sentences;
 }
 
-void AppendQuestions(std::vector<std::string>& sentences, std::span<const QuestionInfo> questions) {
+std::vector<std::string> QuestionTexts(std::span<const QuestionInfo> questions) {
+  std::vector<std::string> texts;
   int number = 0;
   for (const QuestionInfo& question : questions) {
-    std::string text = std::to_string(++number) + ". " + std::string(question.text);
+    std::string text = "Question " + std::to_string(++number) + ": " + std::string(question.text);
     for (const ChoiceInfo& answer : question.answers) text += " " + ChoiceText(answer) + ".";
-    sentences.push_back(std::move(text));
+    texts.push_back(std::move(text));
   }
+  return texts;
 }
 
 Item InputItem(const ParameterInfo& parameter) {
@@ -132,7 +134,7 @@ Item InputItem(const ParameterInfo& parameter) {
   if (parameter.choices) item.sentences.push_back(ChoicesText(*parameter.choices));
   if (std::string range = RangeText(parameter); !range.empty()) item.sentences.push_back(std::move(range));
   if (parameter.table) std::ranges::move(TableText(*parameter.table), std::back_inserter(item.sentences));
-  AppendQuestions(item.sentences, parameter.questions);
+  item.points = QuestionTexts(parameter.questions);
   if (parameter.role == Role::InOut) item.sentences.emplace_back("Comes back changed.");
   item.sentences.emplace_back(OmittedText(parameter));
   return item;
@@ -164,6 +166,7 @@ void AppendItems(Document& document, int level, std::string title, std::vector<I
 void AppendExample(Document& document, int level, const ClassMember& member, const ExampleAnswer& example) {
   document.push_back(Heading{level, "Example"});
   document.push_back(Code{ExampleCommand(*member.type, *member.member)});
+  for (std::string& file : ExampleFiles(*member.member)) document.push_back(Paragraph{std::move(file)});
   if (!example.sentence.empty()) document.push_back(Paragraph{example.sentence});
   for (const ExampleCell& cell : example.results) {
     if (!cell.rows.empty()) document.push_back(Grid{cell.rows});

@@ -1,5 +1,6 @@
 #include "amortix2/com/interface_definition.h"
 
+#include <initializer_list>
 #include <sstream>
 #include <stdexcept>
 
@@ -37,7 +38,7 @@ std::string Initializer(std::string_view identifier) {
     return "0x" + std::string(identifier.substr(start, length));
   };
   std::string text = "{" + part(0, 8) + ", " + part(9, 4) + ", " + part(14, 4) + ", {";
-  for (const std::size_t start : {19, 21, 24, 26, 28, 30, 32, 34}) {
+  for (const std::size_t start : std::initializer_list<std::size_t>{19, 21, 24, 26, 28, 30, 32, 34}) {
     text += (start == 19 ? "" : ", ") + part(start, 2);
   }
   return text + "}}";
