@@ -22,4 +22,13 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/amortix2.pc
 
 if(TARGET amortix2)
   install(TARGETS amortix2 RUNTIME COMPONENT program)
+  file(ARCHIVE_CREATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/amortix2.1.gz PATHS ${PROJECT_SOURCE_DIR}/packaging/amortix2.1
+    FORMAT raw COMPRESSION GZip COMPRESSION_LEVEL 9)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/amortix2.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT program)
+  set(completions ${PROJECT_SOURCE_DIR}/packaging/completions)
+  install(FILES ${completions}/amortix2.bash RENAME amortix2 COMPONENT program
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+  install(FILES ${completions}/_amortix2 DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions COMPONENT program)
+  install(FILES ${completions}/amortix2.fish COMPONENT program
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 endif()
