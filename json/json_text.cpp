@@ -19,6 +19,27 @@ void AppendDigits(std::string& out, Number value, Format... format) {
   out.append(digits.data(), end);
 }
 
+/// Writes whole cents as an amount without needless zeros.
+void AppendCents(std::string& out, std::uint64_t cents, bool isNegative) {
+  std::array<char, 24> digits;
+  char* const end = digits.data() + digits.size();
+  char* begin = end;
+  const auto put = [&](std::uint64_t digit) { *--begin = static_cast<char>('0' + digit); };
+  const std::uint64_t fraction = cents % 100;
+  if (fraction % 10 != 0) put(fraction % 10);
+  if (fraction != 0) {
+    put(fraction / 10);
+    *--begin = '.';
+  }
+  cents /= 100;
+  do {
+    put(cents % 10);
+    cents /= 10;
+  } while (cents != 0);
+  if (isNegative) *--begin = '-';
+  out.append(begin, end);
+}
+
 }  // namespace
 
 void AppendText(std::string& out, std::string_view text) {
@@ -34,7 +55,12 @@ void AppendText(std::string& out, std::string_view text) {
 void AppendNumber(std::string& out, double value) {
   if (!std::isfinite(value)) Raise(ErrorNumber::Overflow);
   const double size = std::abs(value);
-  if (size == 0) {
+  // Up to fifteen digits, no shorter decimal reads back to the same double.
+  constexpr double kFifteenDigits = 1e13;
+  const auto cents = size < kFifteenDigits ? static_cast<std::int64_t>(size * 100 + 0.5) : 0;
+  if (cents != 0 && static_cast<double>(cents) / 100 == size) {
+    AppendCents(out, static_cast<std::uint64_t>(cents), value < 0);
+  } else if (size == 0) {
     out += std::signbit(value) ? "-0.0" : "0";
   } else if (size >= 1e-4 && size < 1e16) {
     AppendDigits(out, value, std::chars_format::fixed);

@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
+#include <random>
 #include <set>
 
 #include "amortix2/json/description_json.h"
@@ -91,6 +94,21 @@ TEST(Json, NumbersAreShortAndNeverInfinite) {
   std::string out;
   EXPECT_THROW(AppendNumber(out, HUGE_VAL), AutomationError);
   EXPECT_THROW(AppendNumber(out, std::nan("")), AutomationError);
+}
+
+TEST(Json, CentsAreWrittenLikeAnyShortestDigits) {
+  std::mt19937_64 random(11);
+  for (int i = 0; i < 60000; ++i) {
+    const double amount = static_cast<double>(random() >> (9 + random() % 55)) / 100;
+    const double near = i % 3 == 0 ? amount : std::nextafter(amount, i % 3 == 1 ? -1e300 : 1e300);
+    if (std::abs(near) < 1e-4 || near >= 1e16) continue;
+    const double value = random() % 2 == 0 ? near : -near;
+    std::array<char, 64> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + 64, value, std::chars_format::fixed).ptr;
+    std::string text;
+    AppendNumber(text, value);
+    ASSERT_EQ(text, std::string(digits.data(), end));
+  }
 }
 
 TEST(Json, BytesThatAreNoUtf8) {
