@@ -8,6 +8,7 @@
 #include <iostream>
 #include <nlohmann/json.hpp>
 #include <random>
+#include <regex>
 #include <sstream>
 
 #include "amortix2/automation/conversion.h"
@@ -18,21 +19,41 @@ using nlohmann::json;
 
 namespace {
 
-/// One argument in both languages.
-struct Argument {
-  json request;
-  std::string script;
-};
-
-Argument Long(int value) { return {value, "CLng(" + std::to_string(value) + ")"}; }
+/// Arguments are JSON as requests have it; these make the values that both languages can write.
+json Typed(const char* type, json value) { return {{"type", type}, {"value", std::move(value)}}; }
 
 /// Exact in both: a quotient of whole numbers is rounded as its decimal text is.
-Argument Double(int hundredths) {
-  return {{{"type", "Double"}, {"value", hundredths / 100.0}},
-          "CDbl(" + std::to_string(hundredths) + ")/100"};
+json Double(int hundredths) { return Typed("Double", hundredths / 100.0); }
+
+json Day(int year, int month, int day) {
+  return Typed("Date", std::string(View(FormatIso(MakeDate(year, month, day)))));
 }
 
-Argument Text(const std::string& text) { return {text, '"' + text + '"'}; }
+std::string TypedScript(const std::string& type, const json& value) {
+  if (type == "Empty") return "Empty";
+  if (type == "Double") return "CDbl(" + std::to_string(std::llround(value.get<double>() * 100)) + ")/100";
+  if (type == "Date")
+    return "DateSerial(" + std::regex_replace(value.get<std::string>(), std::regex("-0?"), ",") + ")";
+  return (type == "Currency" ? "CCur(" : "CByte(") + value.dump() + ")";
+}
+
+/// An argument as VBScript writes it. A table of 256 rows is the palette, too long for a line.
+std::string Script(const json& value) {
+  if (value.is_null()) return "Null";
+  if (value.is_boolean()) return value.get<bool>() ? "True" : "False";
+  if (value.is_number()) return "CLng(" + value.dump() + ")";
+  if (value.is_string()) return '"' + value.get<std::string>() + '"';
+  if (value.is_object()) return TypedScript(value["type"], value["value"]);
+  if (value.size() == 256) return "Palette()";
+  const bool table = !value.empty() && value[0].is_array();
+  std::string cells;
+  for (const json& row : value) {
+    for (const json& cell : table ? row : json::array({row}))
+      cells += (cells.empty() ? "" : ", ") + Script(cell);
+  }
+  const std::string list = "Array(" + cells + ")";
+  return table ? "Table(" + std::to_string(value[0].size()) + ", " + list + ")" : list;
+}
 
 class Generator {
  public:
@@ -50,10 +71,10 @@ class Generator {
     for (std::size_t i = 0; i < member.parameters.size(); ++i) {
       const ParameterInfo& parameter = member.parameters[i];
       if (parameter.optional && Pick(2) == 0) break;
-      const Argument argument = Value(type, parameter);
+      const json argument = Value(type, parameter);
       const std::string variable = "v" + std::to_string(i);
-      arguments[std::string(parameter.name)] = argument.request;
-      script_ << variable << " = " << argument.script << '\n';
+      arguments[std::string(parameter.name)] = argument;
+      script_ << variable << " = " << Script(argument) << '\n';
       list += (i == 0 ? " " : ", ") + variable;
       if (parameter.byReference)
         results += "Show \"" + std::string(parameter.name) + "\", " + variable + "\n";
@@ -65,7 +86,7 @@ class Generator {
 
  private:
   int Pick(int count) { return std::uniform_int_distribution(0, count - 1)(random_); }
-  Argument OneOf(const std::vector<Argument>& values) {
+  json OneOf(const std::vector<json>& values) {
     return values[static_cast<std::size_t>(Pick(static_cast<int>(values.size())))];
   }
 
@@ -77,17 +98,16 @@ class Generator {
     json values = json::array();
     std::string list;
     for (const ParameterInfo& parameter : member.parameters) {
-      const Argument argument = Value(type, parameter);
-      values.push_back(argument.request);
-      list += (list.empty() ? " " : ", ") + argument.script;
+      values.push_back(Value(type, parameter));
+      list += (list.empty() ? " " : ", ") + Script(values.back());
     }
     const bool put = member.kind == MemberKind::PropertyPut;
     with[name] = put ? values[0] : values;
     script_ << "o." << name << (put ? " =" : "") << list << '\n';
   }
 
-  Argument Value(const ClassInfo& type, const ParameterInfo& parameter) {
-    if (parameter.type->kind == TypeKind::String) return Text("chart" + std::to_string(Pick(9)) + ".gif");
+  json Value(const ClassInfo& type, const ParameterInfo& parameter) {
+    if (parameter.type->kind == TypeKind::String) return "chart" + std::to_string(Pick(9)) + ".gif";
     if (parameter.name == "vPal" && Pick(8) != 0) return Palette();
     if (type.name != "Calculator" && parameter.unit == Unit::Table) return Table();
     if (type.name != "Calculator" && parameter.unit == Unit::List) return List();
@@ -95,99 +115,67 @@ class Generator {
     return Usual(type, parameter.unit);
   }
 
-  Argument Usual(const ClassInfo& type, Unit unit) {
+  json Usual(const ClassInfo& type, Unit unit) {
     switch (unit) {
       case Unit::Currency:
-        return OneOf({Double(0), Long(200000), Double(1500000 + Pick(100000)), Double(250075),
-                      Long(1000 * Pick(300))});
+        return OneOf({Double(0), 200000, Double(1500000 + Pick(100000)), Double(250075), 1000 * Pick(300)});
       case Unit::MonthlyCurrency:
-        return OneOf({Double(0), Double(Pick(200000)), Long(1200), Text("350.25")});
+        return OneOf({Double(0), Double(Pick(200000)), 1200, "350.25"});
       case Unit::Percent:
       case Unit::AnnualPercent:
       case Unit::PercentagePoints:
-        return OneOf({Double(0), Double(650), Double(Pick(2000)), Long(7), Text("5.5%"), Text("4.25")});
+        return OneOf({Double(0), Double(650), Double(Pick(2000)), 7, "5.5%", "4.25"});
       case Unit::Months:
-        return OneOf({Long(0), Long(12), Long(24), Long(36), Double(1800), Long(Pick(20) == 0 ? 360 : 6)});
+        return OneOf({0, 12, 24, 36, Double(1800), Pick(20) == 0 ? 360 : 6});
       case Unit::Code:
-        return OneOf({Long(4 + Pick(5)), Long(4 + Pick(7)), Long(Pick(12)), Double(800)});
+        return OneOf({4 + Pick(5), 4 + Pick(7), Pick(12), Double(800)});
       case Unit::Date:
-        return OneOf({{nullptr, "Null"},
-                      Date(2001, 1, 31),
-                      Date(2000, 12, 1 + Pick(30)),
-                      Text("2/29/2000"),
-                      Long(36922)});
+        return OneOf({nullptr, Day(2001, 1, 31), Day(2000, 12, 1 + Pick(30)), "2/29/2000", 36922});
       case Unit::Pixels:
-        return OneOf({Long(0), Long(80), Double(12050), Long(Pick(300)), Long(Pick(10) == 0 ? 40000 : 3)});
+        return OneOf({0, 80, Double(12050), Pick(300), Pick(10) == 0 ? 40000 : 3});
       case Unit::Text:
-        if (type.name == "GifChart") return Text("chart" + std::to_string(Pick(9)) + ".gif");
-        return OneOf({Text(""), Text("C"), Text("OL"), Text("OV"), Text("ST"), Text("SR"), Text("LINE"),
-                      Text("HZ"), Text("HR"), Text("$#,##0.00")});
+        if (type.name == "GifChart") return "chart" + std::to_string(Pick(9)) + ".gif";
+        return OneOf({"", "C", "OL", "OV", "ST", "SR", "LINE", "HZ", "HR", "$#,##0.00"});
       case Unit::None:
       case Unit::Table:
       case Unit::List:
-        return {{{"type", "Empty"}, {"value", nullptr}}, "Empty"};
+        return Typed("Empty", nullptr);
       default:
-        return OneOf({Long(0), Long(1), Long(Pick(12)), Double(100 * Pick(15)), Long(4)});
+        return OneOf({0, 1, Pick(12), Double(100 * Pick(15)), 4});
     }
   }
 
-  Argument Odd() {
-    return OneOf({{nullptr, "Null"},
-                  {true, "True"},
-                  Text("abc"),
-                  Text("$1,234.50"),
-                  Text("(5)"),
-                  Text("1e300"),
-                  Long(-1),
-                  Date(2010, 6, 15),
-                  {{{"type", "Currency"}, {"value", 12.5}}, "CCur(12.5)"},
-                  {{{"type", "Byte"}, {"value", 7}}, "CByte(7)"}});
+  json Odd() {
+    return OneOf({nullptr, true, "abc", "$1,234.50", "(5)", "1e300", -1, Day(2010, 6, 15),
+                  Typed("Currency", 12.5), Typed("Byte", 7)});
   }
 
-  static Argument Date(int year, int month, int day) {
-    const DateText text = FormatIso(MakeDate(year, month, day));
-    return {
-        {{"type", "Date"}, {"value", View(text)}},
-        "DateSerial(" + std::to_string(year) + "," + std::to_string(month) + "," + std::to_string(day) + ")"};
-  }
-
-  Argument List() {
-    Argument list{json::array(), "Array("};
-    const int count = Pick(7);
-    for (int i = 0; i < count; ++i) {
-      const Argument cell =
-          OneOf({Text("image" + std::to_string(i)), Long(Pick(6)), Text("E"), Double(Pick(500))});
-      list.request.push_back(cell.request);
-      list.script += (i == 0 ? "" : ", ") + cell.script;
-    }
-    list.script += ")";
+  json List() {
+    json list = json::array();
+    for (int i = Pick(7); i > 0; --i)
+      list.push_back(OneOf({"image" + std::to_string(i), Pick(6), "E", Double(Pick(500))}));
     return list;
   }
 
-  Argument Table() {
+  json Table() {
     const int rows = 1 + Pick(5), columns = 1 + Pick(4);
     const bool labelled = Pick(2) == 0;
-    Argument table{json::array(), "Table(" + std::to_string(columns) + ", Array("};
+    json table = json::array();
     for (int row = 0; row < rows; ++row) {
-      json cells = json::array();
+      json& cells = table.emplace_back(json::array());
       for (int column = 0; column < columns; ++column) {
-        const Argument cell =
-            labelled && column == 0
-                ? Text("row " + std::to_string(row))
-                : OneOf({Long(Pick(256)), Double(Pick(300000) - 50000), Long(Pick(9)), Text("12")});
-        cells.push_back(cell.request);
-        table.script += (row + column == 0 ? "" : ", ") + cell.script;
+        cells.push_back(labelled && column == 0
+                            ? json("row " + std::to_string(row))
+                            : OneOf({Pick(256), Double(Pick(300000) - 50000), Pick(9), "12"}));
       }
-      table.request.push_back(cells);
     }
-    table.script += "))";
     return table;
   }
 
-  static Argument Palette() {
+  static json Palette() {
     json palette = json::array();
     for (int i = 0; i < 256; ++i) palette.push_back({i, 255 - i, i / 2});
-    return {palette, "Palette()"};
+    return palette;
   }
 
   std::ostream& requests_;
@@ -240,10 +228,8 @@ void Print(const json& value, std::vector<std::string>& lines) {
   std::string line(1, letters.at(type));
   if (type == "Date")
     line += std::to_string(ParseDate(content.get<std::string>())->serial);
-  else if (content.is_string() && type == "String")
-    line += content.get<std::string>();
   else if (content.is_string())
-    line += content.get<std::string>();
+    line += std::regex_replace(content.get<std::string>(), std::regex("\n"), "\\n");
   else if (content.is_boolean())
     line += content.get<bool>() ? "-1" : "0";
   else if (!content.is_null())

@@ -29,6 +29,15 @@ dll=$(windows_path "$COM_BIN/Amortix2.dll")
 keys() { "$server" -w; cat "$WINEPREFIX"/{system,user}.reg | sed -n 's/^\(\[Software\\\\Classes.*\]\).*/\1/p' | sort; }
 identifiers=$(grep -oE '[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}' "$here/../../hosts/com/amortix2.idl" | sort -u)
 
+# How often each value stands in the keys that are the server's.
+check_values() {
+  "$server" -w
+  awk -v RS= -v own="${identifiers//$'\n'/|}" 'tolower($0) ~ "amortix2|" own' "$WINEPREFIX/system.reg" >"$COM_WORK/keys.own"
+  while read -r count value; do
+    [ "$(grep -cxF -- "$value" "$COM_WORK/keys.own")" = "$count" ] || { echo "not $count times: $value"; return 1; }
+  done
+}
+
 # Everything that registering wrote is gone again, and nothing else; Wine itself may have added keys meanwhile.
 check_clean() {
   keys >"$COM_WORK/keys.after"
@@ -36,6 +45,15 @@ check_clean() {
     grep -qF "${key%]}\\\\" "$COM_WORK/keys.after" || { echo "lost: $key"; return 1; }
   done
   ! grep -iF -e amortix -e "$identifiers" "$COM_WORK/keys.after" || return 1
+}
+
+# By the manifest alone. Wine's proxies register the type library that they find there; the registry stays as it was.
+unregistered_client() {
+  "$server" -w
+  cp "$WINEPREFIX/system.reg" "$COM_WORK/system.reg"
+  client contract "$(windows_path "$COM_BIN/Amortix2.manifest")"
+  "$server" -w
+  cp "$COM_WORK/system.reg" "$WINEPREFIX/system.reg"
 }
 
 script() { "$loader" cscript /nologo "$(windows_path "$1")"; }
@@ -49,7 +67,7 @@ case $1 in
     "$loader" wineboot -i
     keys >"$COM_WORK/keys.before"
     echo "Without registration"
-    client contract "$(windows_path "$COM_BIN/Amortix2.manifest")"
+    unregistered_client
     echo "For the user alone"
     "$loader" regsvr32 /s /n /i:user "$dll"
     "$server" -w
@@ -61,15 +79,39 @@ case $1 in
     "$loader" regsvr32 /s /u /n /i:user "$dll"
     check_clean
     echo "For the machine"
+    mkdir "$COM_WORK/Größe"
+    cp "$COM_BIN/Amortix2.dll" "$COM_WORK/Größe"
+    "$loader" regsvr32 /s "$(windows_path "$COM_WORK/Größe/Amortix2.dll")"
+    client values
+    unregistered_client
     "$loader" regsvr32 /s "$dll"
-    "$server" -w
-    grep -q '^@="Amortix2 Calculator"' "$WINEPREFIX/system.reg"
+    check_values <<VALUES
+6 @="${dll//\\/\\\\}"
+5 "ThreadingModel"="Both"
+5 @="{00020424-0000-0000-C000-000000000046}"
+5 "Version"="1.0"
+5 @="1.0"
+3 @="Amortix2 SvgChart"
+2 @="Amortix2.SvgChart.1"
+1 @="Amortix2.SvgChart"
+1 @="_SvgChart"
+1 @="Amortix2"
+VALUES
     ;;
   cleanup)
     "$loader" regsvr32 /s /u "$dll"
     check_clean
     "$server" -k || true
     rm -rf "$WINEPREFIX"
+    ;;
+  german)
+    mkdir -p "$COM_WORK/locale"
+    [ -d "$COM_WORK/locale/de_DE.UTF-8" ] || localedef -i de_DE -f UTF-8 "$COM_WORK/locale/de_DE.UTF-8"
+    export LOCPATH=$COM_WORK/locale LC_ALL=de_DE.UTF-8
+    echo 'WScript.Echo CStr(1.5)' >"$COM_WORK/german.vbs"
+    [ "$(script "$COM_WORK/german.vbs" | tr -d '\r')" = 1,5 ]
+    client values
+    client conversion
     ;;
   client)
     client "${@:2}"

@@ -69,7 +69,7 @@ Sub ShowValue(value)
     Case 7
       WScript.Echo "t" & CLng(value)
     Case 8
-      WScript.Echo "s" & value
+      WScript.Echo "s" & Replace(value, vbLf, "\n")
     Case 11
       WScript.Echo "B" & CInt(value)
     Case 17

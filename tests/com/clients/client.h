@@ -2,6 +2,7 @@
 
 // What the clients share: checks that print what failed, and calls as a late-bound C++ program makes them.
 
+#include <cstdint>
 #include <cstdio>
 #include <functional>
 #include <map>
@@ -62,12 +63,14 @@ inline OwnedVariant Reference(VARTYPE type, void* place) {
 }
 inline OwnedVariant Reference(OwnedVariant& variable) { return Reference(VT_VARIANT, &variable.Get()); }
 
-/// Calls and returns the automation error number, 0 for none.
-inline int NumberOfFailure(IDispatch& object, const wchar_t* name, std::span<const OwnedVariant> arguments) {
+/// Calls and returns the automation error number, 0 for none; `text` gets what a caller is told.
+inline int NumberOfFailure(IDispatch& object, const wchar_t* name, std::span<const OwnedVariant> arguments,
+                           std::wstring* text = nullptr) {
   try {
     CallByName(object, name, arguments);
     return 0;
   } catch (const ForeignError& error) {
+    if (text != nullptr) *text = error.Description();
     return HRESULT_FACILITY(error.Code()) == 10 ? HRESULT_CODE(error.Code()) : error.Code();
   } catch (const AutomationError& error) {
     return static_cast<int>(error.Number());
@@ -90,6 +93,46 @@ struct Loan {
     return NumberOfFailure(calculator, L"SimpleLoanCalculator", Arguments(std::move(amount)));
   }
 };
+
+inline std::string Taken(BSTR text) {
+  std::string utf8 = ToUtf8(View(text));
+  SysFreeString(text);
+  return utf8;
+}
+
+/// Bytes allocated in all heaps of the process.
+inline std::int64_t MemoryInUse() {
+  HANDLE heaps[64];
+  const DWORD count = GetProcessHeaps(64, heaps);
+  std::int64_t bytes = 0;
+  for (DWORD i = 0; i < count; ++i) {
+    PROCESS_HEAP_ENTRY entry{};
+    HeapLock(heaps[i]);
+    while (HeapWalk(heaps[i], &entry))
+      bytes += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? entry.cbData : 0;
+    HeapUnlock(heaps[i]);
+  }
+  return bytes;
+}
+
+inline DWORD HandlesInUse() {
+  DWORD count = 0;
+  GetProcessHandleCount(GetCurrentProcess(), &count);
+  return count;
+}
+
+/// Whether repeating the body leaves memory or handles behind. A byte a call is less than any leak.
+inline void CheckNothingLeaks(const char* what, long calls, const std::function<void()>& body) {
+  for (long i = 0; i < 50 + calls / 10; ++i) body();
+  const std::int64_t memory = MemoryInUse();
+  const DWORD handles = HandlesInUse();
+  for (long i = 0; i < calls; ++i) body();
+  const std::int64_t grown = MemoryInUse() - memory;
+  const auto more = static_cast<long>(HandlesInUse() - handles);
+  std::printf("%s, %ld times: %lld of %lld bytes, %ld handles more\n", what, calls,
+              static_cast<long long>(grown), static_cast<long long>(memory), more);
+  CHECK_FOR(what, grown < calls && more == 0);
+}
 
 /// An object with members that scripts could have written; an empty name is the default property.
 class Scripted final : public IDispatch {

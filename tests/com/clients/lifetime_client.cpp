@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdint>
 #include <cstdlib>
 #include <fstream>
 #include <thread>
@@ -23,55 +22,6 @@ using namespace amortix2::com;
 using namespace amortix2::com::client;
 
 namespace {
-
-/// Bytes allocated in all heaps of the process.
-std::int64_t MemoryInUse() {
-  HANDLE heaps[64];
-  const DWORD count = GetProcessHeaps(64, heaps);
-  std::int64_t bytes = 0;
-  for (DWORD i = 0; i < count; ++i) {
-    PROCESS_HEAP_ENTRY entry{};
-    HeapLock(heaps[i]);
-    while (HeapWalk(heaps[i], &entry))
-      bytes += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? entry.cbData : 0;
-    HeapUnlock(heaps[i]);
-  }
-  return bytes;
-}
-
-DWORD HandlesInUse() {
-  DWORD count = 0;
-  GetProcessHandleCount(GetCurrentProcess(), &count);
-  return count;
-}
-
-/// Success, failure, objects made and dropped, texts and arrays in and out, a page's context.
-void OneOfEverything(IDispatch& calculator, Scripted& context) {
-  Loan loan;
-  CHECK(loan.Calculate(calculator, MakeValue("1,000")) == 0);
-  CHECK(loan.Calculate(calculator, MakeValue(1e308)) == 6);
-  CHECK(NumberOfFailure(calculator, L"SimpleLoanCalculator", {}) == 449);
-  const auto chart = Create(L"Amortix2.GifChart");
-  OwnedVariant page = context.AsArgument();
-  CallByName(*chart.Get(), L"OnStartPage", {&page, 1});
-  ComPointer<ITypeInfo> type;
-  CHECK(SUCCEEDED(chart->GetTypeInfo(0, 0, type.Receive())));
-}
-
-void NothingLeaks(long calls) {
-  Scripted context({{L"Response", [](auto) -> OwnedVariant { Raise(ErrorNumber::ObjectNotSet); }}});
-  const auto calculator = Create(L"Amortix2.Calculator");
-  for (int i = 0; i < 1000; ++i) OneOfEverything(*calculator.Get(), context);
-  const std::int64_t memory = MemoryInUse();
-  const DWORD handles = HandlesInUse();
-  for (long i = 0; i < calls / 4; ++i) OneOfEverything(*calculator.Get(), context);
-  const std::int64_t grown = MemoryInUse() - memory;
-  std::printf("%ld calls: %lld of %lld bytes, %ld handles more\n", calls, static_cast<long long>(grown),
-              static_cast<long long>(memory), static_cast<long>(HandlesInUse() - handles));
-  CHECK(grown < calls);  // a byte a call is less than any leak
-  CHECK(HandlesInUse() == handles);
-  CHECK(context.references == 1);
-}
 
 constexpr std::string_view kMarks = "~^|@{}`[";
 
@@ -90,6 +40,27 @@ std::ptrdiff_t MarksInChart(IDispatch& chart, char mark) {
   const Variant read = ReadValue(lines.Get());
   for (const Variant& line : read.GetArray().Cells()) text += ToText(line);
   return std::ranges::count_if(kMarks, [&](char c) { return text.find(c) != std::string::npos; });
+}
+
+/// Success, failure, objects made and dropped, texts and arrays in and out, a page's context, a chart.
+void OneOfEverything(IDispatch& calculator, Scripted& context) {
+  Loan loan;
+  CHECK(loan.Calculate(calculator, MakeValue("1,000")) == 0);
+  CHECK(loan.Calculate(calculator, MakeValue(1e308)) == 6);
+  CHECK(NumberOfFailure(calculator, L"SimpleLoanCalculator", {}) == 449);
+  const auto chart = Create(L"Amortix2.GifChart");
+  OwnedVariant page = context.AsArgument();
+  CallByName(*chart.Get(), L"OnStartPage", {&page, 1});
+  CHECK(MarksInChart(*Create(L"Amortix2.BarChart").Get(), '~') == 1);
+  ComPointer<ITypeInfo> type;
+  CHECK(SUCCEEDED(chart->GetTypeInfo(0, 0, type.Receive())));
+}
+
+void NothingLeaks(long calls) {
+  Scripted context({{L"Response", [](auto) -> OwnedVariant { Raise(ErrorNumber::ObjectNotSet); }}});
+  const auto calculator = Create(L"Amortix2.Calculator");
+  CheckNothingLeaks("one of everything", calls / 5, [&] { OneOfEverything(*calculator.Get(), context); });
+  CHECK(context.references == 1);
 }
 
 /// Threads share one calculator and one chart and fail now and then; each gets its own right answers.
@@ -121,18 +92,33 @@ void OnlyStatelessObjectsTravel() {
   for (const wchar_t* name : {L"Amortix2.Calculator", L"Amortix2.InvestmentStrategy"}) {
     CHECK(bool(Create(name).As<IMarshal>(IID_IMarshal)));
   }
-  for (const wchar_t* name : {L"Amortix2.BarChart", L"Amortix2.GifChart"}) {
+  for (const wchar_t* name : {L"Amortix2.BarChart", L"Amortix2.GifChart", L"Amortix2.SvgChart"}) {
     CHECK(!Create(name).As<IMarshal>(IID_IMarshal));
     CHECK(!Create(name).As<IUnknown>(__uuidof(IPersist)));
   }
 }
 
-bool IsLoaded() { return GetModuleHandleW(L"Amortix2.dll") != nullptr; }
-
-void UnloadsWhenUnused() {
-  const auto chart = Create(L"Amortix2.BarChart");
+bool IsLoaded() {
   CoFreeUnusedLibrariesEx(0, 0);
-  CHECK(IsLoaded());
+  return GetModuleHandleW(L"Amortix2.dll") != nullptr;
+}
+
+/// An object keeps the DLL, and so does a lock.
+void UnloadsWhenUnused() {
+  {
+    const auto chart = Create(L"Amortix2.BarChart");
+    CHECK(IsLoaded());
+  }
+  CLSID identifier{};
+  CLSIDFromProgID(L"Amortix2.Calculator", &identifier);
+  for (const BOOL lock : {TRUE, FALSE}) {
+    ComPointer<IClassFactory> factory;
+    CoGetClassObject(identifier, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory,
+                     reinterpret_cast<void**>(factory.Receive()));
+    factory->LockServer(lock);
+    factory = {};
+    CHECK(IsLoaded() == (lock != FALSE));
+  }
 }
 
 /// A line chart for a page whose response keeps what it gets in a file.
@@ -170,10 +156,26 @@ void WritesToItsPage(const std::string& path) {
   CHECK(context.references == 1 && response.references == 1);
 }
 
-std::string Taken(BSTR text) {
-  std::string utf8 = ToUtf8(View(text));
-  SysFreeString(text);
-  return utf8;
+std::string NameOf(ITypeInfo& type, MEMBERID member) {
+  BSTR name = nullptr;
+  type.GetDocumentation(member, &name, nullptr, nullptr, nullptr);
+  return Taken(name);
+}
+
+/// The names of a record's or an enumeration's entries, an enumeration's with their values.
+template <class Entries>
+void CheckEntries(ITypeLib& library, std::string_view name, const Entries& entries) {
+  ComPointer<ITypeInfo> type;
+  if (!CHECK(SUCCEEDED(library.GetTypeInfoOfGuid(ToGuid(IdentifierOf(name)), type.Receive())))) return;
+  CHECK(NameOf(*type.Get(), MEMBERID_NIL) == name);
+  UINT index = 0;
+  for (const auto& entry : entries) {
+    VARDESC* variable = nullptr;
+    if (!CHECK_FOR(std::string(entry.name), SUCCEEDED(type->GetVarDesc(index++, &variable)))) return;
+    CHECK_FOR(std::string(entry.name), NameOf(*type.Get(), variable->memid) == entry.name);
+    if constexpr (requires { entry.value; }) CHECK(variable->lpvarValue->lVal == entry.value);
+    type->ReleaseVarDesc(variable);
+  }
 }
 
 std::string TitleAndHelp(const auto& item) {
@@ -213,20 +215,40 @@ void CheckMember(ITypeInfo& type, UINT index, const MemberInfo& member) {
   type.ReleaseFuncDesc(function);
 }
 
+/// The interface of a late-bound object as compiled clients know it. It takes no members but the declared.
+void CheckInterface(ITypeInfo& type, const ClassInfo& described) {
+  UINT index = 0;
+  for (const MemberInfo& member : described.members) CheckMember(type, index++, member);
+  TYPEATTR* attributes = nullptr;
+  if (!CHECK(SUCCEEDED(type.GetTypeAttr(&attributes)))) return;
+  CHECK(attributes->cFuncs == described.members.size() && attributes->wTypeFlags & TYPEFLAG_FNONEXTENSIBLE);
+  type.ReleaseTypeAttr(attributes);
+}
+
 void TypeLibrarySaysWhatTheDescriptionSays() {
+  ComPointer<ITypeLib> library;
   for (const ClassInfo* described : Classes()) {
     const auto object = Create(ToWide(ProgramId(described->name)).c_str());
     ComPointer<ITypeInfo> dispatch;
     ComPointer<ITypeInfo> dual;
+    ComPointer<ITypeInfo> named;
     HREFTYPE reference = 0;
+    const auto provider = object.As<IProvideClassInfo>(IID_IProvideClassInfo);
     if (!CHECK(SUCCEEDED(object->GetTypeInfo(0, 0, dispatch.Receive())) &&
                SUCCEEDED(dispatch->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference)) &&
-               SUCCEEDED(dispatch->GetRefTypeInfo(reference, dual.Receive())))) {
+               SUCCEEDED(dispatch->GetRefTypeInfo(reference, dual.Receive())) &&
+               SUCCEEDED(provider->GetClassInfo(named.Receive())))) {
       continue;
     }
+    CheckInterface(*dual.Get(), *described);
+    CHECK(NameOf(*named.Get(), MEMBERID_NIL) == described->name);
     UINT index = 0;
-    for (const MemberInfo& member : described->members) CheckMember(*dual.Get(), index++, member);
+    library = {};
+    named->GetContainingTypeLib(library.Receive(), &index);
   }
+  for (const RecordInfo* record : Records()) CheckEntries(*library.Get(), record->name, record->fields);
+  for (const EnumerationInfo* type : Enumerations())
+    CheckEntries(*library.Get(), type->name, type->constants);
 }
 
 }  // namespace
@@ -241,8 +263,6 @@ int main(int count, char** arguments) {
     ThreadsDoNotDisturbEachOther();
     OnlyStatelessObjectsTravel();
     UnloadsWhenUnused();
-    CoFreeUnusedLibrariesEx(0, 0);
-    CHECK(!IsLoaded());
   });
   return status;
 }

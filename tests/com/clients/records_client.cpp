@@ -29,10 +29,10 @@ SAFEARRAY* Records(std::string_view name, ULONG count) {
   return SafeArrayCreateEx(VT_RECORD, 1, &bound, RecordType(name).Get());
 }
 
-OwnedVariant RecordReference(IRecordInfo* info, void* record) {
+/// A reference does not own the type either, which the caller keeps.
+OwnedVariant RecordReference(const ComPointer<IRecordInfo>& type, void* record) {
   OwnedVariant argument = Reference(VT_RECORD, record);
-  argument.Get().pRecInfo = info;
-  info->AddRef();
+  argument.Get().pRecInfo = type.Get();
   return argument;
 }
 
@@ -97,12 +97,13 @@ void Fill(Record& loan, const Terms& terms) {
 int ComputeThroughServer(IDispatch& calculator, SAFEARRAY*& loans, ::tCreditQualification& household) {
   SAFEARRAY* savings = Records("tSavingsDesc", 0);
   SAFEARRAY* goals = Records("tGoalDesc", 0);
+  const auto type = RecordType("tCreditQualification");
   std::vector<OwnedVariant> arguments;
   arguments.push_back(MakeValue(std::int32_t{amortix2::LoanCalculator}));
   arguments.push_back(Reference(VT_ARRAY | VT_RECORD, &loans));
   arguments.push_back(Reference(VT_ARRAY | VT_RECORD, &savings));
   arguments.push_back(Reference(VT_ARRAY | VT_RECORD, &goals));
-  arguments.push_back(RecordReference(RecordType("tCreditQualification").Get(), &household));
+  arguments.push_back(RecordReference(type, &household));
   const int number = NumberOfFailure(calculator, L"Amortix", arguments);
   SafeArrayDestroy(savings);
   SafeArrayDestroy(goals);
@@ -148,8 +149,9 @@ void LoansAreTheSame(IDispatch& calculator) {
   CHECK(ComputeThroughServer(calculator, loans, household) == 0 && first.schedule == schedule);
 
   OwnedVariant table = MakeValue(Array(Bounds{0, 12}, Bounds{0, 5}));
+  const auto type = RecordType("tLoanDesc");
   std::vector<OwnedVariant> arguments;
-  arguments.push_back(RecordReference(RecordType("tLoanDesc").Get(), &first));
+  arguments.push_back(RecordReference(type, &first));
   arguments.push_back(MakeValue(std::int16_t{0}));
   arguments.push_back(MakeValue(std::int16_t{12}));
   arguments.push_back(Reference(table));
@@ -178,5 +180,6 @@ int main() {
     const auto calculator = Create(L"Amortix2.Calculator.1");
     LoansAreTheSame(*calculator.Get());
     WrongRecordsAreRefused(*calculator.Get());
+    CheckNothingLeaks("loans as records", 100, [&] { LoansAreTheSame(*calculator.Get()); });
   });
 }
