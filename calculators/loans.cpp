@@ -95,15 +95,22 @@ void Calculator::PaymentGridCalculator(Variant& vPrincipal, Variant& vDownPaymen
   const double downPayment = Number(vDownPayment) - (stepsY + 1) * downChange;
   const double rate = Number(vIntRate) - (stepsX + 1) * rateChange;
 
-  LoanQuestion cell{.months = Number(vPeriod), .startDate = clock_.Today()};
+  // One record for all cells: making it anew would take as long as solving it.
+  tLoanDesc loan;
+  loan.typ = simpleLoan;
+  loan.startDate = clock_.Today();
+  loan.period = Number(vPeriod);
+  tCreditQualification household;
   const std::int16_t rows = ToInteger(2 * stepsX + 1);
   const std::int16_t columns = ToInteger(2 * stepsY + 1);
   Array grid = Table(rows, columns);
   for (std::int32_t i = 1; i <= rows; ++i) {
     for (std::int32_t j = 1; j <= columns; ++j) {
-      cell.amount = Finite(principal - downPayment - j * downChange);
-      cell.annualPercent = Finite(i * rateChange + rate);
-      grid.At(i, j) = PaymentOf(cell);
+      loan.startingBalance = Finite(principal - downPayment - j * downChange);
+      loan.intRate = Finite(i * rateChange + rate);
+      loan.payment = UNKNOWNLOANVALUE;
+      SolveLoan(loan, household, false);
+      grid.At(i, j) = loan.payment;
     }
   }
   vGrid = std::move(grid);

@@ -57,8 +57,9 @@ void AppendNumber(std::string& out, double value) {
   const double size = std::abs(value);
   // Up to fifteen digits, no shorter decimal reads back to the same double.
   constexpr double kFifteenDigits = 1e13;
-  const auto cents = size < kFifteenDigits ? static_cast<std::int64_t>(size * 100 + 0.5) : 0;
-  if (cents != 0 && static_cast<double>(cents) / 100 == size) {
+  constexpr double kNoFraction = 0x1.8p52;  // a sum with it has no room for a fraction
+  const double cents = size * 100 + kNoFraction - kNoFraction;
+  if (size != 0 && size < kFifteenDigits && cents / 100 == size) {
     AppendCents(out, static_cast<std::uint64_t>(cents), value < 0);
   } else if (size == 0) {
     out += std::signbit(value) ? "-0.0" : "0";
