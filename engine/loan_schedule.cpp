@@ -84,8 +84,8 @@ class MonthlyLines {
     }
   }
 
-  /// Writes lines as long as they are certain, at most `most`, and returns how many. Each is written once, as
-  /// a whole.
+  /// Writes lines as long as they are certain, at most `most`, and returns how many. Each is made
+  /// when it is written.
   [[gnu::noinline, gnu::flatten]] int WriteWholeCents(int most) {
     WholeCents cents(running_.balance.value, -running_.payment.value);
     DateSteps dates = dates_;
@@ -95,13 +95,15 @@ class MonthlyLines {
     const double taxFraction = running_.taxFraction;
     int written = 0;
     for (; written < most && cents.Next(growth); ++written) {
-      lines_.push_back({.lineDate = dates.Next(),
-                        .startingBalance = cents.Before(),
-                        .intRate = annualRate,
-                        .payment = payment,
-                        .intCharged = cents.Interest(),
-                        .taxCredited = WithoutMinusZero(taxFraction * cents.Interest()),
-                        .endingBalance = cents.Balance()});
+      const Date date = dates.Next();
+      tSchedule& line = lines_.emplace_back();
+      line.lineDate = date;
+      line.startingBalance = cents.Before();
+      line.intRate = annualRate;
+      line.payment = payment;
+      line.intCharged = cents.Interest();
+      line.taxCredited = WithoutMinusZero(taxFraction * cents.Interest());
+      line.endingBalance = cents.Balance();
     }
     dates_ = dates;
     running_.balance = Amount(cents.Balance());

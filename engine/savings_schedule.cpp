@@ -82,7 +82,7 @@ class SavingsSchedule {
   }
 
   /// Writes lines as long as they are certain, at most `most`, and returns how many. What changes stands in
-  /// locals, which stay in registers, and each line is written once, as a whole.
+  /// locals, which stay in registers, and each line is made when it is written.
   [[gnu::noinline, gnu::flatten]] int WriteWholeCents(int most, DateSteps& dateSteps) {
     const double factor = growth_.LineFactor();
     if (factor == 0) return 0;
@@ -93,12 +93,14 @@ class SavingsSchedule {
     const double deposit = running_.deposit.value;
     int written = 0;
     for (; written < most && cents.Next(factor); ++written) {
-      lines.push_back({.lineDate = dates.Next(),
-                       .startingBalance = cents.Before(),
-                       .intRate = rate,
-                       .payment = deposit,
-                       .intCredited = cents.Interest(),
-                       .endingBalance = cents.Balance()});
+      const Date date = dates.Next();
+      tSchedule& line = lines.emplace_back();
+      line.lineDate = date;
+      line.startingBalance = cents.Before();
+      line.intRate = rate;
+      line.payment = deposit;
+      line.intCredited = cents.Interest();
+      line.endingBalance = cents.Balance();
     }
     dateSteps = dates;
     running_.balance = Amount(cents.Balance());

@@ -34,8 +34,8 @@ class WholeCents {
     const double raised = hundredfold_ * growth + kNoFraction;
     const double cents = raised - kNoFraction;
     const double next = cents / 100 + deposit_;
-    const bool isCertain =
-        std::abs(balance_ * growth * 100 - cents) < 0.5 && std::abs(cents) <= kMost && next >= 0;
+    // Cents below -kMost leave the next balance below 0, whatever the deposit.
+    const bool isCertain = std::abs(balance_ * growth * 100 - cents) < 0.5 && cents <= kMost && next >= 0;
     if (!isCertain) [[unlikely]]
       return false;
     interest_ = (cents - hundredfold_) / 100;
