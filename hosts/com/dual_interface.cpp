@@ -26,10 +26,10 @@ struct Forwarded<Member> {
   }
 };
 
-template <auto Member>
+template <class Member>
 struct EarlyBound;
-template <class Interface, class... Args, HRESULT (STDMETHODCALLTYPE Interface::*Member)(Args...)>
-struct EarlyBound<Member> {
+template <class Interface, class... Args>
+struct EarlyBound<HRESULT (STDMETHODCALLTYPE Interface::*)(Args...)> {
   template <std::size_t Number>
   static HRESULT STDMETHODCALLTYPE Call(DualInterface* self, Args... arguments) {
     void* const places[] = {static_cast<void*>(&arguments)...};
@@ -50,7 +50,7 @@ std::span<const Function> Vtable(MemberList<Members...>) {
                       Erased(Forwarded<&IDispatch::GetTypeInfo>::Call),
                       Erased(Forwarded<&IDispatch::GetIDsOfNames>::Call),
                       Erased(Forwarded<&IDispatch::Invoke>::Call),
-                      Erased(EarlyBound<Members>::template Call<I>)...};
+                      Erased(EarlyBound<decltype(Members)>::template Call<I>)...};
   }
   (std::make_index_sequence<sizeof...(Members)>{});
   return functions;

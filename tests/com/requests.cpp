@@ -239,7 +239,7 @@ void Print(const json& value, std::vector<std::string>& lines) {
 
 std::vector<std::string> LinesOf(const json& reply) {
   std::vector<std::string> lines{"#" + reply["id"].dump()};
-  if (reply.contains("response")) lines.push_back("R8209");
+  if (reply.contains("response")) lines.emplace_back("R8209");
   if (reply.contains("error")) lines.push_back("!" + reply["error"]["number"].dump());
   return lines;
 }
@@ -289,9 +289,12 @@ int Compare(const std::string& repliesFile, const std::string& linesFile) {
 
 }  // namespace
 
-int main(int count, char** arguments) {
+int main(int count, char** arguments) try {
   if (count == 4 && std::strcmp(arguments[1], "make") == 0)
     return Make(std::stoi(arguments[2]), arguments[3]), 0;
   if (count == 4 && std::strcmp(arguments[1], "compare") == 0) return Compare(arguments[2], arguments[3]);
   return 2;
+} catch (const std::exception& error) {
+  std::cerr << error.what() << '\n';
+  return 1;
 }
