@@ -4,7 +4,7 @@
 //     node bench/vega/compare.mjs build/release/bin/amortix2 build/vega
 //
 // Grouped columns of 12 rows and 3 series with axes, grid, legend and tooltips' texts, and a line of 10,000 points.
-// Vega has its specification parsed anew for each chart, as a server that gets new data does; the program reads
+// Vega has its description parsed anew for each chart, as a server that gets new data does; the program reads
 // each request as a line of JSON and writes its reply, starting the program not counted.
 
 import { createRequire } from "node:module";
@@ -61,8 +61,8 @@ const lineSpec = () => ({
   axes, marks: [{ type: "line", from: { data: "t" }, encode: { enter: { x: { scale: "x", field: "i" }, y: { scale: "y", field: "value" }, stroke: { value: "#08529e" } } } }],
 });
 
-async function theirs(spec, count) {
-  const draw = async () => new vega.View(vega.parse(spec()), { renderer: "none" }).toSVG();
+async function theirs(description, count) {
+  const draw = async () => new vega.View(vega.parse(description()), { renderer: "none" }).toSVG();
   for (let i = 0; i < count / 4; ++i) await draw();  // warm
   const start = process.hrtime.bigint();
   let svg = "";
