@@ -2,6 +2,8 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <locale>
+#include <sstream>
 #include <string>
 
 #include "amortix2/automation/conversion.h"
@@ -84,8 +86,17 @@ class NumberReader {
 
   std::optional<double> Converted() const {
     double value = 0;
+#ifdef __cpp_lib_to_chars
     const auto parsed = std::from_chars(number_.data(), number_.data() + number_.size(), value);
     if (parsed.ec == std::errc{} && std::isfinite(value)) return value;
+#else
+    // A library that reads whole numbers alone so. A stream stores what it read although it calls numbers out
+    // of range a failure.
+    std::istringstream digits(number_);
+    digits.imbue(std::locale::classic());
+    digits >> value;
+    if (std::isfinite(value)) return value;
+#endif
     return IsTooLarge(number_) ? std::nullopt : std::optional(0.0);
   }
 

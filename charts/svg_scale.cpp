@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
-#include <system_error>
 
 #include "amortix2/automation/conversion.h"
 #include "amortix2/automation/date.h"
@@ -25,10 +24,7 @@ struct RoundStep {
   /// Infinite beyond the doubles.
   double Times(double count) const {
     const std::string text = std::to_string(std::llround(count * digit)) + 'e' + std::to_string(exponent);
-    double value = 0;
-    const bool fits = std::from_chars(text.data(), text.data() + text.size(), value).ec == std::errc();
-    if (fits || exponent < 0) return value;
-    return count < 0 ? -HUGE_VAL : HUGE_VAL;
+    return ParseNumber(text).value_or(count < 0 ? -HUGE_VAL : HUGE_VAL);
   }
 };
 

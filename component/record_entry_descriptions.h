@@ -4,6 +4,7 @@
 
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/component/describe.h"
+#include "amortix2/component/record_descriptions.h"
 #include "amortix2/component/table_descriptions.h"
 
 namespace amortix2::describing {

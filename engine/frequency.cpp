@@ -124,9 +124,9 @@ WholePeriods CountWholePeriods(Date start, enumFrequencyType frequency, Date end
 
 Date MakeClampedDate(std::int16_t year, std::int16_t month, std::int16_t day, std::int16_t addYears,
                      std::int16_t addMonths, std::int16_t addDays) {
-  const std::int16_t targetYear = Narrow<std::int16_t>(year + addYears);
-  const std::int16_t targetMonth = Narrow<std::int16_t>(month + addMonths);
-  const std::int16_t targetDay = Narrow<std::int16_t>(day + addDays);
+  const auto targetYear = Narrow<std::int16_t>(year + addYears);
+  const auto targetMonth = Narrow<std::int16_t>(month + addMonths);
+  const auto targetDay = Narrow<std::int16_t>(day + addDays);
   if (addMonths > 0) return ClampToMonth(targetYear, targetMonth, targetDay);
   return MakeDate(targetYear, targetMonth, targetDay);
 }
