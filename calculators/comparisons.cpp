@@ -6,6 +6,7 @@
 
 #include "amortix2/automation/checked.h"
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/calculators/comparison_results.h"
 #include "amortix2/engine/loan_solver.h"
@@ -47,12 +48,14 @@ struct Results {
 }  // namespace
 
 LoanComparison Compare(const RefinancingQuestion& question) {
+  const StandardArithmetic arithmetic;
   const tLoanDesc current = RecordOf(question.current, question.outlook, question.startDate);
   const tLoanDesc proposed = RecordOf(question.proposed, question.outlook, question.startDate);
   return Replaced(current, proposed, question.outlook);
 }
 
 LoanComparison Compare(const PrepaymentQuestion& question) {
+  const StandardArithmetic arithmetic;
   tLoanDesc current = RecordOf(question.current, question.outlook, question.startDate);
   tLoanDesc proposed = current;
   proposed.payment = Finite(current.payment + question.extraPayment);
@@ -63,6 +66,7 @@ LoanComparison Compare(const PrepaymentQuestion& question) {
 }
 
 LoanComparison Compare(const BiWeeklyQuestion& question) {
+  const StandardArithmetic arithmetic;
   const tLoanDesc current = RecordOf(question.current, question.outlook, question.startDate);
   tLoanDesc proposed = current;
   proposed.typ = biWeekly;
@@ -72,6 +76,7 @@ LoanComparison Compare(const BiWeeklyQuestion& question) {
 }
 
 double ExtraPaymentFor(const CurrentLoan& current, double months) {
+  const StandardArithmetic arithmetic;
   const LoanQuestion inTime{
       .amount = current.balance, .months = months, .annualPercent = current.annualPercent};
   return ExtraPayment(PaymentOf(inTime), current.payment);

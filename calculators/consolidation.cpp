@@ -6,6 +6,7 @@
 
 #include "amortix2/automation/checked.h"
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/calculators/comparison_results.h"
 #include "amortix2/engine/amortix.h"
@@ -80,6 +81,7 @@ Array TableOf(const std::vector<ComparedLoan>& loans, double months) {
 }  // namespace
 
 ConsolidationAnswer Compare(const ConsolidationQuestion& question) {
+  const StandardArithmetic arithmetic;
   const auto count = Narrow<std::int32_t>(question.current.size());
   RecordArray<tLoanDesc> loans(1, count + 1);
   RecordArray<tSavingsDesc> savings;

@@ -5,6 +5,7 @@
 
 #include "amortix2/automation/checked.h"
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/calculators/savings_results.h"
 #include "amortix2/calculators/tables.h"
@@ -127,6 +128,7 @@ double RatePerPayment(double annualPercent, enumFrequencyType payments, enumFreq
 }
 
 LeaseAnswer Solve(const LeaseQuestion& question) {
+  const StandardArithmetic arithmetic;
   LeaseQuestion monthly = question;
   if (question.annualPercent) {
     monthly.annualPercent =

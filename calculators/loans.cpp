@@ -5,6 +5,7 @@
 
 #include "amortix2/automation/checked.h"
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/calculators/loan_results.h"
 #include "amortix2/calculators/tables.h"
@@ -58,9 +59,13 @@ bool LeaveOutZero(LoanQuestion& question) {
 
 }  // namespace
 
-LoanAnswer Solve(const LoanQuestion& question) { return calculators::SolveRecord(RecordOf(question)); }
+LoanAnswer Solve(const LoanQuestion& question) {
+  const StandardArithmetic arithmetic;
+  return calculators::SolveRecord(RecordOf(question));
+}
 
 double PaymentOf(const LoanQuestion& question) {
+  const StandardArithmetic arithmetic;
   tLoanDesc loan = RecordOf(question);
   tCreditQualification household;
   SolveLoan(loan, household, false);

@@ -4,6 +4,7 @@
 
 #include "amortix2/automation/checked.h"
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/calculators/loan_results.h"
 #include "amortix2/calculators/loans.h"
@@ -44,12 +45,14 @@ void WriteMortgage(const MortgageAnswer& answer, Variant& vNewPrincipal, Variant
 }  // namespace
 
 MortgageAnswer Solve(const AffordabilityQuestion& question) {
+  const StandardArithmetic arithmetic;
   tCreditQualification household;
   household.monthlyPayment = question.monthlyBudget;
   return SolveMortgage(question, household);
 }
 
 MortgageAnswer Solve(const QualificationQuestion& question) {
+  const StandardArithmetic arithmetic;
   tCreditQualification household;
   household.monthlyIncome = question.annualIncome / 12;
   household.creditCardPayment = question.debts.creditCard;

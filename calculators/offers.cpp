@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/calculators/comparison_results.h"
 #include "amortix2/engine/loan_solver.h"
@@ -45,6 +46,7 @@ RateChanges EvenChanges(double increase, double delay, double cap) {
 }  // namespace
 
 OfferComparison Compare(const OfferQuestion& question) {
+  const StandardArithmetic arithmetic;
   return {Solved(question.first, question), Solved(question.second, question)};
 }
 

@@ -5,6 +5,7 @@
 
 #include "amortix2/automation/checked.h"
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/calculators/loan_results.h"
 #include "amortix2/calculators/loans.h"
@@ -55,6 +56,7 @@ tLoanDesc RecordOf(const PurchaseLoan& loan) {
 }
 
 LoanAnswer Solve(const PurchaseQuestion& question) {
+  const StandardArithmetic arithmetic;
   tLoanDesc loan = RecordOf(question.loan);
   loan.startDate = question.startDate;
   if (question.closingDate)
@@ -68,6 +70,7 @@ Date StartBefore(Date firstPayment) {
 }
 
 BalloonAnswer Solve(const BalloonQuestion& question) {
+  const StandardArithmetic arithmetic;
   LoanAnswer loan = Solve(PurchaseQuestion{.loan = question.loan, .startDate = question.startDate});
   BalloonAnswer answer{.amount = loan.amount, .payment = loan.payment};
   double regular = question.paymentsBefore;

@@ -13,6 +13,9 @@
 // (6.5 is 6.5 %), terms months unless said otherwise, used rounded to a whole number. A value of exactly
 // UNKNOWNLOANVALUE counts as left out.
 //
+// Whatever floating-point state the caller has (trapped exceptions, another rounding), the answers are the
+// same and the state is as it was.
+//
 // Every error is an AutomationError: InvalidProcedureCall when a second quantity is left out (Argument()
 // names it) and for dates past 9999, Overflow for a term or frequency beyond 16 bits and for amounts beyond
 // doubles, DivisionByZero where nothing determines the answer (a payment over 0 months),

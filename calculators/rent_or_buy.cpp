@@ -4,6 +4,7 @@
 
 #include "amortix2/automation/checked.h"
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/calculators/comparison_results.h"
 #include "amortix2/engine/frequency.h"
@@ -92,6 +93,7 @@ Array GridOf(const RentOrBuyAnswer& answer) {
 }  // namespace
 
 RentOrBuyAnswer Compare(const RentOrBuyQuestion& question) {
+  const StandardArithmetic arithmetic;
   tLoanDesc loan = RecordOf(question.buy.loan);
   loan.startDate = question.startDate;
   loan.taxRate = question.outlook.taxPercent;

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/calculators/savings.h"
 #include "amortix2/engine/rounding.h"
@@ -17,6 +18,7 @@ double AfterTax(double beforeTax, double percent) { return RoundToCents(beforeTa
 }  // namespace
 
 RetirementAnswer Solve(const RetirementQuestion& question) {
+  const StandardArithmetic arithmetic;
   SavingsQuestion plan = question.plan;
   plan.frequency = annualMode;
   plan.taxPercent = 0;

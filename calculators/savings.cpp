@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/calculators/savings_results.h"
 #include "amortix2/calculators/tables.h"
@@ -59,6 +60,7 @@ Date DateAfter(Date start, enumFrequencyType frequency, double periods) {
 }
 
 SavingsAnswer Solve(const SavingsQuestion& question) {
+  const StandardArithmetic arithmetic;
   RequireOneUnknown({{"balance", question.balance.has_value()},
                      {"deposit", question.deposit.has_value()},
                      {"annualPercent", question.annualPercent.has_value()},

@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "amortix2/automation/standard_arithmetic.h"
 #include "amortix2/calculators/calculator.h"
 #include "amortix2/calculators/savings_results.h"
 #include "amortix2/calculators/tables.h"
@@ -29,6 +30,7 @@ bool LeaveOutZero(SpendingQuestion& question, double periods) {
 }  // namespace
 
 SpendingAnswer Solve(const SpendingQuestion& question) {
+  const StandardArithmetic arithmetic;
   RequireOneUnknown({{"balance", question.balance.has_value()},
                      {"withdrawal", question.withdrawal.has_value()},
                      {"annualPercent", question.annualPercent.has_value()},

@@ -17,7 +17,7 @@ namespace {
 template <class T>
 OwnedVariant Raw(VARTYPE type, T value) {
   OwnedVariant raw;
-  std::memcpy(type == VT_DECIMAL ? static_cast<void*>(&raw.Get()) : &raw.Get().llVal, &value, sizeof(T));
+  std::memcpy(type == VT_DECIMAL ? static_cast<void*>(&raw.Get()) : &raw.Get().llVal, &value, sizeof value);
   raw.Get().vt = type;
   return raw;
 }
