@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <span>
 
 #include "amortix2/automation/array.h"
 #include "client.h"
@@ -17,7 +18,9 @@ namespace {
 template <class T>
 OwnedVariant Raw(VARTYPE type, T value) {
   OwnedVariant raw;
-  std::memcpy(type == VT_DECIMAL ? static_cast<void*>(&raw.Get()) : &raw.Get().llVal, &value, sizeof value);
+  const auto bytes = std::as_bytes(std::span(&value, 1));
+  std::memcpy(type == VT_DECIMAL ? static_cast<void*>(&raw.Get()) : &raw.Get().llVal, bytes.data(),
+              bytes.size());
   raw.Get().vt = type;
   return raw;
 }
