@@ -75,7 +75,10 @@ std::vector<std::uint8_t> EncodeByGiflib(const Raster& raster) {
   EGifPutScreenDesc(file, raster.Width(), raster.Height(), 8, 0, colours);
   EGifPutImageDesc(file, 0, 0, raster.Width(), raster.Height(), false, nullptr);
   auto* pixels = const_cast<GifPixelType*>(raster.Pixels().data());
-  for (int y = 0; y < raster.Height(); ++y) EGifPutLine(file, pixels + y * raster.Width(), raster.Width());
+  for (int y = 0; y < raster.Height(); ++y) {
+    EGifPutLine(file, pixels, raster.Width());
+    pixels += raster.Width();
+  }
   EGifCloseFile(file, &error);
   GifFreeMapObject(colours);
   return out;
@@ -91,7 +94,7 @@ gdImagePtr DrawByGd() {
   gdImageSetThickness(image, 3);
   const auto column = [](int point) { return (point - 1) * (kWidth - 1) / (kPoints - 1); };
   const auto row = [](int point, int series) {
-    return static_cast<int>(kHeight - Value(point, series) * kHeight / kTop + 0.5);
+    return static_cast<int>(std::lround(kHeight - Value(point, series) * kHeight / kTop));
   };
   for (int series = 1; series <= kSeries; ++series) {
     for (int point = 2; point <= kPoints; ++point) {
