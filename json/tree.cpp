@@ -101,6 +101,15 @@ ParsedTree ParseTree(std::string_view text) {
   return {std::nullopt, read ? nul + 1 : builder.BadByte()};
 }
 
+bool IsUtf8(std::string_view text) {
+  try {
+    static_cast<void>(Tree(text).dump());
+    return true;
+  } catch (const Tree::type_error&) {
+    return false;
+  }
+}
+
 std::optional<double> NumberOf(const Tree& tree) {
   return tree.is_number() ? std::optional(tree.get<double>()) : std::nullopt;
 }

@@ -37,6 +37,9 @@ inline const std::string* TextOf(const Tree& tree) { return tree.get_ptr<const s
 inline const Items* ItemsOf(const Tree& tree) { return tree.get_ptr<const Items*>(); }
 inline const Fields* FieldsOf(const Tree& tree) { return tree.get_ptr<const Fields*>(); }
 
+/// True for bytes that are text in UTF-8.
+bool IsUtf8(std::string_view text);
+
 /// Any number as a double.
 std::optional<double> NumberOf(const Tree& tree);
 

@@ -12,20 +12,10 @@
 namespace amortix2::cli {
 namespace {
 
-bool IsUtf8(const json::Tree& text) {
-  try {
-    static_cast<void>(text.dump());
-    return true;
-  } catch (const json::Tree::type_error&) {
-    return false;
-  }
-}
-
 json::Tree TextOrDate(const std::string& value) {
   if (json::ParseIsoDate(value)) return {{"type", "Date"}, {"value", value}};
-  json::Tree text(value);
-  if (!IsUtf8(text)) throw json::RequestError("a value is no UTF-8 text");
-  return text;
+  if (!json::IsUtf8(value)) throw json::RequestError("a value is no UTF-8 text");
+  return value;
 }
 
 bool OpensJson(std::string_view text) {
