@@ -18,7 +18,7 @@ constexpr Param kLines =
     Result("vRes", "Markup", Unit::List, "The chart, one line of HTML an element").Of(kMarkup);
 constexpr Param kUrl =
     Input("v", "Image", Unit::Text, "URL; anything but text is ignored").Example("black.gif");
-constexpr Param kWidth = kPixels.Span(1, 200, 1);
+constexpr Param kWidth = kPixels.Span(1, 200, 1).Limit(0, 200);
 
 constexpr auto kDescription = describe<BarChart>(
     "Bar chart",

@@ -14,7 +14,7 @@ inline constexpr Param kChartTable =
         .Example(
             R"([["Year", "", ""], ["2027", 2235, 12934], ["2028", 2385, 12784], ["2029", 2545, 12625]])");
 inline constexpr Param kPixels =
-    Input("pixels", "Pixels", Unit::Pixels, "Pixels").Span(1, 2000, 1).Limit(-32768, 32767);
+    Input("pixels", "Pixels", Unit::Pixels, "Pixels").Span(1, 2000, 1).Limit(0, 2000);
 inline constexpr Param kHeight = kPixels.Named("height")
                                      .Titled("Height")
                                      .Says("Height; 0 keeps it")

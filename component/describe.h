@@ -47,6 +47,7 @@ struct About {
   ShortList<ListInfo, 1> lists{};
   ComparisonInfo comparison{};
   std::string_view horizon{};
+  bool reachesFiles = false;
 };
 
 namespace describing {
@@ -72,6 +73,7 @@ struct MemberDescription {
             .parameters = parameters,
             .result = ResultType<F>(),
             .call = Call<F>,
+            .reachesFiles = about.reachesFiles,
             .changesObject = Signature<decltype(F)>::changesObject};
   }
 };

@@ -149,6 +149,7 @@ struct MemberInfo {
   /// then hold what had been written.
   void (*call)(void* object, std::span<void* const> arguments, void* result);
 
+  bool reachesFiles;   ///< reads or writes a file that its caller names
   bool changesObject;  ///< false for a const member: any number of threads may call it at once
 };
 

@@ -49,7 +49,8 @@ constexpr auto kDescription = describe<GifChart>(
          .group = Group::Charts,
          .title = "GIF file",
          .address = "gif-file",
-         .help = "Writes a raster and its palette as a GIF file, whole or not at all."},
+         .help = "Writes a raster and its palette as a GIF file, whole or not at all.",
+         .reachesFiles = true},
         {kPath,
          Input("vImg", "Raster", Unit::Table, "Palette indices 0 to 255, first index x, second y, from 0")
              .Example("[[1, 2], [2, 1]]"),
@@ -59,7 +60,8 @@ constexpr auto kDescription = describe<GifChart>(
          .group = Group::Charts,
          .title = "Read a file through",
          .address = {},
-         .help = "Reads a file of up to 32767 bytes through once and drops what it read."},
+         .help = "Reads a file of up to 32767 bytes through once and drops what it read.",
+         .reachesFiles = true},
         {kPath.Named("x")}),
     method<&GifChart::OnStartPage>(
         {.number = 1,

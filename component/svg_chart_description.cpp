@@ -54,7 +54,7 @@ constexpr Param kColourTable =
           "Colours by red, green and blue, row j for line j; the chart's own without")
         .Nothing();
 constexpr Param kPicture = Result("vRes", "Picture", Unit::Text, "The picture, one SVG document");
-constexpr Param kWidth = kPixels.Span(1, 200, 1);
+constexpr Param kWidth = kPixels.Span(1, 200, 1).Limit(0, 200);
 
 constexpr auto kDescription = describe<SvgChart>(
     "SVG chart",

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "amortix2/json/lookup.h"
+#include "amortix2/json/strangers.h"
 #include "amortix2/json/typed_value.h"
 
 namespace amortix2::json {
@@ -26,8 +27,8 @@ const Variant* VariantIn(const Value& value) {
 
 }  // namespace
 
-Execution::Execution(const Request& request, const Clock& clock, Keep keep) noexcept {
-  error_ = Try([&] { Run(request, clock, keep); });
+Execution::Execution(const Request& request, const Clock& clock, Keep keep, Caller caller) noexcept {
+  error_ = Try([&] { Run(request, clock, keep, caller); });
 }
 
 void Execution::ReadByName(const Fields& fields) {
@@ -42,7 +43,7 @@ void Execution::ReadByName(const Fields& fields) {
   }
 }
 
-void Execution::Apply(const Fields& settings) {
+void Execution::Apply(const Fields& settings, Caller caller) {
   std::vector<const MemberInfo*> applied;
   for (const auto& [name, value] : settings) {
     const MemberInfo& member = NeedMember(object_->Class(), name);
@@ -51,15 +52,18 @@ void Execution::Apply(const Fields& settings) {
     }
     applied.push_back(&member);
     reading_ = member.name;
+    if (caller == Caller::Stranger) CheckOpenSetting(object_->Class(), member);
     Invocation setting(member);
     ReadSetting(value, setting);
+    if (caller == Caller::Stranger) CheckInputs(setting, reading_);
     setting.Call(*object_);
     reading_ = {};
   }
 }
 
-void Execution::Run(const Request& request, const Clock& clock, Keep keep) {
+void Execution::Run(const Request& request, const Clock& clock, Keep keep, Caller caller) {
   const Target target = FindTarget(request.call);
+  if (caller == Caller::Stranger) CheckOpen(target.type, target.method);
   object_.emplace(target.type, clock);
   call_.emplace(target.method);
   if (request.only) {
@@ -69,13 +73,14 @@ void Execution::Run(const Request& request, const Clock& clock, Keep keep) {
   page_ = std::make_shared<CapturedPage>();
   StartPage(*object_, page_);
   ReadByName(request.arguments);
+  if (caller == Caller::Stranger) CheckInputs(*call_, reading_);
   if (keep == Keep::GivenToo) {
     for (const Value& argument : call_->Arguments()) {
       const Variant* variant = VariantIn(argument);
       given_.push_back(variant ? *variant : Variant());
     }
   }
-  Apply(request.settings);
+  Apply(request.settings, caller);
   if (keep != Keep::Results) {
     inputs_.emplace(target.method, call_->Arguments());
     Try([&] { today_ = clock.Today(); });

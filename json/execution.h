@@ -32,11 +32,17 @@ struct Cause {
   std::string_view parameter;  ///< or setting; empty when that is not known
 };
 
+enum class Caller {
+  Owner,     ///< of the machine: may do all that the component can
+  Stranger,  ///< may do what strangers.h allows
+};
+
 class Execution {
  public:
   /// Creates the object, reads the arguments, applies the settings and calls. The clock must outlive the
   /// call. Only with Keep::GivenToo IsUnchanged can be asked.
-  Execution(const Request& request, const Clock& clock, Keep keep = Keep::Results) noexcept;
+  Execution(const Request& request, const Clock& clock, Keep keep = Keep::Results,
+            Caller caller = Caller::Owner) noexcept;
 
   const std::optional<Failure>& Error() const noexcept { return error_; }
 
@@ -65,14 +71,14 @@ class Execution {
 
  private:
   void ReadByName(const Fields& fields);
-  void Apply(const Fields& settings);
-  void Run(const Request& request, const Clock& clock, Keep keep);
+  void Apply(const Fields& settings, Caller caller);
+  void Run(const Request& request, const Clock& clock, Keep keep, Caller caller);
 
   std::optional<Failure> error_;
   std::optional<Object> object_;
   std::optional<Invocation> call_;
   std::optional<std::vector<std::string_view>> only_;
-  std::string_view reading_;  // the argument or setting that is being read or made
+  std::string_view reading_;  // the argument or setting that is being read, made or refused
   std::optional<Date> today_;
   std::optional<Inputs> inputs_;
   std::vector<Variant> given_;

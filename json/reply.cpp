@@ -9,6 +9,7 @@
 #include "amortix2/json/json_text.h"
 #include "amortix2/json/request.h"
 #include "amortix2/json/request_error.h"
+#include "amortix2/json/strangers.h"
 #include "amortix2/json/tree.h"
 #include "amortix2/json/typed_value.h"
 
@@ -86,7 +87,11 @@ std::string Reply(const Execution& execution, const Tree* id, const Options& opt
   const std::optional<Failure>& error = execution.Error();
   if (error && error->ofRequest) return ErrorReply(*error, id, CauseOf(execution, options));
   std::string reply;
-  const auto failure = Try([&] { reply = FullReply(execution, id, options); });
+  const auto failure = Try([&] {
+    if (options.strangers) CheckAnswer(execution);
+    reply = FullReply(execution, id, options);
+    if (options.strangers) CheckReplyLength(reply.size());
+  });
   return failure ? ErrorReply(*failure, id) : reply;
 }
 
@@ -95,9 +100,9 @@ std::string_view Trimmed(std::string_view text) noexcept {
   return text.substr(0, last == std::string_view::npos ? 0 : last + 1);
 }
 
-Tree ParseRequest(std::string_view text) {
-  if (text.size() > kLongestRequest) {
-    throw RequestError("the line is longer than " + std::to_string(kLongestRequest) + " bytes");
+Tree ParseRequest(std::string_view text, std::size_t longest) {
+  if (text.size() > longest) {
+    throw RequestError("the line is longer than " + std::to_string(longest) + " bytes");
   }
   text = Trimmed(text);
   if (text.empty()) throw RequestError("the line is empty");
@@ -114,8 +119,9 @@ std::string Answer(std::string_view requestText, const Options& options, const C
   std::string reply;
   const auto id = [&] { return tree ? FieldNamed(*tree, "id") : nullptr; };
   const auto failure = Try([&] {
-    tree = ParseRequest(requestText);
-    const Execution execution(ReadRequest(*tree), clock, options.notes ? Keep::Inputs : Keep::Results);
+    tree = ParseRequest(requestText, options.LongestRequest());
+    const Execution execution(ReadRequest(*tree), clock, options.notes ? Keep::Inputs : Keep::Results,
+                              options.strangers ? Caller::Stranger : Caller::Owner);
     if (fault && execution.Error() && execution.Error()->ofRequest) *fault = execution.WhyFailed().text;
     reply = Reply(execution, id(), options);
   });

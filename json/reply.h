@@ -10,13 +10,14 @@
 #include <string_view>
 
 #include "amortix2/automation/date.h"
+#include "amortix2/json/strangers.h"
 #include "amortix2/json/variant_writer.h"
 
 namespace amortix2::json {
 
 class Execution;
 
-/// A text longer than this is no request.
+/// A text longer than this is no request; a stranger's may be shorter still.
 inline constexpr std::size_t kLongestRequest = std::size_t{16} << 20;
 
 /// The reply when there is no memory even for an error.
@@ -24,7 +25,12 @@ inline constexpr std::string_view kNoMemoryReply = R"({"error":{"number":7,"name
 
 struct Options {
   Form form = Form::Plain;
-  bool notes = false;  ///< "notes" beside results; "text" and "parameter" in errors of the component
+  bool notes = false;      ///< "notes" beside results; "text" and "parameter" in errors of the component
+  bool strangers = false;  ///< only what strangers.h allows is carried out
+
+  constexpr std::size_t LongestRequest() const {
+    return strangers ? kLongestStrangersRequest : kLongestRequest;
+  }
 };
 
 /// Answers a request, whatever is in the text. An empty text stands for kNoMemoryReply. Where the request

@@ -89,6 +89,9 @@ void AddBatch(CLI::App& app, CommandLine& options) {
   batch.add_flag("--types", options.types, "Write the type of every value");
   batch.add_flag("--notes", options.notes,
                  "Write notes on inputs and answers, and what is wrong where a call fails, into the replies");
+  batch.add_flag("--strangers", options.strangers,
+                 "Requests are strangers': no files, no records, numbers within their limits, answers of at "
+                 "most 1048576 cells and 4194304 bytes");
   AddToday(batch, options.today);
   batch.final_callback([&options] { options.command = Command::Batch; });
 }

@@ -21,6 +21,7 @@ struct CommandLine {
   bool json = false;
   bool types = false;
   bool notes = false;              ///< batch: notes in the replies
+  bool strangers = false;          ///< batch: requests are written by strangers
   bool help = false;               ///< call: the page of the method
   std::vector<std::string> only;   ///< names of results; empty for all
   std::optional<std::string> csv;  ///< the name of a result

@@ -40,7 +40,7 @@ std::unique_ptr<Clock> ClockOf(const CommandLine& line) {
 }
 
 json::Options ReplyOptions(const CommandLine& line) {
-  return {line.types ? json::Form::WithTypes : json::Form::Plain, line.notes};
+  return {line.types ? json::Form::WithTypes : json::Form::Plain, line.notes, line.strangers};
 }
 
 /// Says something on standard error; one that cannot be written changes nothing.
@@ -175,7 +175,8 @@ class BadLines {
 /// Answers until the input ends. Replies are sent at the latest when no complete line is waiting.
 int RunBatch(const CommandLine& line) {
   const auto clock = ClockOf(line);
-  LineReader requests(STDIN_FILENO, json::kLongestRequest);
+  const json::Options options = ReplyOptions(line);
+  LineReader requests(STDIN_FILENO, options.LongestRequest());
   LineWriter replies(STDOUT_FILENO);
   BadLines badLines;
   for (std::uint64_t number = 1;; ++number) {
@@ -183,7 +184,7 @@ int RunBatch(const CommandLine& line) {
     const auto request = requests.Next();
     if (!request) break;
     std::string fault;
-    const std::string reply = json::Answer(*request, ReplyOptions(line), *clock, &fault);
+    const std::string reply = json::Answer(*request, options, *clock, &fault);
     replies.WriteLine(reply.empty() ? json::kNoMemoryReply : reply);
     if (!fault.empty()) badLines.Add(number, fault);
   }

@@ -71,7 +71,7 @@ _amortix2() {
   elif [[ $command == list ]]; then
     COMPREPLY=($(compgen -W "$_amortix2_targets $_amortix2_types --json" -- "$cur"))
   elif [[ $command == batch ]]; then
-    COMPREPLY=($(compgen -W '--help --types --notes --today' -- "$cur"))
+    COMPREPLY=($(compgen -W '--help --types --notes --strangers --today' -- "$cur"))
   elif [[ $command == call ]] && ((COMP_CWORD == 2)); then
     COMPREPLY=($(compgen -W "$_amortix2_targets" -- "$cur"))
   elif [[ $prev == --out ]]; then

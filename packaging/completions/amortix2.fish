@@ -17,6 +17,7 @@ complete -c amortix2 -n '__fish_seen_subcommand_from call' -l help
 complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l help
 complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l types
 complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l notes
+complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l strangers
 complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l today
 complete -c amortix2 -n '__fish_seen_subcommand_from list call; and not __fish_seen_subcommand_from loan Calculator.SimpleLoanCalculator' -a 'loan Calculator.SimpleLoanCalculator' -d 'Loan'
 complete -c amortix2 -n '__fish_seen_subcommand_from loan Calculator.SimpleLoanCalculator' -a 'vLoanType=S vLoanType=C' -d 'Kind of loan'

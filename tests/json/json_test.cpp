@@ -133,6 +133,15 @@ TEST(Json, RequestsGetTheirReplies) {
   }
 }
 
+TEST(Json, StrangersAreKeptWithinLimits) {
+  const auto rows = Rows("strangers.txt");
+  ASSERT_GE(rows.size(), 9u);
+  for (const auto& row : rows) {
+    EXPECT_EQ(Answer(row[0], {.notes = true, .strangers = true}, kClock), row[1]) << row[0];
+    EXPECT_NE(Answer(row[0], {.notes = true}, kClock), row[1]);
+  }
+}
+
 TEST(Json, WhatAnAmortizationReturnsCanBeGivenAgain) {
   const auto solved = [&](const std::string& loans) {
     const std::string reply = Answer(
