@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "amortix2/automation/text_scanner.h"
-#include "amortix2/cli/csv.h"
 #include "amortix2/cli/lines.h"
+#include "amortix2/json/csv.h"
 #include "amortix2/json/request_error.h"
 #include "amortix2/json/variant_reader.h"
 
@@ -44,14 +44,14 @@ json::Tree ReadCell(const std::string& cell) {
 /// A table of the rows; for a parameter that takes no table a list of what is one row or one column, and one
 /// cell as itself.
 json::Tree ReadCsv(std::string_view text, const ParameterInfo* parameter) {
-  const std::vector<CsvRecord> records = ParseCsv(text);
+  const std::vector<json::CsvRecord> records = json::ParseCsv(text);
   const bool isTable = parameter && parameter->unit == Unit::Table;
   const bool isColumn = !records.empty() && records.front().size() == 1;
   const bool isRow = records.size() == 1;
   if (!isTable && isRow && isColumn) return ReadCell(records.front().front());
   json::Tree rows = json::Tree::array();
   json::Tree cells = json::Tree::array();
-  for (const CsvRecord& record : records) {
+  for (const json::CsvRecord& record : records) {
     json::Tree row = json::Tree::array();
     for (const std::string& cell : record) {
       row.push_back(ReadCell(cell));

@@ -19,11 +19,11 @@
 #include "amortix2/cli/listing.h"
 #include "amortix2/cli/product.h"
 #include "amortix2/cli/readable.h"
-#include "amortix2/cli/result_table.h"
 #include "amortix2/common/system_clock.h"
 #include "amortix2/json/execution.h"
 #include "amortix2/json/lookup.h"
 #include "amortix2/json/reply.h"
+#include "amortix2/json/result_table.h"
 
 namespace amortix2::cli {
 namespace {
@@ -122,7 +122,7 @@ void Print(const CommandLine& line, const json::Execution& execution, const Prod
   if (line.json || line.types) {
     WriteAll(STDOUT_FILENO, json::ReplyTo(execution, ReplyOptions(line)) + "\n");
   } else if (line.csv) {
-    WriteAll(STDOUT_FILENO, ResultAsCsv(execution, *line.csv));
+    WriteAll(STDOUT_FILENO, json::ResultAsCsv(execution, *line.csv));
   } else if (line.out == "-") {
     WriteAll(STDOUT_FILENO, product.bytes);
   } else {

@@ -8,6 +8,7 @@
 #include "amortix2/automation/conversion.h"
 #include "amortix2/component/answer.h"
 #include "amortix2/component/invocation.h"
+#include "amortix2/json/plain_text.h"
 
 namespace amortix2::cli {
 namespace {
@@ -46,9 +47,9 @@ void AppendLines(std::string& out, const std::vector<Line>& lines) {
     auto& row = rows.emplace_back();
     row.push_back({std::string(line.name)});
     if (line.value.Type() == VariantType::String) {
-      row.push_back({PlainText(line.value), Align::Free});
+      row.push_back({json::PlainText(line.value), Align::Free});
     } else {
-      row.push_back({PlainText(line.value, line.unit), Align::Right});
+      row.push_back({json::PlainText(line.value, line.unit), Align::Right});
       row.push_back({About(line)});
     }
   }
@@ -90,7 +91,7 @@ void AppendSchedule(std::string& out, const Title& title, const TypeInfo& type, 
                     Rows rows) {
   const Bounds bounds = type.bounds(records);
   AppendHeading(out, title, bounds.Count() == 0 ? "none" : "lines " + Range(bounds));
-  if (bounds.Count() > 0) AppendTable(out, TableOf(type, records), rows);
+  if (bounds.Count() > 0) AppendTable(out, json::TableOf(type, records), rows);
 }
 
 /// The fields that are not zero.
@@ -166,14 +167,14 @@ class Answer {
  private:
   void AddArray(const ParameterInfo& info, const Title& title, const Array& array) {
     const bool isText = array.Rank() == 1 && std::ranges::all_of(array.Cells(), IsTextOrEmpty);
-    const ResultTable table = TableOf(*execution_.Given(), info, array);
+    const json::ResultTable table = json::TableOf(*execution_.Given(), info, array);
     AppendHeading(
         blocks_, title,
         (array.Rank() == 1 ? "elements " : "rows ") + Range(isText ? array.Dimension(1) : table.rows));
     if (isText) {
       AppendText(blocks_, array);
     } else if (array.Rank() == 1) {
-      ResultTable list = table;
+      json::ResultTable list = table;
       list.columns = {""};
       AppendTable(blocks_, list, rows_);
     } else {

@@ -1,23 +1,15 @@
 #include "amortix2/cli/text_table.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <optional>
 #include <utility>
 
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
-#include "amortix2/json/json_text.h"
-#include "amortix2/json/variant_writer.h"
+#include "amortix2/json/plain_text.h"
 
 namespace amortix2::cli {
 namespace {
-
-bool IsNumber(VariantType type) noexcept {
-  return type >= VariantType::Byte && type <= VariantType::Currency;
-}
 
 /// Characters, not bytes.
 std::size_t Width(std::string_view text) noexcept {
@@ -25,59 +17,8 @@ std::size_t Width(std::string_view text) noexcept {
       std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
-/// A double to six decimals at most: enough for any amount or rate, and too few for the noise that binary
-/// fractions leave in differences. Small numbers keep their digits.
-void AppendRounded(std::string& out, double value) {
-  constexpr double kSmall = 1e-3;
-  constexpr double kLarge = 1e9;
-  const double size = std::abs(value);
-  const bool rounded = size >= kSmall && size < kLarge;
-  json::AppendNumber(out, rounded ? std::nearbyint(value * 1e6) / 1e6 : value);
-}
-
-/// The decimals of a number's text; nothing for "1e+20", which is left as it is.
-std::size_t DecimalsOf(std::string_view number) noexcept {
-  const std::size_t point = number.find('.');
-  if (point == std::string_view::npos || number.find('e') != std::string_view::npos) return 0;
-  return number.size() - point - 1;
-}
-
-void Pad(std::string& number, std::size_t decimals) {
-  if (number.find('e') != std::string::npos || decimals == 0) return;
-  if (number.find('.') == std::string::npos) number += '.';
-  number.append(decimals - std::min(decimals, DecimalsOf(number)), '0');
-}
-
-/// The decimals of a unit's numbers; nothing where they have as many as they need.
-std::optional<int> DecimalsOf(Unit unit) noexcept {
-  switch (unit) {
-    case Unit::Currency:
-    case Unit::MonthlyCurrency:
-      return 2;
-    case Unit::Percent:
-    case Unit::AnnualPercent:
-    case Unit::PercentagePoints:
-      return 3;
-    default:
-      return std::nullopt;
-  }
-}
-
-/// Nothing for a number so large that its decimals say nothing.
-std::optional<std::string> Fixed(double value, int decimals) {
-  constexpr double kLarge = 1e15;
-  if (!(std::abs(value) < kLarge)) return std::nullopt;
-  std::array<char, 32> digits;
-  const auto end =
-      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals)
-          .ptr;
-  std::string text(digits.data(), end);
-  if (text.find_first_of("123456789") == std::string::npos && text.starts_with('-')) text.erase(0, 1);
-  return text;
-}
-
 std::size_t Decimals(const Variant& value) {
-  return IsNumber(value.Type()) ? DecimalsOf(PlainText(value)) : 0;
+  return json::IsNumber(value.Type()) ? json::DecimalsOf(json::PlainText(value)) : 0;
 }
 
 /// The rows that are shown; nothing stands for those between.
@@ -100,7 +41,7 @@ std::vector<std::optional<std::int64_t>> ShownRows(Bounds bounds, Rows rows) {
 using ShownRow = std::optional<std::int64_t>;
 
 /// Appends a cell to each row, the first of which is the header.
-void AddColumn(std::vector<std::vector<TextCell>>& lines, const ResultTable& table, std::size_t column,
+void AddColumn(std::vector<std::vector<TextCell>>& lines, const json::ResultTable& table, std::size_t column,
                const std::vector<ShownRow>& shown) {
   std::size_t decimals = 0;
   Align align = Align::Right;
@@ -108,7 +49,7 @@ void AddColumn(std::vector<std::vector<TextCell>>& lines, const ResultTable& tab
     if (!row) continue;
     const Variant value = table.cell(*row, column);
     decimals = std::max(decimals, Decimals(value));
-    if (!IsNumber(value.Type()) && IsGiven(value)) align = Align::Left;
+    if (!json::IsNumber(value.Type()) && IsGiven(value)) align = Align::Left;
   }
   lines.front().push_back({table.columns[column], align});
   for (std::size_t i = 0; i < shown.size(); ++i) {
@@ -116,43 +57,12 @@ void AddColumn(std::vector<std::vector<TextCell>>& lines, const ResultTable& tab
     const Unit unit = table.unit(*shown[i], column);
     // Where units differ by the row, each number has the decimals of its own.
     const bool isPlain = unit == Unit::None;
-    lines[i + 1].push_back({PlainText(table.cell(*shown[i], column), unit, isPlain ? decimals : 0), align});
+    lines[i + 1].push_back(
+        {json::PlainText(table.cell(*shown[i], column), unit, isPlain ? decimals : 0), align});
   }
 }
 
 }  // namespace
-
-std::string PlainText(const Variant& value, Unit unit, std::size_t decimals) {
-  std::string text;
-  if (const auto fixed = DecimalsOf(unit); fixed && IsNumber(value.Type())) {
-    if (auto number = Fixed(NumericOrZero(value), *fixed)) return std::move(*number);
-  }
-  switch (value.Type()) {
-    case VariantType::Empty:
-    case VariantType::Missing:
-    case VariantType::Null:
-      break;
-    case VariantType::Boolean:
-      text = value.GetBoolean() ? "True" : "False";
-      break;
-    case VariantType::Date:
-      text = View(FormatIso(value.GetDate()));
-      break;
-    case VariantType::String:
-      text = value.GetString();
-      std::ranges::replace_if(
-          text, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, ' ');
-      break;
-    case VariantType::Double:
-      AppendRounded(text, value.GetDouble());
-      Pad(text, decimals);
-      break;
-    default:
-      json::AppendVariant(text, value, json::Form::Plain);
-      if (IsNumber(value.Type())) Pad(text, decimals);
-  }
-  return text;
-}
 
 void AppendRows(std::string& out, const std::vector<std::vector<TextCell>>& rows) {
   std::vector<std::size_t> widths;
@@ -176,7 +86,7 @@ void AppendRows(std::string& out, const std::vector<std::vector<TextCell>>& rows
   }
 }
 
-void AppendTable(std::string& out, const ResultTable& table, Rows rows) {
+void AppendTable(std::string& out, const json::ResultTable& table, Rows rows) {
   const std::vector<ShownRow> shown = ShownRows(table.rows, rows);
   std::vector<std::vector<TextCell>> lines{{{}}};
   for (const ShownRow& row : shown) {

@@ -5,9 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "amortix2/automation/variant.h"
-#include "amortix2/cli/result_table.h"
-#include "amortix2/component/meaning.h"
+#include "amortix2/json/result_table.h"
 
 namespace amortix2::cli {
 
@@ -32,10 +30,6 @@ enum class Rows {
 
 /// Appends the rows behind their titles or indices, and above them the columns' titles unless all are empty.
 /// A column of numbers stands to the right, any other to the left.
-void AppendTable(std::string& out, const ResultTable& table, Rows rows);
-
-/// A number, date, text or flag as a person reads it, on one line: money with two decimals, rates with three,
-/// other numbers with at least so many decimals and at most six.
-std::string PlainText(const Variant& value, Unit unit = Unit::None, std::size_t decimals = 0);
+void AppendTable(std::string& out, const json::ResultTable& table, Rows rows);
 
 }  // namespace amortix2::cli

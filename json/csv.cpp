@@ -1,4 +1,4 @@
-#include "amortix2/cli/csv.h"
+#include "amortix2/json/csv.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -6,7 +6,7 @@
 
 #include "amortix2/json/request_error.h"
 
-namespace amortix2::cli {
+namespace amortix2::json {
 namespace {
 
 /// Takes records from a text, one after the other.
@@ -28,7 +28,7 @@ class Reader {
   }
 
   [[noreturn]] void Refuse(const std::string& what) const {
-    throw json::RequestError("line " + std::to_string(line_) + ": " + what);
+    throw RequestError("line " + std::to_string(line_) + ": " + what);
   }
 
  private:
@@ -91,12 +91,12 @@ std::vector<CsvRecord> ParseCsv(std::string_view text) {
     CsvRecord record = reader.Record();
     if (record.size() == 1 && record.front().empty()) continue;
     if (!records.empty() && record.size() != records.front().size()) {
-      throw json::RequestError("line " + std::to_string(line) + " has " + std::to_string(record.size()) +
-                               " values, the first one " + std::to_string(records.front().size()));
+      throw RequestError("line " + std::to_string(line) + " has " + std::to_string(record.size()) +
+                         " values, the first one " + std::to_string(records.front().size()));
     }
     records.push_back(std::move(record));
   }
   return records;
 }
 
-}  // namespace amortix2::cli
+}  // namespace amortix2::json

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace amortix2::cli {
+namespace amortix2::json {
 
 using CsvRecord = std::vector<std::string>;
 
@@ -17,4 +17,4 @@ void AppendCsv(std::string& out, const CsvRecord& record);
 /// not closed or stands within a field, and for a record that is not as long as the first.
 std::vector<CsvRecord> ParseCsv(std::string_view text);
 
-}  // namespace amortix2::cli
+}  // namespace amortix2::json

@@ -11,7 +11,7 @@
 #include "amortix2/component/call_values.h"
 #include "amortix2/json/execution.h"
 
-namespace amortix2::cli {
+namespace amortix2::json {
 
 struct ResultTable {
   std::string corner;                  ///< above the rows' titles
@@ -31,6 +31,6 @@ ResultTable TableOf(const TypeInfo& records, const void* value);
 
 /// The result of this name ("return" too) as CSV: a header of titles, then numbers rounded to six
 /// decimals and without marks for thousands. Raises RequestError for a record, which is no table.
-std::string ResultAsCsv(const json::Execution& execution, std::string_view name);
+std::string ResultAsCsv(const Execution& execution, std::string_view name);
 
-}  // namespace amortix2::cli
+}  // namespace amortix2::json

@@ -1,16 +1,16 @@
-#include "amortix2/cli/result_table.h"
+#include "amortix2/json/result_table.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
-#include "amortix2/cli/csv.h"
-#include "amortix2/cli/text_table.h"
 #include "amortix2/component/invocation.h"
+#include "amortix2/json/csv.h"
+#include "amortix2/json/plain_text.h"
 #include "amortix2/json/request_error.h"
 
-namespace amortix2::cli {
+namespace amortix2::json {
 namespace {
 
 Unit UnitAt(std::span<const HeadingInfo> headings, std::int64_t place) {
@@ -134,7 +134,7 @@ std::string CsvOf(const ResultTable& table) {
 
 std::string ValueAsCsv(const Inputs& inputs, const ParameterInfo& parameter, const Value& value) {
   if (value.Type().kind == TypeKind::RecordArray) return CsvOf(TableOf(value.Type(), value.Get()));
-  if (!value.Type().read) throw json::RequestError(std::string(parameter.name) + " is a record, no table");
+  if (!value.Type().read) throw RequestError(std::string(parameter.name) + " is a record, no table");
   const Variant single = value.Type().read(value.Get());
   if (single.Type() == VariantType::Array) return CsvOf(TableOf(inputs, parameter, single.GetArray()));
   std::string out;
@@ -196,18 +196,18 @@ ResultTable TableOf(const TypeInfo& records, const void* value) {
   return result;
 }
 
-std::string ResultAsCsv(const json::Execution& execution, std::string_view name) {
+std::string ResultAsCsv(const Execution& execution, std::string_view name) {
   const Invocation& call = *execution.Call();
   const ParameterInfo* parameter = FindParameter(call.Member(), name);
   if (parameter && parameter->byReference) {
     const auto place = static_cast<std::size_t>(parameter - call.Member().parameters.data());
     return ValueAsCsv(*execution.Given(), *parameter, call.Arguments()[place]);
   }
-  if (!call.Result()) throw json::RequestError(json::Quoted(name) + " is no result that can be a table");
+  if (!call.Result()) throw RequestError(Quoted(name) + " is no result that can be a table");
   ParameterInfo result;
   result.name = "return";
   result.title = "Returned";
   return ValueAsCsv(*execution.Given(), result, *call.Result());
 }
 
-}  // namespace amortix2::cli
+}  // namespace amortix2::json
