@@ -79,6 +79,18 @@ std::string_view Query::Get(std::string_view name) const noexcept {
   return value ? std::string_view(*value) : std::string_view{};
 }
 
+std::vector<std::string_view> Query::All(std::string_view name) const {
+  std::vector<std::string_view> values;
+  for (const Field& field : fields_) {
+    if (field.name == name) values.push_back(field.value);
+  }
+  return values;
+}
+
+void Query::Append(std::string_view name, std::string_view value) {
+  fields_.push_back({std::string(name), std::string(value)});
+}
+
 void Query::Set(std::string_view name, std::string_view value) {
   const auto first = std::ranges::find(fields_, name, &Field::name);
   if (first == fields_.end()) {

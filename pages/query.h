@@ -32,6 +32,12 @@ class Query {
   /// The same, empty when there is none.
   std::string_view Get(std::string_view name) const noexcept;
 
+  /// All values of a name, in their order. They are the query's and live as long as it is not changed.
+  std::vector<std::string_view> All(std::string_view name) const;
+
+  /// Adds one more value, behind all others.
+  void Append(std::string_view name, std::string_view value);
+
   /// Replaces all values of a name where the first stood, or appends it; Remove takes them out.
   void Set(std::string_view name, std::string_view value);
   void Remove(std::string_view name);

@@ -1,0 +1,95 @@
+#include "amortix2/pages/figure_text.h"
+
+#include <cmath>
+
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/date.h"
+#include "amortix2/automation/number_format.h"
+#include "amortix2/component/answer.h"
+
+namespace amortix2::pages {
+namespace {
+
+std::string Formatted(const NumberPattern& pattern, double number) {
+  std::string text = pattern.Format(number);
+  if (text.ends_with('.')) text.pop_back();
+  // A negative amount that rounds to zero is none.
+  if (text.find_first_of("123456789") == std::string::npos && text.starts_with('-')) text.erase(0, 1);
+  return text;
+}
+
+std::string DateOf(Date date) {
+  std::string text(View(FormatMonthDayYear(date)));
+  text[2] = text[5] = '/';
+  return text;
+}
+
+std::string Counted(double number, const char* one, const char* many) {
+  static const NumberPattern kCount("#,##0.######");
+  return Formatted(kCount, number) + (number == 1 ? one : many);
+}
+
+std::string MonthsText(double months) {
+  constexpr double kYear = 12;
+  if (std::abs(months) < 2 * kYear || std::fmod(months, kYear) != 0)
+    return Counted(months, " month", " months");
+  return Counted(months / kYear, " year", " years");
+}
+
+bool IsPlain(const Variant& value) {
+  return value.Type() != VariantType::Array && value.Type() != VariantType::Boolean && IsNumeric(value);
+}
+
+}  // namespace
+
+std::string CellText(const Variant& value, Unit unit) {
+  static const NumberPattern kMoney("#,##0.00");
+  static const NumberPattern kOther("#,##0.###");
+  if (!IsGiven(value)) return {};
+  if (value.Type() == VariantType::Date) return DateOf(value.GetDate());
+  if (value.Type() == VariantType::String && unit == Unit::Date) {
+    const auto date = ParseDate(value.GetString());
+    return date ? DateOf(*date) : std::string(value.GetString());
+  }
+  if (value.Type() == VariantType::String || !IsPlain(value)) {
+    return value.Type() == VariantType::Array ? std::string() : ToText(value);
+  }
+  const double number = NumericOrZero(value);
+  switch (unit) {
+    case Unit::Currency:
+    case Unit::MonthlyCurrency:
+      return Formatted(kMoney, number);
+    case Unit::Percent:
+    case Unit::AnnualPercent:
+    case Unit::PercentagePoints:
+      return Formatted(kOther, number) + "%";
+    default:
+      return Formatted(kOther, number);
+  }
+}
+
+std::string FigureText(const Variant& value, Unit unit) {
+  if (!IsGiven(value) || !IsPlain(value)) return CellText(value, unit);
+  const double number = NumericOrZero(value);
+  switch (unit) {
+    case Unit::Currency:
+    case Unit::MonthlyCurrency: {
+      std::string text = CellText(value, unit);
+      return text.insert(text.starts_with('-') ? 1 : 0, "$");
+    }
+    case Unit::Months:
+      return MonthsText(number);
+    case Unit::Years:
+      return Counted(number, " year", " years");
+    case Unit::Days:
+      return Counted(number, " day", " days");
+    default:
+      return CellText(value, unit);
+  }
+}
+
+std::string FigureText(const Inputs& inputs, const Variant& value, Unit unit) {
+  return unit == Unit::Periods ? PlainFigure(inputs, value, unit) : FigureText(value, unit);
+}
+
+}  // namespace amortix2::pages
