@@ -66,16 +66,10 @@ SavingsAnswer Solve(const SavingsQuestion& question) {
                      {"annualPercent", question.annualPercent.has_value()},
                      {"endingBalance", question.endingBalance.has_value()},
                      {"periods", question.periods || question.endDate}});
-  tSavingsDesc plan;
-  plan.typ = simpleSavings;
-  plan.startDate = question.startDate;
-  plan.paymentMode = question.frequency;
-  plan.startingBalance = OrUnknown(question.balance);
+  tSavingsDesc plan = PlanOf(question);
   plan.deposit = OrUnknown(question.deposit);
-  plan.intRate = OrUnknown(question.annualPercent);
   plan.endingBalance = OrUnknown(question.endingBalance);
   plan.taxRate = question.taxPercent;
-  plan.endDate = EndOf(question.startDate, question.frequency, question.periods, question.endDate);
   SolveRecord(plan);
   return {.balance = plan.startingBalance,
           .deposit = plan.deposit,

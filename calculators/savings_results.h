@@ -17,6 +17,19 @@ void SolveRecord(tSavingsDesc& plan);
 Date EndOf(Date start, enumFrequencyType frequency, const std::optional<double>& periods,
            const std::optional<Date>& endDate);
 
+/// The engine's record of what questions about saving and spending have in common. Raises as EndOf does.
+template <class Question>
+tSavingsDesc PlanOf(const Question& question) {
+  tSavingsDesc plan;
+  plan.typ = simpleSavings;
+  plan.startDate = question.startDate;
+  plan.paymentMode = question.frequency;
+  plan.startingBalance = OrUnknown(question.balance);
+  plan.intRate = OrUnknown(question.annualPercent);
+  plan.endDate = EndOf(question.startDate, question.frequency, question.periods, question.endDate);
+  return plan;
+}
+
 /// Rows of a plan's table after its opening row: one for each whole period between its dates, and one for
 /// days that are left over.
 std::int32_t RowsWithLeftover(Date start, enumFrequencyType frequency, Date end);

@@ -12,16 +12,13 @@ namespace {
 
 using namespace calculators;
 
-SavingsQuestion YearsPlan(const Variant& vStartDate, double frequency, double years) {
-  SavingsQuestion question{.startDate = ToDate(vStartDate)};
+/// Writes the quantity that `question` leaves out for a plan of whole years, and a table with a row for each
+/// whole period.
+void AnswerYears(SavingsQuestion question, const Variant& vStartDate, double frequency, double years,
+                 double SavingsAnswer::*found, Variant& result, Variant& vDetArray) {
+  question.startDate = ToDate(vStartDate);
   question.frequency = FrequencyOf(frequency);
   question.endDate = DateAfter(question.startDate, annualMode, years);
-  return question;
-}
-
-/// Writes the quantity that `question` leaves out, and a table with a row for each whole period.
-void AnswerYears(const SavingsQuestion& question, double SavingsAnswer::*found, Variant& result,
-                 Variant& vDetArray) {
   const std::int32_t rows =
       CountWholePeriods(question.startDate, question.frequency, *question.endDate).periods;
   const SavingsAnswer answer = Solve(question);
@@ -51,41 +48,29 @@ SavingsAnswer AnswerSum(const SavingsQuestion& question, Variant& vDetArray) {
 void Calculator::AmountSavedCalculator(const Variant& vStartDate, Number vCurrBal, Number vPayment,
                                        Number vFreq, Number vPeriod, Number vIntRate, Variant& vEndBal,
                                        Variant& vDetArray) const {
-  SavingsQuestion question = YearsPlan(vStartDate, vFreq, vPeriod);
-  question.balance = vCurrBal;
-  question.deposit = vPayment;
-  question.annualPercent = vIntRate;
-  AnswerYears(question, &SavingsAnswer::endingBalance, vEndBal, vDetArray);
+  AnswerYears({.balance = vCurrBal, .deposit = vPayment, .annualPercent = vIntRate}, vStartDate, vFreq,
+              vPeriod, &SavingsAnswer::endingBalance, vEndBal, vDetArray);
 }
 
 void Calculator::SavingsRateCalculator(const Variant& vStartDate, Number vCurrBal, Number vPayment,
                                        Number vFreq, Number vPeriod, Number vEndingBal, Variant& vIntRate,
                                        Variant& vDetArray) const {
-  SavingsQuestion question = YearsPlan(vStartDate, vFreq, vPeriod);
-  question.balance = vCurrBal;
-  question.deposit = vPayment;
-  question.endingBalance = vEndingBal;
-  AnswerYears(question, &SavingsAnswer::annualPercent, vIntRate, vDetArray);
+  AnswerYears({.balance = vCurrBal, .deposit = vPayment, .endingBalance = vEndingBal}, vStartDate, vFreq,
+              vPeriod, &SavingsAnswer::annualPercent, vIntRate, vDetArray);
 }
 
 void Calculator::StartingAmountCalculator(const Variant& vStartDate, Number vPayment, Number vFreq,
                                           Number vPeriod, Number vIntRate, Number vEndingBal,
                                           Variant& vCurrBal, Variant& vDetArray) const {
-  SavingsQuestion question = YearsPlan(vStartDate, vFreq, vPeriod);
-  question.deposit = vPayment;
-  question.annualPercent = vIntRate;
-  question.endingBalance = vEndingBal;
-  AnswerYears(question, &SavingsAnswer::balance, vCurrBal, vDetArray);
+  AnswerYears({.deposit = vPayment, .annualPercent = vIntRate, .endingBalance = vEndingBal}, vStartDate,
+              vFreq, vPeriod, &SavingsAnswer::balance, vCurrBal, vDetArray);
 }
 
 void Calculator::DepositCalculator(const Variant& vStartDate, Number vCurrBal, Number vFreq, Number vPeriod,
                                    Number vIntRate, Number vEndingBal, Variant& vPayment,
                                    Variant& vDetArray) const {
-  SavingsQuestion question = YearsPlan(vStartDate, vFreq, vPeriod);
-  question.balance = vCurrBal;
-  question.annualPercent = vIntRate;
-  question.endingBalance = vEndingBal;
-  AnswerYears(question, &SavingsAnswer::deposit, vPayment, vDetArray);
+  AnswerYears({.balance = vCurrBal, .annualPercent = vIntRate, .endingBalance = vEndingBal}, vStartDate,
+              vFreq, vPeriod, &SavingsAnswer::deposit, vPayment, vDetArray);
 }
 
 void Calculator::PresentValueCalculator(const Variant& vStartDate, const Variant& vEndingDate,

@@ -35,14 +35,8 @@ SpendingAnswer Solve(const SpendingQuestion& question) {
                      {"withdrawal", question.withdrawal.has_value()},
                      {"annualPercent", question.annualPercent.has_value()},
                      {"periods", question.periods || question.endDate}});
-  tSavingsDesc plan;
-  plan.typ = simpleSavings;
-  plan.startDate = question.startDate;
-  plan.paymentMode = question.frequency;
-  plan.startingBalance = OrUnknown(question.balance);
+  tSavingsDesc plan = PlanOf(question);
   plan.withdrawal = OrUnknown(question.withdrawal);
-  plan.intRate = OrUnknown(question.annualPercent);
-  plan.endDate = EndOf(question.startDate, question.frequency, question.periods, question.endDate);
   SolveRecord(plan);
   return {.balance = plan.startingBalance,
           .withdrawal = plan.withdrawal,

@@ -83,14 +83,14 @@ void BarChart::MakeChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Varia
   Array& data = PageArray(vColDat);
   if (stacked && style.reversed) ReverseSeries(data, PageArray(Colgif), PageArray(Colleg));
 
-  ChartTable values = PrepareTable(data, KeepsNegatives(style, settings_.negativeBars));
+  ChartTable values = PrepareTable(data, KeepsNegatives(style, settings.negativeBars));
   if (values.Rows() < 1 || values.Series() < 1) Raise(ErrorNumber::DivisionByZero);
   if (style.mode == BarMode::Horizontal && style.reversed) ReverseRows(values);
   const std::optional<ChartTable> totals = stacked ? std::optional(RunningTotals(values)) : std::nullopt;
   const ChartTable& drawn = totals ? *totals : values;
 
-  const bool hasLegend = settings_.showLegend && values.Series() > 1;
-  const bool needsLegends = hasLegend || settings_.altLabelWithLegend;
+  const bool hasLegend = settings.showLegend && values.Series() > 1;
+  const bool needsLegends = hasLegend || settings.altLabelWithLegend;
   const BarChartTexts texts{
       .blank = PageText(blnk),
       .background = style.line ? std::string() : PageText(Colgif, 0),
@@ -102,13 +102,13 @@ void BarChart::MakeChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Varia
       .yCaption = PageText(Yaxis),
   };
   const BarChartInput input{
-      .settings = settings_,
+      .settings = settings,
       .texts = texts,
       .values = values,
       .drawn = drawn,
       .axis = TableAxis(drawn),
-      .tooltipFormat = NumberPattern(settings_.altFormat),
-      .valueLabelFormat = NumberPattern(settings_.valueLabelFormat),
+      .tooltipFormat = NumberPattern(settings.altFormat),
+      .valueLabelFormat = NumberPattern(settings.valueLabelFormat),
       .hasBackground = !style.line,
       .hasLegend = hasLegend,
       .reversedLegend = stacked && style.reversed,
@@ -121,31 +121,17 @@ void BarChart::MakeChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Varia
 void BarChart::AxisRange(const Variant& vColDat, Variant& vTop, Variant& vBottom, Variant& vStep,
                          const Variant& typ) const {
   const ChartStyle style = FindStyle(typ);
-  const ChartTable values = PrepareTable(PageArray(vColDat), KeepsNegatives(style, settings_.negativeBars));
+  const ChartTable values = PrepareTable(PageArray(vColDat), KeepsNegatives(style, settings.negativeBars));
   WriteAxisRange(FindTableAxis(values, style), vTop, vBottom, vStep);
 }
 
-void BarChart::SetGraphDimensions(const Variant& height, const Variant& width) {
-  settings_.graph.Set(height, width);
-}
-void BarChart::SetAxisGif(const Variant& v) { SetImage(settings_.axisImage, v); }
-void BarChart::SetSpaceGif(const Variant& v) { SetImage(settings_.spaceImage, v); }
+void BarChart::SetAxisGif(const Variant& v) { SetImage(settings.axisImage, v); }
+void BarChart::SetSpaceGif(const Variant& v) { SetImage(settings.spaceImage, v); }
 
-void BarChart::MinimumColumnWidth(const Variant& value) { settings_.minimumColumnWidth = WholeNumber(value); }
-void BarChart::MaximumColumnWidth(const Variant& value) { settings_.maximumColumnWidth = WholeNumber(value); }
+void BarChart::MinimumColumnWidth(const Variant& value) { settings.minimumColumnWidth = WholeNumber(value); }
 void BarChart::MinimumOverlapSpace(const Variant& value) {
-  settings_.minimumOverlapSpace = WholeNumber(value);
+  settings.minimumOverlapSpace = WholeNumber(value);
 }
-void BarChart::MinimumOverlapCount(const Variant& value) {
-  settings_.minimumOverlapCount = NumericOrZero(value);
-}
-void BarChart::TotalGraphFrameWidth(const Variant& value) { settings_.totalFrameWidth = WholeNumber(value); }
-void BarChart::UseStyleSheets(const Variant& value) { settings_.useStyleSheets = Flag(value); }
-void BarChart::YLabelMode(const Variant& value) { settings_.valueLabels = ReadValueLabels(value); }
-void BarChart::NegativeBars(const Variant& value) { settings_.negativeBars = Flag(value); }
-void BarChart::SupressLegend(const Variant& value) { settings_.showLegend = !Flag(value); }
-void BarChart::AltFormatStr(const Variant& value) { settings_.altFormat = ToText(value); }
-void BarChart::YLableFormatStr(const Variant& value) { settings_.valueLabelFormat = ToText(value); }
-void BarChart::AltLabelWithLegend(const Variant& value) { settings_.altLabelWithLegend = Flag(value); }
+void BarChart::SupressLegend(const Variant& value) { settings.showLegend = !Flag(value); }
 
 }  // namespace amortix2

@@ -11,7 +11,7 @@
 
 namespace AMORTIX2_PUBLIC amortix2 {
 
-class BarChart {
+class BarChart : public ChartProperties<BarChartSettings> {
  public:
   /// MakeChart in the style "ST".
   void StackChart(Variant& vColDat, Variant& blnk, Variant& Colgif, Variant& Colleg, Variant& Ttl,
@@ -44,31 +44,14 @@ class BarChart {
   void AxisRange(const Variant& vColDat, Variant& vTop, Variant& vBottom, Variant& vStep,
                  const Variant& typ = kMissing) const;
 
-  /// Height and width of the plot in pixels; 0 keeps the old value.
-  void SetGraphDimensions(const Variant& height, const Variant& width);
-
   // URLs of one-pixel images; anything but text is ignored.
   void SetAxisGif(const Variant& v);
   void SetSpaceGif(const Variant& v);
 
-  // Write-only properties. Numbers in the place of a flag: not 0 is true. Whole numbers are rounded half to
-  // even. Each raises Overflow for a number outside 16 bits where it keeps a whole number, and TypeMismatch
-  // for a value without text where it keeps a text; the setting is then as it was.
+  // Write-only properties, with the errors of ChartProperties.
   void MinimumColumnWidth(const Variant& value);
-  void MaximumColumnWidth(const Variant& value);
   void MinimumOverlapSpace(const Variant& value);
-  void MinimumOverlapCount(const Variant& value);
-  void TotalGraphFrameWidth(const Variant& value);
-  void UseStyleSheets(const Variant& value);
-  void YLabelMode(const Variant& value);
-  void NegativeBars(const Variant& value);
   void SupressLegend(const Variant& value);
-  void AltFormatStr(const Variant& value);
-  void YLableFormatStr(const Variant& value);
-  void AltLabelWithLegend(const Variant& value);
-
- private:
-  BarChartSettings settings_;
 };
 
 }  // namespace amortix2

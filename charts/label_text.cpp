@@ -1,32 +1,16 @@
 #include "amortix2/charts/label_text.h"
 
-#include <array>
 #include <cstddef>
+
+#include "amortix2/charts/text_width.h"
 
 namespace amortix2 {
 namespace {
 
-using Tenths = std::int64_t;  // of a pixel
+using Tenths = std::int64_t;  // of a pixel, at a font size of ten pixels hundredths of it
 
-constexpr Tenths kForeign = 77;  // letters beyond ASCII
-constexpr std::uint8_t kWidest = 111;
+constexpr Tenths kReference = 77;  // most stand for a letter
 constexpr Tenths kEllipsis = 100;
-
-// Of the characters of ASCII.
-constexpr auto kWidths = [] {
-  struct Class {
-    std::string_view characters;
-    std::uint8_t width;
-  };
-  constexpr Class kClasses[] = {{" .,-/:;ijl'|", 34},    {"IJft()[]!", 41},       {"r\"`*\\", 50},
-                                {"ABCEFKLPRSTVXYZ", 77}, {"DGHNOQUw&+=<>~#", 88}, {"mMW%@", kWidest}};
-  std::array<std::uint8_t, 128> widths{};
-  widths.fill(64);  // digits and most small letters
-  for (const Class& one : kClasses) {
-    for (const char c : one.characters) widths[static_cast<unsigned char>(c)] = one.width;
-  }
-  return widths;
-}();
 
 // A part of a label that is never divided: a character, a character reference, or a tag.
 struct Unit {
@@ -34,25 +18,19 @@ struct Unit {
   Tenths width;
 };
 
-// The first unit of a text that is not empty. What is no UTF-8 counts byte by byte.
+// The first unit of a text that is not empty.
 Unit FirstUnit(std::string_view text) {
   constexpr std::size_t kLongestReference = 10;
-  constexpr unsigned char kFirstOfThreeBytes =
-      0xE1;  // from U+1000 on letters may be as wide as they are high
-  const auto lead = static_cast<unsigned char>(text.front());
-  if (lead < kWidths.size() && lead != '<' && lead != '&') return {text.substr(0, 1), kWidths[lead]};
-  if (lead == '<') {
+  if (text.front() == '<') {
     const std::size_t end = text.find('>');
     if (end != std::string_view::npos) return {text.substr(0, end + 1), 0};
   }
-  if (lead == '&') {
+  if (text.front() == '&') {
     const std::size_t end = text.substr(0, kLongestReference).find(';');
-    if (end != std::string_view::npos) return {text.substr(0, end + 1), kForeign};
+    if (end != std::string_view::npos) return {text.substr(0, end + 1), kReference};
   }
-  if (lead < kWidths.size()) return {text.substr(0, 1), kWidths[lead]};
-  std::size_t size = 1;
-  while (size < text.size() && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80) ++size;
-  return {text.substr(0, size), lead < kFirstOfThreeBytes ? kForeign : kWidest};
+  const CodePoint first = FirstCodePoint(text);
+  return {text.substr(0, first.length), CharacterWidth(first.value)};
 }
 
 Tenths Width(std::string_view text) {

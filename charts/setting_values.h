@@ -5,7 +5,6 @@
 #include <cstdint>
 
 #include "amortix2/automation/conversion.h"
-#include "amortix2/charts/bar_settings.h"
 
 namespace amortix2 {
 
@@ -14,11 +13,5 @@ inline std::int16_t WholeNumber(const Variant& value) { return ToInteger(Numeric
 
 /// Whether it is a number other than 0.
 inline bool Flag(const Variant& value) { return NumericOrZero(value) != 0; }
-
-/// A written YLabelMode: 11 labels all values, 3 the middle too, anything else the ends.
-inline ValueLabels ReadValueLabels(const Variant& value) {
-  const double written = NumericOrZero(value);
-  return written == 11 ? ValueLabels::All : written == 3 ? ValueLabels::EndsAndMiddle : ValueLabels::Ends;
-}
 
 }  // namespace amortix2

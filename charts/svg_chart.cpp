@@ -78,17 +78,16 @@ void SvgChart::MakeChart(const Variant& vColDat, const Variant& /*blnk*/, const 
                          const Variant& Colleg, const Variant& Ttl, const Variant& Xaxis,
                          const Variant& Yaxis, Variant& vRes, const Variant& typ) const {
   const ChartStyle style = FindStyle(typ);
-  SvgInput input{
-      .settings = settings_,
-      .table = ReadSvgTable(vColDat, Colleg, settings_, settings_.negativeBars || style.line, false),
-      .style = style,
-      .isLine = false,
-      .axis = {},
-      .colours = ReadColours(Colgif),
-      .frameTitle = TitleAt(Ttl, 1),
-      .title = Either(TitleAt(Ttl, 2), settings_.title),
-      .xTitle = Either(OptionalText(Xaxis), settings_.xTitle),
-      .yTitle = Either(OptionalText(Yaxis), settings_.yTitle)};
+  SvgInput input{.settings = settings,
+                 .table = ReadSvgTable(vColDat, Colleg, settings, settings.negativeBars || style.line, false),
+                 .style = style,
+                 .isLine = false,
+                 .axis = {},
+                 .colours = ReadColours(Colgif),
+                 .frameTitle = TitleAt(Ttl, 1),
+                 .title = Either(TitleAt(Ttl, 2), settings.title),
+                 .xTitle = Either(OptionalText(Xaxis), settings.xTitle),
+                 .yTitle = Either(OptionalText(Yaxis), settings.yTitle)};
   input.axis = FindTableAxis(input.table.values, style);
   if (style.mode == BarMode::Horizontal && style.reversed) ReverseRows(input.table);
   vRes = std::string_view(DrawSvg(input));
@@ -96,17 +95,17 @@ void SvgChart::MakeChart(const Variant& vColDat, const Variant& /*blnk*/, const 
 
 void SvgChart::LineChart(const Variant& vColDat, const Variant& vPal, const Variant& /*typ*/,
                          Variant& vRes) const {
-  SvgInput input{.settings = settings_,
-                 .table = ReadSvgTable(vColDat, {}, settings_, true, true),
+  SvgInput input{.settings = settings,
+                 .table = ReadSvgTable(vColDat, {}, settings, true, true),
                  .style = {},
                  .isLine = true,
                  .axis = {},
                  .colours = {},
                  .frameTitle = {},
-                 .title = settings_.title,
-                 .xTitle = settings_.xTitle,
-                 .yTitle = settings_.yTitle};
-  input.axis = settings_.axisFromData ? DataAxis(input.table) : FindTableAxis(input.table.values, {});
+                 .title = settings.title,
+                 .xTitle = settings.xTitle,
+                 .yTitle = settings.yTitle};
+  input.axis = settings.axisFromData ? DataAxis(input.table) : FindTableAxis(input.table.values, {});
   input.colours = ReadPaletteColours(vPal, input.table.names.size());
   vRes = std::string_view(DrawSvg(input));
 }
@@ -114,29 +113,25 @@ void SvgChart::LineChart(const Variant& vColDat, const Variant& vPal, const Vari
 void SvgChart::AxisRange(const Variant& vColDat, Variant& vTop, Variant& vBottom, Variant& vStep,
                          const Variant& typ) const {
   const ChartStyle style = FindStyle(typ);
-  const ChartTable values = PrepareTable(PageArray(vColDat), settings_.negativeBars || style.line);
+  const ChartTable values = PrepareTable(PageArray(vColDat), settings.negativeBars || style.line);
   WriteAxisRange(FindTableAxis(values, style), vTop, vBottom, vStep);
 }
 
 void SvgChart::DataTable(const Variant& vColDat, const Variant& Colleg, const Variant& Ttl,
                          Variant& vRes) const {
-  const SvgTable table = ReadSvgTable(vColDat, Colleg, settings_, true, false);
+  const SvgTable table = ReadSvgTable(vColDat, Colleg, settings, true, false);
   const std::string corner = OptionalText(PageArray(vColDat).At(0, 0));
-  vRes = std::string_view(TableAsHtml(table, corner, HeadingOf(Ttl, settings_), settings_.altFormat));
+  vRes = std::string_view(TableAsHtml(table, corner, HeadingOf(Ttl, settings), settings.altFormat));
 }
 
 void SvgChart::AlternativeText(const Variant& vColDat, const Variant& Colleg, const Variant& Ttl,
                                Variant& vRes) const {
-  const SvgTable table = ReadSvgTable(vColDat, Colleg, settings_, true, false);
-  std::string text = HeadingOf(Ttl, settings_);
+  const SvgTable table = ReadSvgTable(vColDat, Colleg, settings, true, false);
+  std::string text = HeadingOf(Ttl, settings);
   if (!text.empty()) text += ". ";
   std::string escaped;
-  AppendEscaped(escaped, text + SeriesInWords(table, settings_.altFormat));
+  AppendEscaped(escaped, text + SeriesInWords(table, settings.altFormat));
   vRes = std::string_view(escaped);
-}
-
-void SvgChart::SetGraphDimensions(const Variant& height, const Variant& width) {
-  settings_.graph.Set(height, width);
 }
 
 void SvgChart::SetAxisGif(const Variant& /*v*/) {}
@@ -144,43 +139,32 @@ void SvgChart::SetSpaceGif(const Variant& /*v*/) {}
 void SvgChart::MinimumColumnWidth(const Variant& /*value*/) {}
 void SvgChart::MinimumOverlapSpace(const Variant& /*value*/) {}
 
-void SvgChart::MaximumColumnWidth(const Variant& value) { settings_.maximumColumnWidth = WholeNumber(value); }
-void SvgChart::MinimumOverlapCount(const Variant& value) {
-  settings_.minimumOverlapCount = NumericOrZero(value);
-}
-void SvgChart::TotalGraphFrameWidth(const Variant& value) { settings_.totalFrameWidth = WholeNumber(value); }
-void SvgChart::UseStyleSheets(const Variant& value) { settings_.useStyleSheets = Flag(value); }
-void SvgChart::YLabelMode(const Variant& value) { settings_.valueLabels = ReadValueLabels(value); }
-void SvgChart::NegativeBars(const Variant& value) { settings_.negativeBars = Flag(value); }
 void SvgChart::SupressLegend(const Variant& value) {
-  settings_.legend = Flag(value) ? LegendPlace::None : LegendPlace::Below;
+  settings.legend = Flag(value) ? LegendPlace::None : LegendPlace::Below;
 }
-void SvgChart::AltFormatStr(const Variant& value) { settings_.altFormat = ToText(value); }
-void SvgChart::YLableFormatStr(const Variant& value) { settings_.valueLabelFormat = ToText(value); }
-void SvgChart::AltLabelWithLegend(const Variant& value) { settings_.altLabelWithLegend = Flag(value); }
-void SvgChart::Title(const Variant& value) { settings_.title = PageText(value); }
-void SvgChart::Caption(const Variant& value) { settings_.caption = PageText(value); }
-void SvgChart::XAxisTitle(const Variant& value) { settings_.xTitle = PageText(value); }
-void SvgChart::YAxisTitle(const Variant& value) { settings_.yTitle = PageText(value); }
+void SvgChart::Title(const Variant& value) { settings.title = PageText(value); }
+void SvgChart::Caption(const Variant& value) { settings.caption = PageText(value); }
+void SvgChart::XAxisTitle(const Variant& value) { settings.xTitle = PageText(value); }
+void SvgChart::YAxisTitle(const Variant& value) { settings.yTitle = PageText(value); }
 
 void SvgChart::SeriesNames(const Variant& value) {
   const Array& list = PageArray(value);
   std::vector<std::string> names;
   for (std::int32_t i = 1; list.Dimension(1).Contains(i); ++i) names.push_back(PageText(value, i));
-  settings_.seriesNames = std::move(names);
+  settings.seriesNames = std::move(names);
 }
 
 void SvgChart::RowAxisKind(const Variant& value) {
-  settings_.rowAxis = ReadWord<RowAxis>(value, {"text", "number", "date"});
+  settings.rowAxis = ReadWord<RowAxis>(value, {"text", "number", "date"});
 }
 void SvgChart::LegendPosition(const Variant& value) {
-  settings_.legend = ReadWord<LegendPlace>(value, {"below", "above", "none"});
+  settings.legend = ReadWord<LegendPlace>(value, {"below", "above", "none"});
 }
 void SvgChart::ValueLabelMode(const Variant& value) {
-  settings_.pointLabels = ReadWord<PointLabelMode>(value, {"off", "on", "ends"});
+  settings.pointLabels = ReadWord<PointLabelMode>(value, {"off", "on", "ends"});
 }
-void SvgChart::AxisFromData(const Variant& value) { settings_.axisFromData = Flag(value); }
-void SvgChart::LineMarkers(const Variant& value) { settings_.markers = Flag(value); }
-void SvgChart::LineDashes(const Variant& value) { settings_.dashes = Flag(value); }
+void SvgChart::AxisFromData(const Variant& value) { settings.axisFromData = Flag(value); }
+void SvgChart::LineMarkers(const Variant& value) { settings.markers = Flag(value); }
+void SvgChart::LineDashes(const Variant& value) { settings.dashes = Flag(value); }
 
 }  // namespace amortix2

@@ -12,7 +12,7 @@
 
 namespace AMORTIX2_PUBLIC amortix2 {
 
-class SvgChart {
+class SvgChart : public ChartProperties<SvgSettings> {
  public:
   /// MakeChart in the style "ST".
   void StackChart(const Variant& vColDat, const Variant& blnk, const Variant& Colgif, const Variant& Colleg,
@@ -51,28 +51,15 @@ class SvgChart {
   void AlternativeText(const Variant& vColDat, const Variant& Colleg, const Variant& Ttl,
                        Variant& vRes) const;
 
-  /// Height and width of the plot in pixels; 0 keeps the old value. Plots are at least 40 high and 60 wide,
-  /// and horizontal ones grow with their rows.
-  void SetGraphDimensions(const Variant& height, const Variant& width);
-
   // What HTML charts need and pictures do not: accepted and not read.
   void SetAxisGif(const Variant& v);
   void SetSpaceGif(const Variant& v);
   void MinimumColumnWidth(const Variant& value);
   void MinimumOverlapSpace(const Variant& value);
 
-  // Write-only properties. Numbers, flags and texts are read as BarChart's, with its errors; a word that is
-  // none of those named counts as the first.
-  void MaximumColumnWidth(const Variant& value);
-  void MinimumOverlapCount(const Variant& value);
-  void TotalGraphFrameWidth(const Variant& value);
-  void UseStyleSheets(const Variant& value);
-  void YLabelMode(const Variant& value);
-  void NegativeBars(const Variant& value);
+  // Write-only properties, with the errors of ChartProperties; a word that is none of those named counts as
+  // the first. Plots are at least 40 high and 60 wide, and horizontal ones grow with their rows.
   void SupressLegend(const Variant& value);
-  void AltFormatStr(const Variant& value);
-  void YLableFormatStr(const Variant& value);
-  void AltLabelWithLegend(const Variant& value);
   void Title(const Variant& value);
   void Caption(const Variant& value);
   void XAxisTitle(const Variant& value);
@@ -84,9 +71,6 @@ class SvgChart {
   void AxisFromData(const Variant& value);
   void LineMarkers(const Variant& value);
   void LineDashes(const Variant& value);
-
- private:
-  SvgSettings settings_;
 };
 
 }  // namespace amortix2

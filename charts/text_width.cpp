@@ -1,32 +1,42 @@
 #include "amortix2/charts/text_width.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
-#include <iterator>
 
 namespace amortix2 {
 namespace {
 
-// Thousandths of the font size, from the blank on.
-constexpr std::uint16_t kWidths[] = {
-    317, 400, 459, 837, 636, 950, 779, 274, 390, 390, 500, 837, 317, 360,  317, 336, 636, 636, 636,
-    636, 636, 636, 636, 636, 636, 636, 336, 336, 837, 837, 837, 530, 1000, 684, 686, 698, 770, 631,
-    575, 774, 751, 294, 294, 655, 557, 862, 748, 787, 603, 787, 694, 634,  610, 731, 684, 988, 685,
-    610, 685, 390, 336, 390, 837, 500, 500, 612, 634, 549, 634, 615, 352,  634, 633, 277, 277, 579,
-    277, 974, 633, 611, 634, 634, 411, 520, 392, 633, 591, 817, 591, 591,  524, 636, 336, 636, 837};
+constexpr std::uint8_t kForeign = 77;  // letters beyond ASCII
+constexpr std::uint8_t kWidest = 111;
+
+// Of the characters of ASCII.
+constexpr auto kWidths = [] {
+  struct Class {
+    std::string_view characters;
+    std::uint8_t width;
+  };
+  constexpr Class kClasses[] = {{" .,-/:;ijl'|", 34},    {"IJft()[]!", 41},       {"r\"`*\\", 50},
+                                {"ABCEFKLPRSTVXYZ", 77}, {"DGHNOQUw&+=<>~#", 88}, {"mMW%@", kWidest}};
+  std::array<std::uint8_t, 128> widths{};
+  widths.fill(64);  // digits and most small letters
+  for (const Class& one : kClasses) {
+    for (const char c : one.characters) widths[static_cast<unsigned char>(c)] = one.width;
+  }
+  return widths;
+}();
 
 constexpr std::string_view kEllipsis = "\xE2\x80\xA6";
 constexpr double kEllipsisWidth = 1.0;
 constexpr double kBold = 1.2;
 
-double Width(char32_t c) {
-  constexpr char32_t kFirstWide = 0x1100;  // from here on scripts of square characters
-  if (c >= U' ' && c < U' ' + std::size(kWidths)) return kWidths[c - U' '] / 1000.0;
-  if (c < U' ') return 0;
-  return c < kFirstWide ? 0.8 : 1.05;
-}
-
 }  // namespace
+
+int CharacterWidth(char32_t c) {
+  constexpr char32_t kFirstWide = 0x1000;  // from here on letters may be as wide as they are high
+  if (c < kWidths.size()) return kWidths[c];
+  return c < kFirstWide ? kForeign : kWidest;
+}
 
 CodePoint FirstCodePoint(std::string_view text) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
@@ -46,13 +56,13 @@ CodePoint FirstCodePoint(std::string_view text) {
 }
 
 double TextWidth(std::string_view text, double size) {
-  double width = 0;
+  std::int64_t hundredths = 0;
   while (!text.empty()) {
     const CodePoint point = FirstCodePoint(text);
-    width += Width(point.value);
+    hundredths += CharacterWidth(point.value);
     text.remove_prefix(point.length);
   }
-  return width * size;
+  return static_cast<double>(hundredths) * size / 100;
 }
 
 double BoldTextWidth(std::string_view text, double size) { return kBold * TextWidth(text, size); }
@@ -63,7 +73,7 @@ std::string Shorten(std::string_view text, double width, double size) {
   std::size_t kept = 0;
   while (kept < text.size()) {
     const CodePoint point = FirstCodePoint(text.substr(kept));
-    left -= Width(point.value);
+    left -= CharacterWidth(point.value) / 100.0;
     if (left < 0) break;
     kept += point.length;
   }

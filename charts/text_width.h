@@ -1,6 +1,6 @@
 #pragma once
 
-// How much room a text takes, without asking a browser: widths of a wide common sans-serif face, so that a
+// How much room a text takes, without asking a browser: widths of wide sans-serif faces, so that a
 // text is hardly ever wider than said here whatever face the reader has. Also cutting and wrapping texts to a
 // width. Texts are UTF-8; bytes that are none count as one character each.
 
@@ -10,6 +10,9 @@
 #include <vector>
 
 namespace amortix2 {
+
+/// A character's width in hundredths of the font size: a wide class, since no server knows the reader's face.
+int CharacterWidth(char32_t c);
 
 struct CodePoint {
   char32_t value;

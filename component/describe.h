@@ -58,6 +58,8 @@ struct MemberDescription {
   MemberKind kind;
   std::array<ParameterInfo, N> parameters;
 
+  /// Of the class C, which may have inherited the member.
+  template <class C>
   constexpr MemberInfo Info() const {
     return {.name = NameOf<F>(),
             .title = about.title,
@@ -72,7 +74,7 @@ struct MemberDescription {
             .horizon = about.horizon,
             .parameters = parameters,
             .result = ResultType<F>(),
-            .call = Call<F>,
+            .call = Call<C, F>,
             .reachesFiles = about.reachesFiles,
             .changesObject = Signature<decltype(F)>::changesObject};
   }
@@ -108,8 +110,9 @@ struct ClassTables {
   static constexpr auto kMembers = [] {
     std::array<MemberInfo, kNumbers.size()> members{};
     std::size_t next = 0;
-    std::apply([&](const auto&... member) { ((members[kNumbers[next++] - 1] = member.Info()), ...); },
-               Description.members);
+    std::apply(
+        [&](const auto&... member) { ((members[kNumbers[next++] - 1] = member.template Info<C>()), ...); },
+        Description.members);
     if (!AllDistinct(members)) throw "two members have the same name";
     return members;
   }();
@@ -152,7 +155,7 @@ consteval auto MakeMember(MemberKind kind, const About& about, const Param (&par
   (std::make_index_sequence<N>{});
   if (!AllHelpful(member.parameters)) throw "a parameter has no name or no help";
   if (!AllDistinct(member.parameters)) throw "two parameters have the same name";
-  MemberChecks(member.parameters).Run(member.Info());
+  MemberChecks(member.parameters).Run(member.template Info<typename Signature<Type>::Class>());
   return member;
 }
 

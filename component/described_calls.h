@@ -37,10 +37,10 @@ template <class T>
 constexpr bool kIsReferenceOut =
     std::is_lvalue_reference_v<T> && !std::is_const_v<std::remove_reference_t<T>>;
 
-template <auto F, std::size_t... I>
+template <class C, auto F, std::size_t... I>
 void CallWith(void* object, std::span<void* const> arguments, void* result, std::index_sequence<I...>) {
   using Type = decltype(F);
-  auto& self = *static_cast<typename Signature<Type>::Class*>(object);
+  auto& self = *static_cast<C*>(object);
   using Result = typename Signature<Type>::Result;
   const auto invoke = [&] {
     return (self.*F)(*static_cast<typename HeldType<Argument<Type, I>>::Type*>(arguments[I])...);
@@ -52,11 +52,12 @@ void CallWith(void* object, std::span<void* const> arguments, void* result, std:
   }
 }
 
-template <auto F>
+/// `object` is a C, whose own or inherited member F is.
+template <class C, auto F>
 void Call(void* object, std::span<void* const> arguments, void* result) {
   if (arguments.size() != Signature<decltype(F)>::arity) Raise(ErrorNumber::ArgumentNotOptional);
   const StandardArithmetic standard;
-  CallWith<F>(object, arguments, result, std::make_index_sequence<Signature<decltype(F)>::arity>{});
+  CallWith<C, F>(object, arguments, result, std::make_index_sequence<Signature<decltype(F)>::arity>{});
 }
 
 template <auto F>

@@ -12,11 +12,9 @@
 #include "amortix2/automation/error.h"
 #include "amortix2/engine/adjustable_rate.h"
 #include "amortix2/engine/biweekly_schedule.h"
-#include "amortix2/engine/date_steps.h"
 #include "amortix2/engine/frequency.h"
 #include "amortix2/engine/payment_factors.h"
 #include "amortix2/engine/schedule_parts.h"
-#include "amortix2/engine/whole_cents.h"
 
 namespace amortix2 {
 namespace {
@@ -77,37 +75,24 @@ class MonthlyLines {
     const int count = layout_.regular;
     const bool isLevel = loan_.typ != creditCard && !rate_.MayChange();
     for (int k = 1; k <= count;) {
-      if (isLevel) k += WriteWholeCents(count + 1 - k);
+      if (isLevel) k += WriteCertainLines(count + 1 - k);
       const int last = isLevel ? std::min(count, k + kPlainLines - 1) : count;
       WritePlainLines(k, last);
       k = last + 1;
     }
   }
 
-  /// Writes lines as long as they are certain, at most `most`, and returns how many. Each is made
-  /// when it is written.
-  [[gnu::noinline, gnu::flatten]] int WriteWholeCents(int most) {
-    WholeCents cents(running_.balance.value, -running_.payment.value);
-    DateSteps dates = dates_;
-    const double growth = growth_;
-    const double annualRate = (growth - 1) * 1200;
+  [[gnu::noinline, gnu::flatten]] int WriteCertainLines(int most) {
+    const double annualRate = (growth_ - 1) * 1200;
     const double payment = running_.payment.value;
     const double taxFraction = running_.taxFraction;
-    int written = 0;
-    for (; written < most && cents.Next(growth); ++written) {
-      const Date date = dates.Next();
-      tSchedule& line = lines_.emplace_back();
-      line.lineDate = date;
-      line.startingBalance = cents.Before();
-      line.intRate = annualRate;
-      line.payment = payment;
-      line.intCharged = cents.Interest();
-      line.taxCredited = WithoutMinusZero(taxFraction * cents.Interest());
-      line.endingBalance = cents.Balance();
-    }
-    dates_ = dates;
-    running_.balance = Amount(cents.Balance());
-    return written;
+    return WriteWholeCents(lines_, running_.balance, -payment, growth_, dates_, most,
+                           [=](tSchedule& line, double interest) {
+                             line.intRate = annualRate;
+                             line.payment = payment;
+                             line.intCharged = interest;
+                             line.taxCredited = WithoutMinusZero(taxFraction * interest);
+                           });
   }
 
   /// Writes the lines of the payments `first` to `last`.

@@ -10,7 +10,7 @@
 #include "amortix2/engine/rounding.h"
 #include "amortix2/engine/running_savings.h"
 #include "amortix2/engine/savings_goal.h"
-#include "amortix2/engine/whole_cents.h"
+#include "amortix2/engine/schedule_parts.h"
 
 namespace amortix2 {
 namespace {
@@ -66,7 +66,7 @@ class SavingsSchedule {
     constexpr std::int32_t kPlainLines = 16;  // before whole cents are tried again
     DateSteps dates = SavingsDates(save_, count);
     for (std::int32_t i = 1; i <= count; ++i) {
-      if (i % kPlainLines == 1) i += WriteWholeCents(count + 1 - i, dates);
+      if (i % kPlainLines == 1) i += WriteCertainLines(count + 1 - i, dates);
       if (i > count) break;
       const Amount before = running_.balance;
       const Date date = dates.Next();
@@ -81,30 +81,17 @@ class SavingsSchedule {
     }
   }
 
-  /// Writes lines as long as they are certain, at most `most`, and returns how many. What changes stands in
-  /// locals, which stay in registers, and each line is made when it is written.
-  [[gnu::noinline, gnu::flatten]] int WriteWholeCents(int most, DateSteps& dateSteps) {
+  [[gnu::noinline, gnu::flatten]] int WriteCertainLines(int most, DateSteps& dates) {
     const double factor = growth_.LineFactor();
     if (factor == 0) return 0;
-    WholeCents cents(running_.balance.value, running_.deposit.value);
-    DateSteps dates = dateSteps;
-    std::vector<tSchedule>& lines = lines_;
     const double rate = growth_.AfterTaxRate();
     const double deposit = running_.deposit.value;
-    int written = 0;
-    for (; written < most && cents.Next(factor); ++written) {
-      const Date date = dates.Next();
-      tSchedule& line = lines.emplace_back();
-      line.lineDate = date;
-      line.startingBalance = cents.Before();
-      line.intRate = rate;
-      line.payment = deposit;
-      line.intCredited = cents.Interest();
-      line.endingBalance = cents.Balance();
-    }
-    dateSteps = dates;
-    running_.balance = Amount(cents.Balance());
-    return written;
+    return WriteWholeCents(lines_, running_.balance, deposit, factor, dates, most,
+                           [=](tSchedule& line, double interest) {
+                             line.intRate = rate;
+                             line.payment = deposit;
+                             line.intCredited = interest;
+                           });
   }
 
   /// A last line that interest and deposit carry across the goal ends on it.

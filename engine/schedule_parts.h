@@ -1,11 +1,15 @@
 #pragma once
 
-// What monthly and bi-weekly schedules have in common: the opening line, the cut of a last payment, and the
-// totals with their present values.
+// What schedules have in common: lines of whole cents; and those of loans, the opening line, the cut of a
+// last payment, and the totals with their present values.
+
+#include <vector>
 
 #include "amortix2/engine/amount.h"
+#include "amortix2/engine/date_steps.h"
 #include "amortix2/engine/records.h"
 #include "amortix2/engine/rounding.h"
+#include "amortix2/engine/whole_cents.h"
 
 namespace amortix2 {
 
@@ -33,6 +37,29 @@ struct RunningLoan {
     line.endingBalance = balance.value;
   }
 };
+
+/// Writes lines of whole cents as long as they are certain, at most `most`, and returns how many: each grows
+/// `balance` by `growth` and adds `deposit`, and `complete(line, interest)` fills in the rest. What changes
+/// stands in locals, which stay in registers, and each line is made when it is written; a caller that is
+/// itself `noinline` and `flatten` keeps it so.
+template <class Complete>
+int WriteWholeCents(std::vector<tSchedule>& lines, Amount& balance, double deposit, double growth,
+                    DateSteps& dateSteps, int most, Complete complete) {
+  WholeCents cents(balance.value, deposit);
+  DateSteps dates = dateSteps;
+  int written = 0;
+  for (; written < most && cents.Next(growth); ++written) {
+    const Date date = dates.Next();
+    tSchedule& line = lines.emplace_back();
+    line.lineDate = date;
+    line.startingBalance = cents.Before();
+    complete(line, cents.Interest());
+    line.endingBalance = cents.Balance();
+  }
+  dateSteps = dates;
+  balance = Amount(cents.Balance());
+  return written;
+}
 
 /// Sums lines into a loan's totals and present values, which Store writes.
 class CostTotals {

@@ -290,7 +290,7 @@ TEST(EscapedMarkup, NumbersHaveTwoDecimals) {
   for (const double number : {0.0, -0.001, 0.005, 1.5, -2.25, 100.0, 1e300})
     AppendNumber(text += ' ', number);
   EXPECT_EQ(text, " 0 0 0.01 1.5 -2.25 100 1000000000000");
-  EXPECT_EQ(Wrap("one two three four", 45, 10, 2),
+  EXPECT_EQ(Wrap("one two three four", 46, 10, 2),
             (std::vector<std::string>{"one two", "three f\xE2\x80\xA6"}));
 }
 
