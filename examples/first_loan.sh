@@ -17,4 +17,7 @@ Try next:
   $amortix2 list                   what there is
   $amortix2 call refinance --help  what a method takes
   $amortix2 call loan vPurchaseAmt=200000 vPayment=1500 vIntRate=6.5
+
+To see all calculators in a browser:
+  $amortix2 serve                  then open http://127.0.0.1:8080/
 TEXT

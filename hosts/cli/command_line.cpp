@@ -4,7 +4,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <array>
+#include <chrono>
+#include <limits>
 #include <sstream>
 #include <string_view>
 
@@ -23,11 +24,10 @@ constexpr const char* kExamples = R"(Examples:
   amortix2 call loan vPurchaseAmt=200000 vPeriod=360 vIntRate=6.5 --csv vDetArray > schedule.csv
   echo '{"call": "Calculator.SimpleLoanCalculator", "args": {"vPurchaseAmt": 200000, "vPeriod": 360, "vIntRate": 6.5}}' \
     | amortix2 batch
+  amortix2 serve
 
 Exit status: 0 success, 1 the component raised an error, 2 a wrong command line, 3 reading or writing failed.
 )";
-
-constexpr std::array<std::string_view, 3> kCommands{"list", "call", "batch"};
 
 void AddToday(CLI::App& command, std::optional<Date>& today) {
   const auto read = [&today](const std::string& text) {
@@ -96,6 +96,50 @@ void AddBatch(CLI::App& app, CommandLine& options) {
   batch.final_callback([&options] { options.command = Command::Batch; });
 }
 
+void AddSeconds(CLI::App& serve, const char* name, std::chrono::seconds& time, const char* help) {
+  const auto read = [&time](int seconds) { time = std::chrono::seconds(seconds); };
+  serve.add_option_function<int>(name, read, help)
+      ->type_name("SECONDS")
+      ->default_str(std::to_string(time.count()))
+      ->check(CLI::Range(1, 86400));
+}
+
+template <class Count>
+void AddCount(CLI::App& serve, const char* name, Count& count, Count least, const char* unit,
+              const char* help) {
+  constexpr std::size_t kMost = std::size_t{1} << 30;
+  serve.add_option(name, count, help)
+      ->type_name(unit)
+      ->capture_default_str()
+      ->check(CLI::Range(least, static_cast<Count>(kMost)));
+}
+
+void AddServe(CLI::App& app, CommandLine& options) {
+  CLI::App& serve =
+      *app.add_subcommand("serve", "Show the pages of all calculators to browsers, until stopped");
+  Serving& serving = options.serving;
+  serve.add_option("--listen", serving.listen, "Where to listen; port 0: any that is free")
+      ->type_name("ADDRESS:PORT")
+      ->capture_default_str();
+  serve.add_option("--threads", serving.threads, "Threads that answer; 0: one for each processor")
+      ->type_name("COUNT")
+      ->capture_default_str()
+      ->check(CLI::Range(0U, 256U));
+  AddCount<std::size_t>(serve, "--header-bytes", serving.headerBytes, 256, "BYTES",
+                        "The longest line and header of a request");
+  AddCount<std::size_t>(serve, "--body-bytes", serving.bodyBytes, 0, "BYTES",
+                        "The longest body of a request");
+  AddSeconds(serve, "--request-time", serving.requestTime, "Time for a request to come, from its first byte");
+  AddSeconds(serve, "--write-time", serving.writeTime, "Time for an answer to be taken");
+  AddSeconds(serve, "--idle-time", serving.idleTime, "Time without a request until a connection is closed");
+  AddCount<std::size_t>(serve, "--connections", serving.connections, 1, "COUNT", "Connections at a time");
+  AddCount<std::size_t>(serve, "--unsent-bytes", serving.unsentBytes, 0, "BYTES",
+                        "Answers together that wait for their clients to take them");
+  serve.add_flag("--log", serving.log, "Write a line for each answer to standard error, without inputs");
+  AddToday(serve, options.today);
+  serve.final_callback([&options] { options.command = Command::Serve; });
+}
+
 bool IsCallable(std::string_view name) {
   return !json::Try([&] { json::FindCalled(name); });
 }
@@ -122,6 +166,7 @@ void AddAll(CLI::App& app, CommandLine& options) {
   AddList(app, options);
   AddCall(app, options);
   AddBatch(app, options);
+  AddServe(app, options);
   app.footer(kExamples);  // after the commands, which would have it too
 }
 

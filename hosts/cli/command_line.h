@@ -2,15 +2,21 @@
 
 // The command line as a person typed it.
 
+#include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "amortix2/automation/date.h"
+#include "amortix2/common/serving.h"
 
 namespace amortix2::cli {
 
-enum class Command { List, Call, Batch };
+enum class Command { List, Call, Batch, Serve };
+
+/// Their words, in that order.
+inline constexpr std::array<std::string_view, 4> kCommands{"list", "call", "batch", "serve"};
 
 struct CommandLine {
   Command command{};
@@ -27,6 +33,7 @@ struct CommandLine {
   std::optional<std::string> csv;  ///< the name of a result
   std::optional<std::string> out;  ///< the file for the page's response, or "-"
   std::optional<Date> today;       ///< instead of the machine's date
+  Serving serving;                 ///< serve
 };
 
 /// Exit statuses.
@@ -35,7 +42,7 @@ inline constexpr int kComponentError = 1;  ///< the component raised an error
 inline constexpr int kBadRequest = 2;      ///< a wrong command line or request
 inline constexpr int kInputOutput = 3;     ///< reading or writing failed
 
-/// What --help prints of "list", "call" or "batch".
+/// What --help prints of a command.
 std::string HelpOf(const std::string& command);
 
 /// Nothing when the program has only to end with `status`: help was asked for and printed, or the command

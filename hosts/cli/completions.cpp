@@ -84,9 +84,9 @@ std::string Types() {
 }
 
 /// The options of a command, as its help has them.
-std::vector<std::string> OptionsOf(const char* command) {
+std::vector<std::string> OptionsOf(std::string_view command) {
   std::vector<std::string> options;
-  std::istringstream help(HelpOf(command));
+  std::istringstream help(HelpOf(std::string(command)));
   for (std::string line; std::getline(help, line);) {
     const std::size_t start = line.find("--");
     if (!line.starts_with("  -") || start > 5) continue;
@@ -95,9 +95,15 @@ std::vector<std::string> OptionsOf(const char* command) {
   return options;
 }
 
-std::string OptionWords(const char* command) {
+std::string OptionWords(std::string_view command) {
   std::string words;
   for (const std::string& option : OptionsOf(command)) words += (words.empty() ? "" : " ") + option;
+  return words;
+}
+
+std::string CommandWords() {
+  std::string words;
+  for (const std::string_view command : kCommands) words.append(words.empty() ? "" : " ").append(command);
   return words;
 }
 
@@ -119,12 +125,16 @@ _amortix2() {
   fi
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    COMPREPLY=($(compgen -W 'list call batch --help --version' -- "$cur"))
+    COMPREPLY=($(compgen -W ')" +
+         CommandWords() + R"( --help --version' -- "$cur"))
   elif [[ $command == list ]]; then
     COMPREPLY=($(compgen -W "$_amortix2_targets $_amortix2_types --json" -- "$cur"))
   elif [[ $command == batch ]]; then
     COMPREPLY=($(compgen -W ')" +
          OptionWords("batch") + R"(' -- "$cur"))
+  elif [[ $command == serve ]]; then
+    COMPREPLY=($(compgen -W ')" +
+         OptionWords("serve") + R"(' -- "$cur"))
   elif [[ $command == call ]] && ((COMP_CWORD == 2)); then
     COMPREPLY=($(compgen -W "$_amortix2_targets" -- "$cur"))
   elif [[ $prev == --out ]]; then
@@ -153,12 +163,16 @@ std::string ZshCompletion() {
 _amortix2() {
   local line current=$words[CURRENT]
   if ((CURRENT == 2)); then
-    compadd -- list call batch --help --version
+    compadd -- )" +
+         CommandWords() + R"( --help --version
   elif [[ $words[2] == list ]]; then
     compadd -- ${=_amortix2_targets} ${=_amortix2_types} --json
   elif [[ $words[2] == batch ]]; then
     compadd -- )" +
          OptionWords("batch") + R"(
+  elif [[ $words[2] == serve ]]; then
+    compadd -- )" +
+         OptionWords("serve") + R"(
   elif ((CURRENT == 3)); then
     compadd -- ${=_amortix2_targets}
   elif [[ $current == -* ]]; then
@@ -183,10 +197,11 @@ _amortix2 "$@"
 std::string FishCompletion() {
   std::string text = std::string("# fish completion for amortix2\n") + std::string(kMade) + R"(
 complete -c amortix2 -f
-complete -c amortix2 -n __fish_use_subcommand -a 'list call batch'
+complete -c amortix2 -n __fish_use_subcommand -a ')" +
+                     CommandWords() + R"('
 complete -c amortix2 -n '__fish_seen_subcommand_from list' -a ')" +
                      Types() + "'\n";
-  for (const char* command : {"list", "call", "batch"}) {
+  for (const std::string_view command : kCommands) {
     for (const std::string& option : OptionsOf(command)) {
       text.append("complete -c amortix2 -n '__fish_seen_subcommand_from ").append(command);
       text.append("' -l ").append(option.substr(2)).append("\n");

@@ -82,27 +82,23 @@ std::string ChartReference() {
   return std::string(kMade) + MarkdownText(document);
 }
 
-std::string ManualPage(std::string_view version, const Usage& usage) {
+std::string ManualPage(std::string_view version, const std::vector<Usage>& usage) {
   Document document{
       Heading{1, "NAME"},
       Paragraph{"amortix2 - personal-finance calculators and charts"},
       Heading{1, "SYNOPSIS"},
-      Code{"amortix2 list [NAME...] [--json]\namortix2 call NAME [INPUT=VALUE...]\namortix2 batch"},
+      Code{"amortix2 list [NAME...] [--json]\namortix2 call NAME [INPUT=VALUE...]\namortix2 batch\namortix2 "
+           "serve"},
       Heading{1, "DESCRIPTION"},
       Paragraph{
           "Answers questions about loans, leases, mortgages, savings and retirement, and draws charts. list "
           "shows what there is, call makes one call and shows its answer, batch answers requests in JSON by "
-          "the line."},
+          "the line, serve shows everything as pages to browsers."},
       Heading{1, "COMMANDS"},
-      Heading{2, "list"},
-      Code{usage.list},
-      Heading{2, "call"},
-      Code{usage.call},
-      Heading{2, "batch"},
-      Code{usage.batch},
-      Heading{1, "CALCULATORS AND CHARTS"},
-      Paragraph{"amortix2 call NAME --help says of each what it asks and gives."},
   };
+  for (const auto& [command, help] : usage) Append(document, {Heading{2, std::string(command)}, Code{help}});
+  Append(document, {Heading{1, "CALCULATORS AND CHARTS"},
+                    Paragraph{"amortix2 call NAME --help says of each what it asks and gives."}});
   std::vector<ClassMember> members = MembersWithPage(false);
   std::ranges::copy(MembersWithPage(true), std::back_inserter(members));
   Append(document, Overview(members, 2));

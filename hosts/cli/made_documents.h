@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace amortix2::cli {
 
@@ -16,10 +17,9 @@ std::string ChartReference();
 
 /// The manual page amortix2(1). `usage` is what the program prints for --help, by command.
 struct Usage {
-  std::string list;
-  std::string call;
-  std::string batch;
+  std::string_view command;
+  std::string help;
 };
-std::string ManualPage(std::string_view version, const Usage& usage);
+std::string ManualPage(std::string_view version, const std::vector<Usage>& usage);
 
 }  // namespace amortix2::cli

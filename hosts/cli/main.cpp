@@ -1,4 +1,4 @@
-// The executable: reads the command line, does one of its three commands, and turns whatever fails into an
+// The executable: reads the command line, does one of its commands, and turns whatever fails into an
 // exit status and a line on standard error.
 
 #include <unistd.h>
@@ -24,6 +24,7 @@
 #include "amortix2/json/lookup.h"
 #include "amortix2/json/reply.h"
 #include "amortix2/json/result_table.h"
+#include "amortix2/web/server.h"
 
 namespace amortix2::cli {
 namespace {
@@ -198,11 +199,21 @@ int RunList(const CommandLine& line) {
   return kSuccess;
 }
 
+int RunServe(const CommandLine& line) {
+  const auto clock = ClockOf(line);
+  const auto listening = [](const std::string& address) {
+    WriteAll(STDOUT_FILENO, "The pages are at " + address + " (Ctrl-C ends)\n");
+  };
+  web::Serve(line.serving, *clock, {listening, Say});
+  return kSuccess;
+}
+
 int Run(int argc, char** argv) {
   int status = kSuccess;
   const auto line = ReadCommandLine(argc, argv, status);
   if (!line) return status;
   if (line->command == Command::Call) return RunCall(*line);
+  if (line->command == Command::Serve) return RunServe(*line);
   return line->command == Command::Batch ? RunBatch(*line) : RunList(*line);
 }
 

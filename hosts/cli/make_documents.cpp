@@ -8,6 +8,8 @@
 #include <fstream>
 #include <iostream>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "amortix2/cli/command_line.h"
 #include "amortix2/cli/completions.h"
@@ -31,11 +33,12 @@ int main(int count, char** arguments) try {
     std::cerr << "usage: amortix2_documents FOLDER\n";
     return 2;
   }
+  std::vector<Usage> usage;
+  for (const std::string_view command : kCommands) usage.push_back({command, HelpOf(std::string(command))});
   const std::filesystem::path folder = arguments[1];
   Write(folder / "docs/calculators.md", CalculatorsGuide());
   Write(folder / "docs/chart_reference.md", ChartReference());
-  Write(folder / "packaging/amortix2.1",
-        ManualPage(AMORTIX2_VERSION, {HelpOf("list"), HelpOf("call"), HelpOf("batch")}));
+  Write(folder / "packaging/amortix2.1", ManualPage(AMORTIX2_VERSION, usage));
   Write(folder / "packaging/completions/amortix2.bash", BashCompletion());
   Write(folder / "packaging/completions/_amortix2", ZshCompletion());
   Write(folder / "packaging/completions/amortix2.fish", FishCompletion());

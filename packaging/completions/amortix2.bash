@@ -67,11 +67,13 @@ _amortix2() {
   fi
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    COMPREPLY=($(compgen -W 'list call batch --help --version' -- "$cur"))
+    COMPREPLY=($(compgen -W 'list call batch serve --help --version' -- "$cur"))
   elif [[ $command == list ]]; then
     COMPREPLY=($(compgen -W "$_amortix2_targets $_amortix2_types --json" -- "$cur"))
   elif [[ $command == batch ]]; then
     COMPREPLY=($(compgen -W '--help --types --notes --strangers --today' -- "$cur"))
+  elif [[ $command == serve ]]; then
+    COMPREPLY=($(compgen -W '--help --listen --threads --header-bytes --body-bytes --request-time --write-time --idle-time --connections --unsent-bytes --log --today' -- "$cur"))
   elif [[ $command == call ]] && ((COMP_CWORD == 2)); then
     COMPREPLY=($(compgen -W "$_amortix2_targets" -- "$cur"))
   elif [[ $prev == --out ]]; then

@@ -2,7 +2,7 @@
 # Made by ./dev renew from the component's description; change that.
 
 complete -c amortix2 -f
-complete -c amortix2 -n __fish_use_subcommand -a 'list call batch'
+complete -c amortix2 -n __fish_use_subcommand -a 'list call batch serve'
 complete -c amortix2 -n '__fish_seen_subcommand_from list' -a ' Calculator BarChart GifChart InvestmentStrategy SvgChart tSchedule tLoanDesc tSavingsDesc tGoalDesc tCreditQualification GifHeader ImageBlock specialConstants enumAmortixType enumLoanType enumSavingsType enumFrequencyType'
 complete -c amortix2 -n '__fish_seen_subcommand_from list' -l help
 complete -c amortix2 -n '__fish_seen_subcommand_from list' -l json
@@ -19,6 +19,18 @@ complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l types
 complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l notes
 complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l strangers
 complete -c amortix2 -n '__fish_seen_subcommand_from batch' -l today
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l help
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l listen
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l threads
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l header-bytes
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l body-bytes
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l request-time
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l write-time
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l idle-time
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l connections
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l unsent-bytes
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l log
+complete -c amortix2 -n '__fish_seen_subcommand_from serve' -l today
 complete -c amortix2 -n '__fish_seen_subcommand_from list call; and not __fish_seen_subcommand_from loan Calculator.SimpleLoanCalculator' -a 'loan Calculator.SimpleLoanCalculator' -d 'Loan'
 complete -c amortix2 -n '__fish_seen_subcommand_from loan Calculator.SimpleLoanCalculator' -a 'vLoanType=S vLoanType=C' -d 'Kind of loan'
 complete -c amortix2 -n '__fish_seen_subcommand_from loan Calculator.SimpleLoanCalculator' -a 'vPurchaseAmt=' -d 'Amount'
