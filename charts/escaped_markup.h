@@ -65,6 +65,10 @@ class EscapedMarkup {
   /// Another writer's text, as it is: its elements must be closed.
   void Append(const EscapedMarkup& part) { out_ += part.out_; }
 
+  /// Markup that a writer of the program's own made and escaped (a chart's picture, a table), as it is. Its
+  /// elements must be closed; never a text that came from outside.
+  void AppendMarkup(std::string_view markup) { out_ += markup; }
+
   /// What has been written so far.
   const std::string& Written() const { return out_; }
 

@@ -127,6 +127,8 @@ std::string StyleSheet(std::string_view id, const GivenColours& given, std::size
   return rules.Release();
 }
 
+std::string_view SeriesColour(std::size_t series) { return kLight.series[series % kSeriesColours]; }
+
 std::string SeriesClass(std::size_t series) { return "chart-series" + std::to_string(series + 1); }
 
 }  // namespace amortix2

@@ -39,6 +39,9 @@ GivenColours ReadPaletteColours(const Variant& palette, std::size_t series);
 /// The style sheet of one chart, whose rules reach only the element `id`.
 std::string StyleSheet(std::string_view id, const GivenColours& given, std::size_t series);
 
+/// A series' own colour, from 0, on white paper ("#08529e").
+std::string_view SeriesColour(std::size_t series);
+
 /// The class of a series, from 0, in that style sheet ("chart-series1").
 std::string SeriesClass(std::size_t series);
 

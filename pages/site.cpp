@@ -3,6 +3,7 @@
 #include <array>
 
 #include "amortix2/charts/escaped_markup.h"
+#include "amortix2/pages/api.h"
 #include "amortix2/pages/query.h"
 
 namespace amortix2::pages {
@@ -18,7 +19,8 @@ constexpr auto kHeaders = std::to_array<Header>({
     {"Referrer-Policy", "no-referrer"},
 });
 
-Page Find(const Request& request) {
+Page Find(const Request& request, const Clock& clock) {
+  if (auto page = ApiPage(request, clock)) return std::move(*page);
   if (request.method != "GET" && request.method != "HEAD") {
     Page page = ErrorPage(405);
     page.allow = "GET, HEAD";
@@ -33,9 +35,9 @@ Page Find(const Request& request) {
 
 std::span<const Header> Headers() noexcept { return kHeaders; }
 
-Page Answer(const Request& request, const Clock& /*clock*/) noexcept {
+Page Answer(const Request& request, const Clock& clock) noexcept {
   try {
-    return Find(request);
+    return Find(request, clock);
   } catch (...) {
     return {.status = 503, .contentType = "text/plain", .bytes = {}};
   }
