@@ -6,6 +6,7 @@
 #include "amortix2/automation/text_scanner.h"
 #include "amortix2/cli/lines.h"
 #include "amortix2/json/csv.h"
+#include "amortix2/json/lookup.h"
 #include "amortix2/json/request_error.h"
 #include "amortix2/json/variant_reader.h"
 
@@ -123,6 +124,17 @@ json::Tree ReadList(std::string_view text) {
   }
 }
 
+/// A value with what its parameter is: a survey's letters, the elements of a list, a choice's name.
+json::Tree AsMeant(json::Tree tree, const MemberInfo& member, const ParameterInfo& parameter) {
+  if (!parameter.questions.empty()) return ReadSurvey(std::move(tree), parameter.questions);
+  const std::string* text = json::TextOf(tree);
+  if (!text) return tree;
+  if (text->find(',') != std::string::npos && IsList(member, parameter)) return ReadList(*text);
+  const ChoiceInfo* choice = parameter.choices ? FindChoiceMeant(*parameter.choices, *text) : nullptr;
+  if (!choice) return tree;
+  return parameter.unit == Unit::Text ? json::Tree(choice->text) : ReadText(std::string(choice->text));
+}
+
 /// The letters and digits of a name, all small: "Interest rate" is "interest-rate".
 std::string Letters(std::string_view name) {
   std::string letters;
@@ -147,16 +159,24 @@ std::vector<Assignment> SplitArguments(const std::vector<std::string>& arguments
   return assignments;
 }
 
-const ParameterInfo* FindInput(const MemberInfo& member, std::string_view name) {
+const ParameterInfo* FindNamedInput(const MemberInfo& member, std::string_view name) {
   if (const ParameterInfo* parameter = FindParameter(member, name)) return parameter;
+  const std::string asked = Letters(name);
+  for (const ParameterInfo& parameter : member.parameters) {
+    if (!parameter.IsInput() || asked.empty()) continue;
+    if (Letters(parameter.title) == asked || Letters(parameter.name) == "v" + asked) return &parameter;
+  }
+  return nullptr;
+}
+
+const ParameterInfo* FindInput(const MemberInfo& member, std::string_view name) {
+  if (const ParameterInfo* parameter = FindNamedInput(member, name)) return parameter;
   const std::string asked = Letters(name);
   const ParameterInfo* meant = nullptr;
   int like = 0;
   for (const ParameterInfo& parameter : member.parameters) {
     if (!parameter.IsInput() || asked.empty()) continue;
-    const std::string title = Letters(parameter.title);
-    if (title == asked || Letters(parameter.name) == "v" + asked) return &parameter;
-    if (title.find(asked) == std::string::npos) continue;
+    if (Letters(parameter.title).find(asked) == std::string::npos) continue;
     meant = &parameter;
     ++like;
   }
@@ -170,15 +190,19 @@ json::Tree ReadValue(const std::string& value) {
   return value.starts_with('@') ? ReadFile(value.substr(1), nullptr) : ReadText(value);
 }
 
+const ParameterInfo& NeedInput(const MemberInfo& member, std::string_view name) {
+  const ParameterInfo* input = FindInput(member, name);
+  return input ? *input : member.parameters[json::PlaceOfParameter(member, name)];
+}
+
 json::Tree ReadValue(const std::string& value, const MemberInfo& member, const ParameterInfo& parameter) {
-  json::Tree tree = value.starts_with('@') ? ReadFile(value.substr(1), &parameter) : ReadText(value);
-  if (!parameter.questions.empty()) return ReadSurvey(std::move(tree), parameter.questions);
-  const std::string* text = json::TextOf(tree);
-  if (!text) return tree;
-  if (text->find(',') != std::string::npos && IsList(member, parameter)) return ReadList(*text);
-  const ChoiceInfo* choice = parameter.choices ? FindChoiceMeant(*parameter.choices, *text) : nullptr;
-  if (!choice) return tree;
-  return parameter.unit == Unit::Text ? json::Tree(choice->text) : ReadText(std::string(choice->text));
+  if (!value.starts_with('@')) return ReadPlainValue(value, member, parameter);
+  return AsMeant(ReadFile(value.substr(1), &parameter), member, parameter);
+}
+
+json::Tree ReadPlainValue(const std::string& value, const MemberInfo& member,
+                          const ParameterInfo& parameter) {
+  return AsMeant(ReadText(value), member, parameter);
 }
 
 }  // namespace amortix2::cli

@@ -21,10 +21,17 @@ struct Assignment {
 /// Raises RequestError for an argument without a name or "=".
 std::vector<Assignment> SplitArguments(const std::vector<std::string>& arguments);
 
+/// The parameter of this name, or the input of this title or of this name without the "v"; null when there is
+/// none.
+const ParameterInfo* FindNamedInput(const MemberInfo& member, std::string_view name);
+
 /// The input that a person calls by its name, by its title ("interest-rate") or by its name without the "v"
 /// ("period"), in any case; null when there is none. Raises RequestError for what is only a part of one
 /// title, which it suggests.
 const ParameterInfo* FindInput(const MemberInfo& member, std::string_view name);
+
+/// The same; raises RequestError, which says what there is, instead of finding none.
+const ParameterInfo& NeedInput(const MemberInfo& member, std::string_view name);
 
 /// A VALUE: what is in a file where it begins with "@" ("@-": standard input; JSON or CSV), JSON when it is
 /// valid JSON, a date when it reads YYYY-MM-DD, else a text. A text that names a choice of the parameter is
@@ -35,5 +42,8 @@ json::Tree ReadValue(const std::string& value, const MemberInfo& member, const P
 
 /// The same where nothing is known of what it is for.
 json::Tree ReadValue(const std::string& value);
+
+/// A VALUE that names no file: an "@" is a part of it.
+json::Tree ReadPlainValue(const std::string& value, const MemberInfo& member, const ParameterInfo& parameter);
 
 }  // namespace amortix2::cli

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <limits>
+#include <map>
 #include <sstream>
 #include <string_view>
 
@@ -25,6 +26,7 @@ constexpr const char* kExamples = R"(Examples:
   echo '{"call": "Calculator.SimpleLoanCalculator", "args": {"vPurchaseAmt": 200000, "vPeriod": 360, "vIntRate": 6.5}}' \
     | amortix2 batch
   amortix2 serve
+  amortix2 rows fixed --only vResPayment,vTotInt < loans.csv > payments.csv
 
 Exit status: 0 success, 1 the component raised an error, 2 a wrong command line, 3 reading or writing failed.
 )";
@@ -140,6 +142,49 @@ void AddServe(CLI::App& app, CommandLine& options) {
   serve.final_callback([&options] { options.command = Command::Serve; });
 }
 
+const std::map<std::string, Format> kFormats{
+    {"csv", Format::Csv}, {"tsv", Format::Tsv}, {"jsonl", Format::JsonLines}};
+
+void AddRows(CLI::App& app, CommandLine& options) {
+  constexpr unsigned kMostThreads = 256;
+  CLI::App& rows = *app.add_subcommand("rows", "Call one method for each row of a table on standard input");
+  rows.add_option("method", options.target, "What to call: CLASS.METHOD, METHOD or its short name")
+      ->type_name("METHOD");
+  rows.add_option("arguments", options.arguments, "Arguments that are the same for all rows")
+      ->type_name("NAME=VALUE");
+  rows.add_option("--only", options.only, "The results to write; all single values when left out")
+      ->type_name("NAME,...")
+      ->delimiter(',')
+      ->allow_extra_args(false);
+  rows.add_flag("--drop", options.rows.drop, "Leave out the columns that are no arguments");
+  const auto addFormat = [&rows](const char* name, auto& format, const char* help) {
+    const auto read = [&format](const std::string& text) { format = kFormats.at(text); };
+    rows.add_option_function<std::string>(name, read, help)
+        ->check(CLI::IsMember({"csv", "tsv", "jsonl"}).description(""))
+        ->type_name("csv|tsv|jsonl");
+  };
+  addFormat("--from", options.rows.from, "What the input is: csv when left out");
+  addFormat("--to", options.rows.to, "What to write: as the input when left out");
+  rows.add_option("--threads", options.rows.threads, "How many threads work: one when left out")
+      ->type_name("N")
+      ->check(CLI::Range(1u, kMostThreads).description(""));
+  rows.add_option("--sum", options.rows.sum,
+                  "Add the schedules in this result up, and write these sums alone")
+      ->type_name("TABLE");
+  rows.add_option("--by", "What to sum by: month")
+      ->type_name("month")
+      ->check(CLI::IsMember({"month"}).description(""));
+  rows.add_option("--merge", options.rows.merge, "Add up such sums in files; -: standard input")
+      ->type_name("FILE...");
+  AddToday(rows, options.today);
+  rows.final_callback([&options] {
+    options.command = Command::Rows;
+    if (options.target.empty() == options.rows.merge.empty()) {
+      throw CLI::ValidationError("rows", "takes a method or --merge");
+    }
+  });
+}
+
 bool IsCallable(std::string_view name) {
   return !json::Try([&] { json::FindCalled(name); });
 }
@@ -167,6 +212,7 @@ void AddAll(CLI::App& app, CommandLine& options) {
   AddCall(app, options);
   AddBatch(app, options);
   AddServe(app, options);
+  AddRows(app, options);
   app.footer(kExamples);  // after the commands, which would have it too
 }
 

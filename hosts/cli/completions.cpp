@@ -135,10 +135,13 @@ _amortix2() {
   elif [[ $command == serve ]]; then
     COMPREPLY=($(compgen -W ')" +
          OptionWords("serve") + R"(' -- "$cur"))
-  elif [[ $command == call ]] && ((COMP_CWORD == 2)); then
+  elif [[ $command == call || $command == rows ]] && ((COMP_CWORD == 2)) && [[ $cur != -* ]]; then
     COMPREPLY=($(compgen -W "$_amortix2_targets" -- "$cur"))
-  elif [[ $prev == --out ]]; then
+  elif [[ $prev == --out || $prev == --merge ]]; then
     COMPREPLY=($(compgen -f -- "$cur"))
+  elif [[ $command == rows && $cur == -* ]]; then
+    COMPREPLY=($(compgen -W ')" +
+         OptionWords("rows") + R"(' -- "$cur"))
   elif [[ $cur == -* ]]; then
     COMPREPLY=($(compgen -W ')" +
          OptionWords("call") + R"(' -- "$cur"))
@@ -173,12 +176,15 @@ _amortix2() {
   elif [[ $words[2] == serve ]]; then
     compadd -- )" +
          OptionWords("serve") + R"(
+  elif [[ $words[2] == rows && $current == -* ]]; then
+    compadd -- )" +
+         OptionWords("rows") + R"(
   elif ((CURRENT == 3)); then
     compadd -- ${=_amortix2_targets}
   elif [[ $current == -* ]]; then
     compadd -- )" +
          OptionWords("call") + R"(
-  elif [[ $words[CURRENT-1] == --out ]]; then
+  elif [[ $words[CURRENT-1] == --out || $words[CURRENT-1] == --merge ]]; then
     _files
   else
     _amortix2_inputs $words[3] | while IFS= read -r line; do
@@ -209,7 +215,7 @@ complete -c amortix2 -n '__fish_seen_subcommand_from list' -a ')" +
   }
   for (const ClassMember& member : Callable()) {
     const std::string names = NamesOf(member, " ");
-    text.append("complete -c amortix2 -n '__fish_seen_subcommand_from list call; and not ")
+    text.append("complete -c amortix2 -n '__fish_seen_subcommand_from list call rows; and not ")
         .append("__fish_seen_subcommand_from ")
         .append(names)
         .append("' -a '")

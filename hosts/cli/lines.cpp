@@ -27,15 +27,15 @@ void WaitOrRaise(int descriptor, short event, const std::string& what) {
   poll(&ready, 1, -1);
 }
 
-std::size_t ReadSome(int descriptor, char* place) {
+}  // namespace
+
+std::size_t ReadSome(int descriptor, char* place, std::size_t most) {
   while (true) {
-    const ssize_t count = read(descriptor, place, kReadSize);
+    const ssize_t count = read(descriptor, place, most);
     if (count >= 0) return static_cast<std::size_t>(count);
     WaitOrRaise(descriptor, POLLIN, "cannot read");
   }
 }
-
-}  // namespace
 
 void WriteAll(int descriptor, std::string_view bytes) {
   while (!bytes.empty()) {
@@ -55,7 +55,7 @@ std::string ReadWhole(const std::string& path) {
   for (std::size_t count = kReadSize; count > 0 && text.size() <= json::kLongestRequest;) {
     const std::size_t size = text.size();
     text.resize(size + kReadSize);
-    count = ReadSome(descriptor, text.data() + size);
+    count = ReadSome(descriptor, text.data() + size, kReadSize);
     text.resize(size + count);
   }
   if (descriptor != STDIN_FILENO) close(descriptor);
@@ -97,7 +97,7 @@ void LineReader::ReadMore() {
     begin_ = 0;
   }
   if (buffer_.size() < end_ + kReadSize) buffer_.resize(std::max(2 * buffer_.size(), end_ + kReadSize));
-  const std::size_t count = ReadSome(descriptor_, buffer_.data() + end_);
+  const std::size_t count = ReadSome(descriptor_, buffer_.data() + end_, kReadSize);
   end_ += count;
   atEnd_ = count == 0;
 }

@@ -14,6 +14,9 @@ namespace amortix2::cli {
 /// that fails.
 void WriteAll(int descriptor, std::string_view bytes);
 
+/// Up to `most` bytes into `place`, waiting for some; 0 at the end. Raises std::system_error.
+std::size_t ReadSome(int descriptor, char* place, std::size_t most);
+
 /// All of a file, or of standard input for "-". Raises std::system_error when it cannot be read, RequestError
 /// when it is longer than a request may be.
 std::string ReadWhole(const std::string& path);

@@ -88,12 +88,13 @@ std::string ManualPage(std::string_view version, const std::vector<Usage>& usage
       Paragraph{"amortix2 - personal-finance calculators and charts"},
       Heading{1, "SYNOPSIS"},
       Code{"amortix2 list [NAME...] [--json]\namortix2 call NAME [INPUT=VALUE...]\namortix2 batch\namortix2 "
-           "serve"},
+           "serve\namortix2 rows NAME [INPUT=VALUE...] < FILE"},
       Heading{1, "DESCRIPTION"},
       Paragraph{
           "Answers questions about loans, leases, mortgages, savings and retirement, and draws charts. list "
           "shows what there is, call makes one call and shows its answer, batch answers requests in JSON by "
-          "the line, serve shows everything as pages to browsers."},
+          "the line, serve shows everything as pages to browsers, rows makes a call for each row of a "
+          "table."},
       Heading{1, "COMMANDS"},
   };
   for (const auto& [command, help] : usage) Append(document, {Heading{2, std::string(command)}, Code{help}});
@@ -107,7 +108,8 @@ std::string ManualPage(std::string_view version, const std::vector<Usage>& usage
           Items{{{"0", "success", {}},
                  {"1", "the component raised an error", {}},
                  {"2", "a wrong command line, an unknown name or an unreadable value", {}},
-                 {"3", "reading or writing failed", {}}}},
+                 {"3", "reading or writing failed", {}},
+                 {"11 to 110", "rows: 10 and one more for each row that failed, 100 at most", {}}}},
           Heading{1, "EXAMPLES"},
           Code{"amortix2 call loan vPurchaseAmt=200000 vPeriod=360 vIntRate=6.5\namortix2 list refinance"}});
   return ".\\\" Made by ./dev renew; change the component's description or the program's help.\n"

@@ -19,6 +19,7 @@
 #include "amortix2/cli/listing.h"
 #include "amortix2/cli/product.h"
 #include "amortix2/cli/readable.h"
+#include "amortix2/cli/rows.h"
 #include "amortix2/common/system_clock.h"
 #include "amortix2/json/execution.h"
 #include "amortix2/json/lookup.h"
@@ -214,6 +215,7 @@ int Run(int argc, char** argv) {
   if (!line) return status;
   if (line->command == Command::Call) return RunCall(*line);
   if (line->command == Command::Serve) return RunServe(*line);
+  if (line->command == Command::Rows) return RunRows(*line, *ClockOf(*line), Complain);
   return line->command == Command::Batch ? RunBatch(*line) : RunList(*line);
 }
 

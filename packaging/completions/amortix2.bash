@@ -67,17 +67,19 @@ _amortix2() {
   fi
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    COMPREPLY=($(compgen -W 'list call batch serve --help --version' -- "$cur"))
+    COMPREPLY=($(compgen -W 'list call batch serve rows --help --version' -- "$cur"))
   elif [[ $command == list ]]; then
     COMPREPLY=($(compgen -W "$_amortix2_targets $_amortix2_types --json" -- "$cur"))
   elif [[ $command == batch ]]; then
     COMPREPLY=($(compgen -W '--help --types --notes --strangers --today' -- "$cur"))
   elif [[ $command == serve ]]; then
     COMPREPLY=($(compgen -W '--help --listen --threads --header-bytes --body-bytes --request-time --write-time --idle-time --connections --unsent-bytes --log --today' -- "$cur"))
-  elif [[ $command == call ]] && ((COMP_CWORD == 2)); then
+  elif [[ $command == call || $command == rows ]] && ((COMP_CWORD == 2)) && [[ $cur != -* ]]; then
     COMPREPLY=($(compgen -W "$_amortix2_targets" -- "$cur"))
-  elif [[ $prev == --out ]]; then
+  elif [[ $prev == --out || $prev == --merge ]]; then
     COMPREPLY=($(compgen -f -- "$cur"))
+  elif [[ $command == rows && $cur == -* ]]; then
+    COMPREPLY=($(compgen -W '--help --only --drop --from --to --threads --sum --by --merge --today' -- "$cur"))
   elif [[ $cur == -* ]]; then
     COMPREPLY=($(compgen -W '--with --json --types --only --csv --out --today --help' -- "$cur"))
   else

@@ -1,0 +1,57 @@
+#pragma once
+
+// The cash flow of many loans, month by month: what is paid, the principal and interest in it, and what is
+// owed at the month's end. Amounts are added as whole cents in integers, which no number of loans overflows,
+// so that partial sums add up to the same whatever the order and the cut.
+//
+// A month is the calendar month of a schedule's line. A loan owes nothing before its opening line and after
+// its last one; in between, months without a line owe what was owed before. In a month of several lines
+// payments add up and the last balance counts.
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "amortix2/automation/array.h"
+#include "amortix2/component/description.h"
+
+namespace amortix2::cli {
+
+/// Raises RequestError for a result that is no schedule of one loan.
+void NeedLoanSchedule(const ParameterInfo& result);
+
+class MonthSums {
+ public:
+  /// Adds a loan's schedule, each cell rounded to whole cents. Raises RequestError for a table without
+  /// lines or dates and for an amount beyond 22 million million; nothing is added then.
+  void Add(const Variant& schedule);
+  void Add(const MonthSums& other);
+
+  /// Adds sums that AppendTo wrote. Raises RequestError for anything else, when some may be added.
+  void AddText(std::string_view text, char separator);
+
+  /// A header, then a line for each month from the first to the last.
+  void AppendTo(std::string& out, char separator) const;
+
+ private:
+  __extension__ using Cents = __int128;  // 2^76 loans of the largest amount
+  static constexpr std::size_t kBalance = 3;
+  using Amounts = std::array<Cents, 4>;
+
+  struct Line {
+    std::int32_t month;  // since the year 0
+    std::array<std::int64_t, 4> cents;
+  };
+
+  void ReadLines(const Array& schedule);
+  void Cover(std::int32_t first, std::int32_t last);
+  Amounts& At(std::int32_t month) { return months_[static_cast<std::size_t>(month - first_)]; }
+
+  std::int32_t first_ = 0;
+  std::vector<Amounts> months_;
+  std::vector<Line> lines_;  // of the schedule that is being added
+};
+
+}  // namespace amortix2::cli
