@@ -155,6 +155,7 @@ struct HeadingInfo {
   Unit unit = Unit::None;
   Yearly yearly = Yearly::Nothing;  ///< of columns
   Better better = Better::Neither;  ///< of rows whose cells are compared
+  bool runs = false;                ///< of columns: what it comes to so far is worth a column of its own
 };
 
 /// An axis of the payment grid: its values are not in the table, the middle one and its neighbours follow

@@ -10,7 +10,7 @@ namespace amortix2::describing {
 
 inline constexpr HeadingInfo kLoanColumns[] = {
     {"Date", Unit::Date, Yearly::Last},         {"Payment", Unit::Currency, Yearly::Sum},
-    {"Principal", Unit::Currency, Yearly::Sum}, {"Interest", Unit::Currency, Yearly::Sum},
+    {"Principal", Unit::Currency, Yearly::Sum}, {"Interest", Unit::Currency, Yearly::Sum, Better::Neither, true},
     {"Balance", Unit::Currency, Yearly::Last},  {"Rate", Unit::AnnualPercent, Yearly::Last},
 };
 constexpr TableInfo Schedule(std::span<const HeadingInfo> columns) {
@@ -30,14 +30,14 @@ inline constexpr TableInfo kRentSchedule = Schedule(kRentColumns);
 
 inline constexpr HeadingInfo kSavingsColumns[] = {
     {"Date", Unit::Date, Yearly::Last},        {"Deposit", Unit::Currency, Yearly::Sum},
-    {"Interest", Unit::Currency, Yearly::Sum}, {"Growth", Unit::Currency, Yearly::Sum},
+    {"Interest", Unit::Currency, Yearly::Sum, Better::Neither, true}, {"Growth", Unit::Currency, Yearly::Sum},
     {"Balance", Unit::Currency, Yearly::Last},
 };
 inline constexpr TableInfo kSavingsSchedule = Schedule(kSavingsColumns);
 
 inline constexpr HeadingInfo kSpendingColumns[] = {
     {"Date", Unit::Date, Yearly::Last},        {"Withdrawal (negative)", Unit::Currency, Yearly::Sum},
-    {"Interest", Unit::Currency, Yearly::Sum}, {"Growth", Unit::Currency, Yearly::Sum},
+    {"Interest", Unit::Currency, Yearly::Sum, Better::Neither, true}, {"Growth", Unit::Currency, Yearly::Sum},
     {"Balance", Unit::Currency, Yearly::Last},
 };
 inline constexpr TableInfo kSpendingSchedule = Schedule(kSpendingColumns);

@@ -83,7 +83,8 @@ Calculation::Calculation(const ClassMember& member, const Query& query, const Cl
   if (!errors_.empty()) return;
   static const json::Fields kNoSettings;
   const std::string call = Call();
-  execution_.emplace(json::Request{call, arguments_, kNoSettings}, clock, json::Keep::Inputs);
+  execution_.emplace(json::Request{call, arguments_, kNoSettings}, clock, json::Keep::Inputs,
+                     json::Caller::Stranger);
   if (execution_->Error()) RefuseFailed();
 }
 

@@ -1,6 +1,7 @@
 #include "amortix2/pages/years.h"
 
 #include "amortix2/automation/conversion.h"
+#include "amortix2/component/call_values.h"
 
 namespace amortix2::pages {
 
@@ -12,13 +13,14 @@ const HeadingInfo* ColumnHeading(const TableInfo& table, std::int32_t column) {
 }
 
 std::optional<Date> DayOf(const TableInfo& table, const Array& lines, std::int32_t line) {
-  const HeadingInfo* heading = ColumnHeading(table, table.firstColumn);
-  const bool isThere = lines.Rank() == 2 && lines.Dimension(1).Contains(line) &&
-                       lines.Dimension(2).Contains(table.firstColumn);
-  if (!isThere || !heading || heading->unit != Unit::Date) return std::nullopt;
-  const Variant& cell = lines.At(line, table.firstColumn);
-  if (cell.Type() == VariantType::Date) return cell.GetDate();
-  return cell.Type() == VariantType::String ? ParseDate(cell.GetString()) : std::nullopt;
+  if (lines.Rank() != 2 || !lines.Dimension(1).Contains(line)) return std::nullopt;
+  for (std::int32_t column = table.firstColumn; column <= lines.Dimension(2).upper; ++column) {
+    const HeadingInfo* heading = ColumnHeading(table, column);
+    if (!heading || heading->unit != Unit::Date || !lines.Dimension(2).Contains(column)) continue;
+    const Variant& cell = lines.At(line, column);
+    if (IsGiven(cell) && IsDate(cell)) return ToDate(cell);
+  }
+  return std::nullopt;
 }
 
 std::vector<YearOfLines> YearsOf(const TableInfo& table, const Array& lines) {
@@ -40,10 +42,12 @@ Variant CellOfYear(const TableInfo& table, const Array& lines, const YearOfLines
   if (!heading || heading->yearly == Yearly::Nothing) return {};
   if (heading->yearly == Yearly::Last) return lines.At(year.last, column);
   double sum = 0;
+  bool isGiven = false;
   for (std::int32_t line = year.first; line <= year.last; ++line) {
+    isGiven = isGiven || IsGiven(lines.At(line, column));
     sum += NumericOrZero(lines.At(line, column));
   }
-  return sum;
+  return isGiven ? Variant(sum) : Variant();
 }
 
 }  // namespace amortix2::pages

@@ -1,0 +1,133 @@
+#include "amortix2/pages/answer_part.h"
+
+#include <string>
+#include <vector>
+
+#include "amortix2/component/answer.h"
+#include "amortix2/pages/answer_charts.h"
+#include "amortix2/pages/downloads.h"
+#include "amortix2/pages/figure_text.h"
+#include "amortix2/pages/horizons.h"
+#include "amortix2/pages/schedule.h"
+#include "amortix2/pages/two_answers.h"
+
+namespace amortix2::pages {
+namespace {
+
+/// A table among the results.
+struct ResultArray {
+  const ParameterInfo& parameter;
+  const Array& array;
+};
+
+std::vector<ResultArray> Arrays(const Calculation& calculation) {
+  std::vector<ResultArray> arrays;
+  for (const ParameterInfo& parameter : calculation.Member().parameters) {
+    if (parameter.role != Role::Result || !parameter.table) continue;
+    const Variant* value = calculation.Out().Find({.parameter = parameter.name});
+    if (value && value->Type() == VariantType::Array) arrays.push_back({parameter, value->GetArray()});
+  }
+  return arrays;
+}
+
+bool IsSchedule(const ParameterInfo& parameter) { return parameter.table->opensWithRowZero; }
+
+void AppendFigures(EscapedMarkup& out, const Calculation& calculation) {
+  const std::vector<NamedFigure> figures = FiguresOf(calculation);
+  if (figures.empty()) return;
+  out.Open("dl", {{"class", "figures"}});
+  for (const NamedFigure& figure : figures) {
+    if (figure.isEcho) continue;
+    out.Open("div", {Attribute::If(figure.isFound, {"class", "found"})});
+    out.TextElement("dt", {}, figure.title);
+    out.TextElement("dd", {}, FigureText(calculation.In(), figure.value, figure.unit));
+    out.Close();
+  }
+  out.Close();
+}
+
+void AppendNotes(EscapedMarkup& out, const Calculation& calculation) {
+  const std::vector<Note> notes = calculation.Execution().Notes();
+  if (notes.empty()) return;
+  out.Open("div", {{"class", "notes"}});
+  out.TextElement("h3", {}, "Good to know");
+  out.Open("ul");
+  for (const Note& note : notes) {
+    out.Open("li");
+    if (note.parameter) out.TextElement("strong", {}, std::string(note.parameter->title) + ": ");
+    out.Text(note.given.empty() ? note.sentence : note.given + " " + note.sentence + ".");
+    out.Close();
+  }
+  out.Close();
+  out.Close();
+}
+
+void AppendGrids(EscapedMarkup& out, const Calculation& calculation, const std::vector<ResultArray>& arrays) {
+  for (const auto& [parameter, array] : arrays) {
+    if (IsSchedule(parameter) || array.Rank() == 1) continue;
+    AppendGrid(out, calculation.In(), parameter.title, json::TableOf(calculation.In(), parameter, array));
+  }
+}
+
+/// One schedule is shown at once; of several each opens on demand.
+void AppendSchedules(EscapedMarkup& out, const Calculation& calculation,
+                     const std::vector<ResultArray>& arrays) {
+  std::size_t count = 0;
+  for (const auto& [parameter, array] : arrays) count += IsSchedule(parameter) ? 1 : 0;
+  for (const auto& [parameter, array] : arrays) {
+    if (!IsSchedule(parameter)) continue;
+    out.Open("details", {{"class", "card schedule"}, Attribute::If(count == 1, {"open", ""})});
+    out.Open("summary");
+    out.TextElement("h2", {}, parameter.title);
+    out.Close();
+    AppendSchedule(out, calculation.In(), parameter, array);
+    out.Close();
+  }
+}
+
+void AppendTakeAlong(EscapedMarkup& out, const Calculation& calculation, const Query& query) {
+  const std::string path = "/" + std::string(calculation.Member().address) + "?";
+  Query own = query;
+  own.Remove("with");
+  out.Open("ul", {{"class", "along"}});
+  const auto link = [&](const std::string& address, std::string_view text) {
+    out.Open("li");
+    out.TextElement("a", {{"href", address}}, text);
+    out.Close();
+  };
+  link(path + own.Text() + "#answer", "Link to this answer");
+  Query with = own;
+  with.Set("with", own.Text());
+  link(path + with.Text(), "Compare with a change");
+  out.Close();
+  AppendDownloads(out, calculation, own);
+}
+
+}  // namespace
+
+std::string AnswerText(const Calculation& calculation) {
+  return AnswerSentence(calculation.In(), calculation.Out(), [&](const Variant& value, Unit unit) {
+    return FigureText(calculation.In(), value, unit);
+  });
+}
+
+void AppendAnswer(EscapedMarkup& out, const Calculation& calculation, const Query& query,
+                  const Calculation* first, const Clock& clock) {
+  const std::vector<ResultArray> arrays = Arrays(calculation);
+  out.Open("section",
+           {{"class", "card answer"}, {"id", "answer"}, {"tabindex", "-1"}, {"aria-live", "polite"}});
+  out.TextElement("h2", {}, "Answer");
+  const std::string sentence = AnswerText(calculation);
+  if (!sentence.empty()) out.TextElement("p", {{"class", "sentence"}}, sentence);
+  AppendFigures(out, calculation);
+  AppendNotes(out, calculation);
+  if (first) AppendTwoAnswers(out, *first, calculation);
+  AppendGrids(out, calculation, arrays);
+  AppendHorizons(out, calculation, query, clock);
+  AppendTakeAlong(out, calculation, query);
+  out.Close();
+  AppendCharts(out, calculation, query);
+  AppendSchedules(out, calculation, arrays);
+}
+
+}  // namespace amortix2::pages

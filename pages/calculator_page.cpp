@@ -1,0 +1,64 @@
+#include "amortix2/pages/calculator_page.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "amortix2/automation/text_scanner.h"
+#include "amortix2/pages/answer_part.h"
+#include "amortix2/pages/calculation.h"
+#include "amortix2/pages/calculator_form.h"
+#include "amortix2/pages/downloads.h"
+#include "amortix2/pages/frame.h"
+
+namespace amortix2::pages {
+namespace {
+
+bool HasInputs(const MemberInfo& member, const Query& query) {
+  return std::ranges::any_of(query.Fields(), [&](const Query::Field& field) {
+    return field.name == "find" || FindParameter(member, field.name);
+  });
+}
+
+void AppendTitle(EscapedMarkup& out, const MemberInfo& member, bool isExample) {
+  std::string group(GroupTitle(member.group));
+  std::string address = "/#" + group;
+  std::ranges::transform(address, address.begin(), ToLower);
+  out.Open("div", {{"class", "hero"}});
+  out.Open("p", {{"class", "group"}});
+  AppendLink(out, address, group);
+  out.Close();
+  out.TextElement("h1", {}, member.title);
+  out.TextElement("p", {{"class", "lede"}}, member.help);
+  if (isExample) {
+    out.TextElement("p", {{"class", "notice"}}, "This is an example. Put in your own figures and calculate.");
+  }
+  out.Close();
+}
+
+}  // namespace
+
+Page CalculatorPage(const ClassMember& member, const Query& query, const Clock& clock) {
+  const bool isExample = !HasInputs(*member.member, query);
+  const Query inputs = isExample ? ExampleQuery(*member.member) : query;
+  const Calculation calculation(member, inputs, clock);
+  if (auto taken = Download(calculation, inputs)) return std::move(*taken);
+  std::optional<Calculation> first;
+  const std::string* with = query.Find("with");
+  if (const auto other = with ? Query::Read(*with) : std::nullopt) first.emplace(member, *other, clock);
+  EscapedMarkup out;
+  AppendTitle(out, *member.member, isExample);
+  out.Open("div", {{"class", "columns"}});
+  AppendForm(out, calculation, inputs);
+  out.Open("div", {{"class", "result"}});
+  if (calculation.IsAnswered()) {
+    AppendAnswer(out, calculation, inputs, first && first->IsAnswered() ? &*first : nullptr, clock);
+  } else {
+    AppendErrors(out, calculation);
+  }
+  out.Close();
+  out.Close();
+  return Framed(member.member->title, "/" + std::string(member.member->address), out);
+}
+
+}  // namespace amortix2::pages

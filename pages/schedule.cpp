@@ -1,0 +1,183 @@
+#include "amortix2/pages/schedule.h"
+
+#include <string>
+#include <vector>
+
+#include "amortix2/automation/conversion.h"
+#include "amortix2/pages/figure_text.h"
+#include "amortix2/pages/years.h"
+
+namespace amortix2::pages {
+namespace {
+
+/// A schedule with its titles.
+struct Schedule {
+  const TableInfo& info;
+  const Array& lines;
+  json::ResultTable table;
+
+  std::int32_t Index(std::size_t column) const {
+    return info.firstColumn + static_cast<std::int32_t>(column);
+  }
+  const HeadingInfo& HeadingOf(std::size_t column) const {
+    static constexpr HeadingInfo kNone;
+    const HeadingInfo* heading = ColumnHeading(info, Index(column));
+    return heading ? *heading : kNone;
+  }
+};
+
+/// A column of a schedule as it is shown: one of the table's, or the running sum of one.
+struct ShownColumn {
+  std::size_t column;
+  bool isRunning;
+  std::string title;
+};
+
+std::vector<ShownColumn> ShownColumns(const Schedule& schedule) {
+  std::vector<ShownColumn> shown;
+  const auto& titles = schedule.table.columns;
+  for (std::size_t column = 0; column < titles.size(); ++column) {
+    shown.push_back({column, false, titles[column]});
+    const bool runs = schedule.HeadingOf(column).runs && !schedule.info.repeats;
+    if (runs) shown.push_back({column, true, titles[column] + " so far"});
+  }
+  return shown;
+}
+
+/// The rows of a schedule's tables, one after the other from the first line on.
+class ScheduleRows {
+ public:
+  ScheduleRows(EscapedMarkup& out, const Schedule& schedule)
+      : out_(out), schedule_(schedule), columns_(ShownColumns(schedule)), sums_(columns_.size()) {}
+
+  /// By year the date's column is the year's heading.
+  void Head(bool byYear) {
+    out_.Open("thead");
+    out_.Open("tr");
+    if (byYear) out_.TextElement("th", {{"scope", "col"}}, "Year");
+    for (const ShownColumn& shown : columns_) {
+      if (byYear && IsLeftOut(shown)) continue;
+      out_.TextElement("th", {{"scope", "col"}}, shown.title);
+    }
+    out_.Close();
+    out_.Close();
+  }
+
+  void YearRow(const YearOfLines& year) {
+    out_.Open("tr");
+    out_.TextElement("th", {{"scope", "row"}}, std::to_string(year.year));
+    for (const ShownColumn& shown : columns_) {
+      if (!IsLeftOut(shown))
+        Cell(shown, CellOfYear(schedule_.info, schedule_.lines, year, schedule_.Index(shown.column)));
+    }
+    out_.Close();
+  }
+
+  void Line(std::int64_t row) {
+    out_.Open("tr");
+    for (const ShownColumn& shown : columns_) {
+      const Variant value = schedule_.table.cell(row, shown.column);
+      if (shown.column == 0) {
+        out_.TextElement("th", {{"scope", "row"}}, CellText(value, schedule_.HeadingOf(0).unit));
+      } else {
+        Cell(shown, value);
+      }
+    }
+    out_.Close();
+  }
+
+ private:
+  bool IsLeftOut(const ShownColumn& shown) const {
+    const HeadingInfo& heading = schedule_.HeadingOf(shown.column);
+    return heading.unit == Unit::Date || heading.yearly == Yearly::Nothing;
+  }
+
+  void Cell(const ShownColumn& shown, const Variant& value) {
+    if (!shown.isRunning) {
+      sums_[shown.column] += NumericOrZero(value);
+      return out_.TextElement("td", {}, CellText(value, schedule_.HeadingOf(shown.column).unit));
+    }
+    out_.TextElement("td", {},
+                     CellText(Variant(sums_[shown.column]), schedule_.HeadingOf(shown.column).unit));
+  }
+
+  EscapedMarkup& out_;
+  const Schedule& schedule_;
+  std::vector<ShownColumn> columns_;
+  std::vector<double> sums_;  // of each column down to the row that is written
+};
+
+void AppendMonths(EscapedMarkup& out, const std::string& title, const Schedule& schedule,
+                  const std::vector<YearOfLines>& years) {
+  out.Open("div", {{"class", "years"}});
+  ScheduleRows rows(out, schedule);
+  for (const YearOfLines& year : years) {
+    const std::string name = std::to_string(year.year);
+    out.Open("details");
+    out.TextElement("summary", {}, name);
+    OpenTable(out, title + ", the payments of " + name);
+    rows.Head(false);
+    out.Open("tbody");
+    for (std::int32_t line = year.first; line <= year.last; ++line) rows.Line(line);
+    out.Close();
+    CloseTable(out);
+    out.Close();
+  }
+  out.Close();
+}
+
+}  // namespace
+
+void OpenTable(EscapedMarkup& out, std::string_view caption) {
+  out.Open("div", {{"class", "scroll"}, {"role", "region"}, {"tabindex", "0"}, {"aria-label", caption}});
+  out.Open("table");
+  out.TextElement("caption", {}, caption);
+}
+
+void CloseTable(EscapedMarkup& out) {
+  out.Close();
+  out.Close();
+}
+
+void AppendSchedule(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter,
+                    const Array& array) {
+  const Schedule schedule{*parameter.table, array, json::TableOf(inputs, parameter, array)};
+  const std::vector<YearOfLines> years = YearsOf(schedule.info, array);
+  const std::string title(parameter.title);
+  OpenTable(out, title + " by year");
+  ScheduleRows rows(out, schedule);
+  rows.Head(true);
+  out.Open("tbody");
+  for (const YearOfLines& year : years) rows.YearRow(year);
+  out.Close();
+  CloseTable(out);
+  out.TextElement("p", {{"class", "hint"}}, "Open a year to see each payment.");
+  AppendMonths(out, title, schedule, years);
+}
+
+void AppendGrid(EscapedMarkup& out, const Inputs& inputs, std::string_view caption,
+                const json::ResultTable& table) {
+  OpenTable(out, caption);
+  out.Open("thead");
+  out.Open("tr");
+  if (!table.rowTitles.empty()) out.TextElement("th", {{"scope", "col"}}, table.corner);
+  for (const std::string& column : table.columns) out.TextElement("th", {{"scope", "col"}}, column);
+  out.Close();
+  out.Close();
+  out.Open("tbody");
+  for (std::int64_t row = table.rows.lower; row <= table.rows.upper; ++row) {
+    out.Open("tr");
+    if (!table.rowTitles.empty()) {
+      const std::string& title = table.rowTitles[static_cast<std::size_t>(row - table.rows.lower)];
+      out.TextElement("th", {{"scope", "row"}}, title);
+    }
+    for (std::size_t column = 0; column < table.columns.size(); ++column) {
+      out.TextElement("td", {}, FigureText(inputs, table.cell(row, column), table.unit(row, column)));
+    }
+    out.Close();
+  }
+  out.Close();
+  CloseTable(out);
+}
+
+}  // namespace amortix2::pages
