@@ -8,7 +8,7 @@ namespace amortix2::calculators {
 
 Array Table(std::int32_t lastRow, std::int32_t lastColumn) {
   if (lastRow < 0 || lastColumn < 0) Raise(ErrorNumber::SubscriptOutOfRange);
-  return Array({0, lastRow}, {0, lastColumn});
+  return Array({0, ToInteger(lastRow)}, {0, lastColumn});
 }
 
 Array LoanTable(std::span<const tSchedule> lines, std::int32_t lastRow, std::int32_t lastColumn,

@@ -17,11 +17,12 @@ namespace amortix2::calculators {
 inline constexpr std::int32_t kDetailColumns = 5;
 inline constexpr std::int32_t kDetailColumnsWithRate = 6;
 
-/// An empty table of rows 0 to lastRow and columns 0 to lastColumn. Raises SubscriptOutOfRange, OutOfMemory.
+/// An empty table of rows 0 to lastRow and columns 0 to lastColumn. Raises SubscriptOutOfRange for less than
+/// that, Overflow for rows beyond 16 bits: no schedule has so many lines; OutOfMemory.
 Array Table(std::int32_t lastRow, std::int32_t lastColumn = kDetailColumns);
 
 /// A loan's lines 0 to lastRow from column 1 on; row 0 is dated `opening`, line 0's date without one. Raises
-/// as Table does, SubscriptOutOfRange for a line that is not there, Overflow when lastRow leaves 16 bits.
+/// as Table does, SubscriptOutOfRange for a line that is not there.
 Array LoanTable(std::span<const tSchedule> lines, std::int32_t lastRow,
                 std::int32_t lastColumn = kDetailColumns, std::optional<Date> opening = {});
 

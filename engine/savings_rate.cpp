@@ -45,9 +45,14 @@ class SavingsTrials {
       : save_(save),
         periods_(SavingsPeriods(save)),
         scale_(100 * PeriodsPerYear(save.paymentMode)),
+        opening_(save),
         daysOfLines_(static_cast<std::size_t>(periods_.periods)) {
     if (CompoundingMode(save) == continuousMode) CountDays();
+    if (AfterTaxFraction(save) == 0) TakeLinesOnce();
   }
+
+  /// False when all interest goes in taxes, so that no rate changes the balance.
+  bool DependOnRate() const { return AfterTaxFraction(save_) != 0 || periods_.days != 0; }
 
   double AnnualPercent(double factor) const { return (factor - 1) * scale_; }
 
@@ -81,14 +86,29 @@ class SavingsTrials {
     }
   }
 
+  void RunLines(RunningSavings& running, const SavingsGrowth& growth) const {
+    for (const std::int32_t days : daysOfLines_) {
+      if (running.ranDry) return;
+      running.NextLine(growth, days);
+    }
+  }
+
+  /// Where no interest is left after tax, the lines are the same at every rate.
+  void TakeLinesOnce() {
+    try {
+      RunLines(opening_, SavingsGrowth(save_, 0));
+      daysOfLines_.clear();
+    } catch (const AutomationError&) {  // each trial ends where this one did
+      opening_ = RunningSavings(save_);
+    }
+  }
+
   double EndingBalance(double annualPercent) const {
-    RunningSavings running(save_);
+    RunningSavings running = opening_;
     try {
       const SavingsGrowth growth(save_, annualPercent);
-      for (const std::int32_t days : daysOfLines_) {
-        running.NextLine(growth, days);
-        if (running.ranDry) return -kInfinity;
-      }
+      RunLines(running, growth);
+      if (running.ranDry) return -kInfinity;
       const Amount balance = running.balance;
       return Finite((periods_.days == 0 ? balance : balance + growth.OfDays(balance, periods_.days)).value);
     } catch (const AutomationError& error) {
@@ -105,6 +125,7 @@ class SavingsTrials {
   const tSavingsDesc& save_;
   WholePeriods periods_;
   double scale_;
+  RunningSavings opening_;                 // from which a trial's lines go on
   std::vector<std::int32_t> daysOfLines_;  // all 0 unless interest compounds continuously
 };
 
@@ -170,7 +191,9 @@ SavingsRate FindSavingsRate(const tSavingsDesc& save) {
     const Point lost = trials.Try(0);
     return trials.Passes(lost) ? SavingsRate{} : SearchBetween(trials, lost, still, goal);
   }
-  for (double distance = trials.FirstDistance();; distance *= 2) {
+  const double first = trials.FirstDistance();
+  if (!trials.DependOnRate()) return {};
+  for (double distance = first;; distance *= 2) {
     const double factor = 1 + distance;
     if (!std::isfinite(trials.AnnualPercent(factor))) return {};
     const Point high = trials.Try(factor);
