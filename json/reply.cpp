@@ -7,6 +7,7 @@
 
 #include "amortix2/json/execution.h"
 #include "amortix2/json/json_text.h"
+#include "amortix2/json/reply_size.h"
 #include "amortix2/json/request.h"
 #include "amortix2/json/request_error.h"
 #include "amortix2/json/strangers.h"
@@ -63,7 +64,12 @@ std::optional<Cause> CauseOf(const Execution& execution, const Options& options)
 }
 
 std::string FullReply(const Execution& execution, const Tree* id, const Options& options) {
+  const ReplySize size = SizeOfReply(execution, options.form);
+  if (options.strangers) CheckAnswer(size);
+  constexpr std::size_t kNames = 512;
   std::string out;
+  // A text that grows is copied, and takes its size twice.
+  out.reserve(size.most + kNames);
   ObjectWriter reply(out);
   if (id) AppendTree(reply.Field("id"), *id);
   if (execution.Error()) {
@@ -83,22 +89,37 @@ std::string FullReply(const Execution& execution, const Tree* id, const Options&
   return out;
 }
 
-std::string Reply(const Execution& execution, const Tree* id, const Options& options) {
+std::string Reply(const Execution& execution, const Tree* id, const Options& options,
+                  std::optional<Failure>* unwritten) {
   const std::optional<Failure>& error = execution.Error();
   if (error && error->ofRequest) return ErrorReply(*error, id, CauseOf(execution, options));
   std::string reply;
-  const auto failure = Try([&] {
-    if (options.strangers) CheckAnswer(execution);
+  auto failure = Try([&] {
     reply = FullReply(execution, id, options);
     if (options.strangers) CheckReplyLength(reply.size());
   });
-  return failure ? ErrorReply(*failure, id) : reply;
+  if (!failure) return reply;
+  reply = ErrorReply(*failure, id);
+  if (unwritten) *unwritten = std::move(failure);
+  return reply;
 }
 
 std::string_view Trimmed(std::string_view text) noexcept {
   const std::size_t last = text.find_last_not_of(" \t\r");
   return text.substr(0, last == std::string_view::npos ? 0 : last + 1);
 }
+
+/// A tree that ends without taking memory.
+struct ReadTree {
+  ReadTree() = default;
+  ReadTree(const ReadTree&) = delete;
+  ReadTree& operator=(const ReadTree&) = delete;
+  ~ReadTree() {
+    if (tree) TakeApart(*tree);
+  }
+
+  std::optional<Tree> tree;
+};
 
 Tree ParseRequest(std::string_view text, std::size_t longest) {
   if (text.size() > longest) {
@@ -115,23 +136,26 @@ Tree ParseRequest(std::string_view text, std::size_t longest) {
 
 std::string Answer(std::string_view requestText, const Options& options, const Clock& clock,
                    std::string* fault) noexcept {
-  std::optional<Tree> tree;
+  ReadTree request;
+  std::string noMemoryReply;  // made ahead, while there is memory
   std::string reply;
-  const auto id = [&] { return tree ? FieldNamed(*tree, "id") : nullptr; };
+  const auto id = [&] { return request.tree ? FieldNamed(*request.tree, "id") : nullptr; };
   const auto failure = Try([&] {
-    tree = ParseRequest(requestText, options.LongestRequest());
-    const Execution execution(ReadRequest(*tree), clock, options.notes ? Keep::Inputs : Keep::Results,
+    request.tree = ParseRequest(requestText, options.LongestRequest());
+    noMemoryReply = ErrorReply({ErrorNumber::OutOfMemory, ErrorName(ErrorNumber::OutOfMemory)}, id());
+    const Execution execution(ReadRequest(*request.tree), clock, options.notes ? Keep::Inputs : Keep::Results,
                               options.strangers ? Caller::Stranger : Caller::Owner);
     if (fault && execution.Error() && execution.Error()->ofRequest) *fault = execution.WhyFailed().text;
-    reply = Reply(execution, id(), options);
+    reply = Reply(execution, id(), options, nullptr);
   });
-  if (failure && failure->ofRequest && fault) Try([&] { *fault = failure->message; });
-  if (failure) Try([&] { reply = ErrorReply(*failure, id()); });
+  if (!failure) return reply;
+  if (failure->ofRequest && fault) Try([&] { *fault = failure->message; });
+  if (Try([&] { reply = ErrorReply(*failure, id()); })) return noMemoryReply;
   return reply;
 }
 
-std::string ReplyTo(const Execution& execution, const Options& options) {
-  return Reply(execution, nullptr, options);
+std::string ReplyTo(const Execution& execution, const Options& options, std::optional<Failure>* unwritten) {
+  return Reply(execution, nullptr, options, unwritten);
 }
 
 }  // namespace amortix2::json

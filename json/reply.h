@@ -6,6 +6,7 @@
 // already carries it out (execution.h) and asks for the reply alone. Nothing here reads or writes anything
 // but its arguments; any number of threads may ask at once.
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,7 @@
 namespace amortix2::json {
 
 class Execution;
+struct Failure;
 
 /// A text longer than this is no request; a stranger's may be shorter still.
 inline constexpr std::size_t kLongestRequest = std::size_t{16} << 20;
@@ -33,13 +35,15 @@ struct Options {
   }
 };
 
-/// Answers a request, whatever is in the text. An empty text stands for kNoMemoryReply. Where the request
-/// itself is at fault, `fault` receives what is wrong with it; else it is left as it is.
+/// Answers a request, whatever is in the text. Where memory runs out, the answer is an error with the
+/// request's id, or without it where that was not read yet; an empty text stands for kNoMemoryReply. Where
+/// the request itself is at fault, `fault` receives what is wrong with it; else it is left as it is.
 std::string Answer(std::string_view requestText, const Options& options, const Clock& clock,
                    std::string* fault = nullptr) noexcept;
 
 /// The reply to a request that was carried out (with Keep::Inputs, where `options` ask for notes). A result
-/// that cannot be written makes it an error.
-std::string ReplyTo(const Execution& execution, const Options& options);
+/// that cannot be written makes it an error, which `unwritten` receives; else that is left as it is.
+std::string ReplyTo(const Execution& execution, const Options& options,
+                    std::optional<Failure>* unwritten = nullptr);
 
 }  // namespace amortix2::json

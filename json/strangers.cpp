@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <string>
 
-#include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
 #include "amortix2/component/call_values.h"
-#include "amortix2/json/execution.h"
+#include "amortix2/json/reply_size.h"
 #include "amortix2/json/request_error.h"
 
 namespace amortix2::json {
@@ -39,22 +38,6 @@ void CheckItems(const MemberInfo& member, const ParameterInfo& parameter, const 
   }
 }
 
-/// What is there of a result: its cells, and the bytes that it takes at least when it is written.
-struct Size {
-  std::size_t cells = 0;
-  std::size_t bytes = 0;
-};
-
-void Add(Size& size, const Variant& value) {
-  constexpr std::size_t kDigitAndComma = 2;
-  if (value.Type() == VariantType::Array) {
-    for (const Variant& cell : value.GetArray().Cells()) Add(size, cell);
-    return;
-  }
-  ++size.cells;
-  size.bytes += kDigitAndComma + (value.Type() == VariantType::String ? value.GetString().size() : 0);
-}
-
 }  // namespace
 
 void CheckOpen(const ClassInfo& type, const MemberInfo& member) {
@@ -82,21 +65,12 @@ void CheckInputs(const Invocation& call, std::string_view& at) {
   }
 }
 
-void CheckAnswer(const Execution& execution) {
-  Size size;
-  const Invocation* call = execution.Call();
-  for (std::size_t i = 0; call && i < call->Arguments().size(); ++i) {
-    const ParameterInfo& parameter = call->Member().parameters[i];
-    const bool isVariant = parameter.type->kind == TypeKind::Variant;
-    if (!isVariant || !parameter.byReference || !execution.Wants(parameter.name)) continue;
-    Add(size, *static_cast<const Variant*>(call->Arguments()[i].Get()));
-  }
-  if (execution.Wants("response")) size.bytes += execution.Response().size() / 3 * 4;
+void CheckAnswer(const ReplySize& size) {
   if (size.cells > kMostStrangersCells) {
     throw RequestError(ErrorNumber::OutOfMemory,
                        "the answer has more than " + std::to_string(kMostStrangersCells) + " cells");
   }
-  CheckReplyLength(size.bytes);
+  CheckReplyLength(size.least);
 }
 
 void CheckReplyLength(std::size_t bytes) {

@@ -15,7 +15,7 @@
 
 namespace amortix2::json {
 
-class Execution;
+struct ReplySize;
 
 inline constexpr std::size_t kLongestStrangersRequest = std::size_t{1} << 18;
 inline constexpr std::size_t kMostStrangersCells = std::size_t{1} << 20;
@@ -32,9 +32,9 @@ void CheckOpenSetting(const ClassInfo& type, const MemberInfo& member);
 /// is being set.
 void CheckInputs(const Invocation& call, std::string_view& at);
 
-/// Raises OutOfMemory for a call whose wanted results have more cells than kMostStrangersCells, or would make
-/// a reply longer than kLongestStrangersReply whatever their digits: before it is written.
-void CheckAnswer(const Execution& execution);
+/// Raises OutOfMemory for results of more cells than kMostStrangersCells, or of more bytes than
+/// kLongestStrangersReply however few digits they have: before they are written.
+void CheckAnswer(const ReplySize& size);
 
 /// Raises OutOfMemory above kLongestStrangersReply.
 void CheckReplyLength(std::size_t bytes);

@@ -15,6 +15,13 @@ namespace {
 /// each container is made once, of its final size.
 class TreeBuilder {
  public:
+  TreeBuilder() = default;
+  TreeBuilder(const TreeBuilder&) = delete;
+  TreeBuilder& operator=(const TreeBuilder&) = delete;
+  ~TreeBuilder() {
+    for (Tree& value : values_) TakeApart(value);
+  }
+
   bool null() { return Add(nullptr); }
   bool boolean(bool value) { return Add(value); }
   bool number_integer(std::int64_t value) { return Add(value); }
@@ -33,20 +40,24 @@ class TreeBuilder {
     return true;
   }
   bool end_array() {
+    Tree array = Tree::array();
+    auto& items = array.get_ref<Items&>();
     const auto first = FirstValue();
-    Items items(std::make_move_iterator(first), std::make_move_iterator(values_.end()));
-    return Close(std::move(items));
+    items.reserve(static_cast<std::size_t>(values_.end() - first));
+    std::move(first, values_.end(), std::back_inserter(items));
+    return Close(std::move(array));
   }
   bool end_object() {
+    Tree object = Tree::object();
+    auto& fields = object.get_ref<Fields&>();
     const auto first = FirstValue();
     auto name = names_.end() - (values_.end() - first);
-    Fields fields;
     fields.reserve(static_cast<std::size_t>(values_.end() - first));
     for (auto value = first; value != values_.end(); ++value, ++name) {
       fields.emplace_back(std::move(*name), std::move(*value));
     }
     names_.resize(names_.size() - fields.size());
-    return Close(std::move(fields));
+    return Close(std::move(object));
   }
 
   bool parse_error(std::size_t position, const std::string&, const nlohmann::json::exception& error) {
@@ -77,8 +88,7 @@ class TreeBuilder {
   std::vector<Tree>::iterator FirstValue() {
     return values_.begin() + static_cast<std::ptrdiff_t>(starts_.back());
   }
-  template <class Container>
-  bool Close(Container container) {
+  bool Close(Tree container) {
     values_.resize(starts_.back());
     starts_.pop_back();
     return Add(std::move(container));
@@ -91,6 +101,19 @@ class TreeBuilder {
 };
 
 }  // namespace
+
+void TakeApart(Tree& tree) noexcept {
+  if (tree.is_object()) return TakeApart(tree.get_ref<Fields&>());
+  if (!tree.is_array()) return;
+  auto& items = tree.get_ref<Items&>();
+  for (Tree& item : items) TakeApart(item);
+  items.clear();
+}
+
+void TakeApart(Fields& fields) noexcept {
+  for (auto& [name, value] : fields) TakeApart(value);
+  fields.clear();
+}
 
 ParsedTree ParseTree(std::string_view text) {
   TreeBuilder builder;

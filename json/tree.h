@@ -30,6 +30,11 @@ struct ParsedTree {
 /// number beyond the range of doubles.
 ParsedTree ParseTree(std::string_view text);
 
+/// Empties an array or an object without taking memory. The library's own end of one that is not empty takes
+/// some, and ends the program where there is none.
+void TakeApart(Tree& tree) noexcept;
+void TakeApart(Fields& fields) noexcept;
+
 // What a value holds; null when it is of another kind.
 inline const bool* BooleanOf(const Tree& tree) { return tree.get_ptr<const bool*>(); }
 inline const std::int64_t* IntegerOf(const Tree& tree) { return tree.get_ptr<const std::int64_t*>(); }

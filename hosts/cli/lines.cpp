@@ -7,7 +7,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <new>
 #include <system_error>
+#include <utility>
 
 #include "amortix2/json/reply.h"
 #include "amortix2/json/request_error.h"
@@ -16,6 +18,7 @@ namespace amortix2::cli {
 namespace {
 
 constexpr std::size_t kReadSize = std::size_t{1} << 16;
+constexpr std::size_t kWriteSize = std::size_t{1} << 16;
 
 /// After a call that failed: waits where it only found a descriptor that does not block not ready.
 void WaitOrRaise(int descriptor, short event, const std::string& what) {
@@ -63,6 +66,9 @@ std::string ReadWhole(const std::string& path) {
   return text;
 }
 
+LineReader::LineReader(int descriptor, std::size_t longest)
+    : descriptor_(descriptor), longest_(longest), buffer_(2 * kReadSize) {}
+
 bool LineReader::HasLine() noexcept {
   const auto first = buffer_.begin() + static_cast<std::ptrdiff_t>(scanned_);
   const auto last = buffer_.begin() + static_cast<std::ptrdiff_t>(end_);
@@ -71,22 +77,33 @@ bool LineReader::HasLine() noexcept {
   return found != last;
 }
 
-std::optional<std::string_view> LineReader::Next() {
+std::optional<Line> LineReader::Next() {
   while (!HasLine() && !atEnd_) {
     DropExcess();
     ReadMore();
   }
-  if (begin_ == end_) return std::nullopt;
+  const bool isLost = std::exchange(isLost_, false);
+  if (begin_ == end_ && !isLost) return std::nullopt;
   const std::string_view line(buffer_.data() + begin_, scanned_ - begin_);
   // At the end of the input there may be no LF to step over.
   begin_ = scanned_ = std::min(scanned_ + 1, end_);
-  return line;
+  return isLost ? Line{{}, false} : Line{line};
 }
 
-/// Of a line that is too long already, only one byte over the limit is kept.
+/// Of a line that is too long already, only one byte over the limit is kept; of one that is lost, nothing.
 void LineReader::DropExcess() noexcept {
-  const std::size_t kept = begin_ + longest_ + 1;
+  const std::size_t kept = isLost_ ? begin_ : begin_ + longest_ + 1;
   if (end_ > kept) scanned_ = end_ = kept;
+}
+
+void LineReader::MakeRoom() {
+  if (buffer_.size() >= end_ + kReadSize) return;
+  try {
+    buffer_.resize(2 * buffer_.size());
+  } catch (const std::bad_alloc&) {
+    isLost_ = true;
+    scanned_ = end_ = begin_;
+  }
 }
 
 void LineReader::ReadMore() {
@@ -96,17 +113,18 @@ void LineReader::ReadMore() {
     end_ -= begin_;
     begin_ = 0;
   }
-  if (buffer_.size() < end_ + kReadSize) buffer_.resize(std::max(2 * buffer_.size(), end_ + kReadSize));
+  MakeRoom();
   const std::size_t count = ReadSome(descriptor_, buffer_.data() + end_, kReadSize);
   end_ += count;
   atEnd_ = count == 0;
 }
 
+LineWriter::LineWriter(int descriptor) : descriptor_(descriptor) { waiting_.reserve(kWriteSize); }
+
 void LineWriter::WriteLine(std::string_view line) {
-  constexpr std::size_t kPiece = std::size_t{1} << 16;
-  if (waiting_.size() + line.size() >= kPiece) Flush();
+  if (waiting_.size() + line.size() >= kWriteSize) Flush();
   // A long line goes out as it is: it is not copied, and takes no memory here.
-  if (line.size() >= kPiece) {
+  if (line.size() >= kWriteSize) {
     WriteAll(descriptor_, line);
     line = {};
   }

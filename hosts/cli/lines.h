@@ -21,21 +21,27 @@ std::size_t ReadSome(int descriptor, char* place, std::size_t most);
 /// when it is longer than a request may be.
 std::string ReadWhole(const std::string& path);
 
-/// Lines of bounded length whatever comes: what a line has beyond the limit is read over. A line ends in LF
-/// or at the end of the input.
+struct Line {
+  std::string_view text;
+  bool isWhole = true;  ///< false where there was no memory for it; the text is then empty
+};
+
+/// Lines of bounded length whatever comes: what a line has beyond the limit, or beyond the memory that there
+/// is, is read over. A line ends in LF or at the end of the input.
 class LineReader {
  public:
   /// Lines of up to `longest` bytes are kept whole; of a longer one, the first `longest` + 1 bytes.
-  LineReader(int descriptor, std::size_t longest) : descriptor_(descriptor), longest_(longest) {}
+  LineReader(int descriptor, std::size_t longest);
 
   /// True when the next line can be had without waiting for input.
   bool HasLine() noexcept;
 
   /// The next line without its LF, valid until the next call; nothing at the end. Raises std::system_error
   /// when reading fails.
-  std::optional<std::string_view> Next();
+  std::optional<Line> Next();
 
  private:
+  void MakeRoom();
   void ReadMore();
   void DropExcess() noexcept;
 
@@ -45,12 +51,14 @@ class LineReader {
   std::size_t begin_ = 0;    // of the line that comes next
   std::size_t scanned_ = 0;  // no LF from begin_ up to here
   std::size_t end_ = 0;      // of what has been read
+  bool isLost_ = false;      // the line that comes next, for lack of memory
   bool atEnd_ = false;
 };
 
+/// Takes all its memory when it is made.
 class LineWriter {
  public:
-  explicit LineWriter(int descriptor) : descriptor_(descriptor) {}
+  explicit LineWriter(int descriptor);
 
   /// Both raise std::system_error when writing fails.
   void WriteLine(std::string_view line);

@@ -7,14 +7,13 @@
 #include <cstdint>
 #include <memory>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 #include "amortix2/automation/whole_file.h"
 #include "amortix2/cli/arguments.h"
 #include "amortix2/cli/command_line.h"
+#include "amortix2/cli/complaints.h"
 #include "amortix2/cli/lines.h"
 #include "amortix2/cli/listing.h"
 #include "amortix2/cli/product.h"
@@ -30,12 +29,6 @@
 namespace amortix2::cli {
 namespace {
 
-/// A file that could not be written.
-class FileError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
 std::unique_ptr<Clock> ClockOf(const CommandLine& line) {
   if (line.today) return std::make_unique<FixedClock>(*line.today);
   return std::make_unique<SystemClock>();
@@ -45,34 +38,24 @@ json::Options ReplyOptions(const CommandLine& line) {
   return {line.types ? json::Form::WithTypes : json::Form::Plain, line.notes, line.strangers};
 }
 
-/// Says something on standard error; one that cannot be written changes nothing.
-void Say(const std::string& what) {
-  try {
-    WriteAll(STDERR_FILENO, what + "\n");
-  } catch (const std::system_error&) {  // there is nobody to tell
-  }
-}
-void Complain(const std::string& what) { Say("amortix2: " + what); }
-
-/// Says what went wrong and returns the exit status that belongs to it.
-int Report(const json::Failure& failure, const std::string& cause) {
-  if (failure.ofRequest) {
-    Complain(cause);
-    return kBadRequest;
-  }
-  const std::string number = std::to_string(static_cast<std::int32_t>(failure.number));
-  Complain(number + " " + std::string(failure.name) + (cause.empty() ? "" : ": " + cause));
-  return kComponentError;
-}
-
 /// The arguments and the settings of a call, as a person gave them.
-struct Given {
-  json::Fields arguments;
-  json::Fields settings;
+class Given {
+ public:
+  Given() = default;
+  Given(const Given&) = delete;
+  Given& operator=(const Given&) = delete;
+  ~Given() {
+    json::TakeApart(arguments);
+    json::TakeApart(settings);
+  }
+
+  json::Fields arguments{};
+  json::Fields settings{};
 };
 
-Given ReadGiven(const CommandLine& line, const json::Target& target) {
-  Given given;
+void ReadGiven(const CommandLine& line, const json::Target& target, Given& given) {
+  given.arguments.reserve(line.arguments.size());
+  given.settings.reserve(line.arguments.size() + line.settings.size());
   const auto addArgument = [&](const Assignment& argument) {
     const ParameterInfo* input = FindInput(target.method, argument.name);
     if (!input) json::PlaceOfParameter(target.method, argument.name);  // raises, and says what there is
@@ -92,7 +75,6 @@ Given ReadGiven(const CommandLine& line, const json::Target& target) {
                            FindMember(target.type, argument.name);
     isSetting ? addSetting(argument) : addArgument(argument);
   }
-  return given;
 }
 
 std::string MethodName(const json::Target& target) {
@@ -109,7 +91,6 @@ void SaveFile(const std::string& path, std::string_view bytes) {
     if (error.Number() == ErrorNumber::OutOfMemory) throw;
     throw FileError("cannot write " + path + ": " + std::string(ErrorDescription(error.Number())));
   }
-  Say("wrote " + path + " (" + std::to_string(bytes.size()) + " bytes)");
 }
 
 void CheckOutputs(const CommandLine& line) {
@@ -120,17 +101,51 @@ void CheckOutputs(const CommandLine& line) {
   }
 }
 
-void Print(const CommandLine& line, const json::Execution& execution, const Product& product) {
-  if (line.json || line.types) {
-    WriteAll(STDOUT_FILENO, json::ReplyTo(execution, ReplyOptions(line)) + "\n");
-  } else if (line.csv) {
-    WriteAll(STDOUT_FILENO, json::ResultAsCsv(execution, *line.csv));
-  } else if (line.out == "-") {
-    WriteAll(STDOUT_FILENO, product.bytes);
-  } else {
-    const Rows rows = isatty(STDOUT_FILENO) == 1 ? Rows::Folded : Rows::All;
-    WriteAll(STDOUT_FILENO, ReadableAnswer(execution, {rows, line.only.empty(), product.name}));
+std::string Printed(const CommandLine& line, const json::Execution& execution, const Product& product) {
+  if (line.csv) return json::ResultAsCsv(execution, *line.csv);
+  if (line.out == "-") return product.bytes;
+  const Rows rows = isatty(STDOUT_FILENO) == 1 ? Rows::Folded : Rows::All;
+  return ReadableAnswer(execution, {rows, line.only.empty(), product.name});
+}
+
+std::string NotesIn(const json::Execution& execution) {
+  std::string text;
+  for (const Note& note : execution.Notes()) {
+    if (!text.empty()) text += '\n';
+    text += "note: " + note.Text();
   }
+  return text;
+}
+
+/// Makes all that is printed and said before any of it goes out: a failure says nothing but itself.
+int Tell(const CommandLine& line, const json::Execution& execution) {
+  const bool isJson = line.json || line.types;
+  std::optional<json::Failure> failure = execution.Error();
+  std::string printed;
+  std::string said;
+  Product product;
+  if (failure) {
+    said = execution.WhyFailed().text;
+  } else {
+    if (line.out) product = ProductOf(execution);
+    said = NotesIn(execution);
+    if (!isJson) printed = Printed(line, execution, product);
+  }
+  if (isJson) {
+    std::optional<json::Failure> unwritten;
+    printed = json::ReplyTo(execution, ReplyOptions(line), &unwritten);
+    printed += '\n';
+    if (unwritten) said = unwritten->message;
+    if (unwritten) failure = std::move(unwritten);
+  }
+  const std::string bytes = std::to_string(product.bytes.size());
+  const bool savesFile = !failure && line.out && line.out != "-";
+  if (savesFile) SaveFile(*line.out, product.bytes);
+  WriteAll(STDOUT_FILENO, printed);
+  if (failure) return Report(*failure, said);
+  if (!said.empty()) Say({said});
+  if (savesFile) Say({"wrote ", *line.out, " (", bytes, " bytes)"});
+  return kSuccess;
 }
 
 int RunCall(const CommandLine& line) {
@@ -142,31 +157,23 @@ int RunCall(const CommandLine& line) {
   }
   CheckOutputs(line);
   const auto clock = ClockOf(line);
-  const Given given = ReadGiven(line, target);
+  Given given;
+  ReadGiven(line, target, given);
   json::Request request{method, given.arguments, given.settings};
   if (!line.only.empty()) request.only.emplace(line.only.begin(), line.only.end());
   if (line.csv) json::NeedResult(target.method, *line.csv);
   const json::Execution execution(request, *clock, json::Keep::GivenToo);
-  if (execution.Error()) {
-    const bool isJson = line.json || line.types;
-    if (isJson) WriteAll(STDOUT_FILENO, json::ReplyTo(execution, ReplyOptions(line)) + "\n");
-    return Report(*execution.Error(), execution.WhyFailed().text);
-  }
-  const Product product = line.out ? ProductOf(execution) : Product{};
-  Print(line, execution, product);
-  for (const Note& note : execution.Notes()) Say("note: " + note.Text());
-  if (line.out && line.out != "-") SaveFile(*line.out, product.bytes);
-  return kSuccess;
+  return Tell(line, execution);
 }
 
 /// Tells of lines that are no requests, of the first ones each: nobody may be reading standard error.
 class BadLines {
  public:
-  void Add(std::uint64_t line, const std::string& fault) {
-    if (++count_ <= kTold) Complain("line " + std::to_string(line) + ": " + fault);
+  void Add(std::uint64_t line, std::string_view fault) noexcept {
+    if (++count_ <= kTold) Complain({"line ", Digits(line).View(), ": ", fault});
   }
-  void End() const {
-    if (count_ > kTold) Complain(std::to_string(count_) + " lines could not be carried out");
+  void End() const noexcept {
+    if (count_ > kTold) Complain({Digits(count_).View(), " lines could not be carried out"});
   }
 
  private:
@@ -186,7 +193,8 @@ int RunBatch(const CommandLine& line) {
     const auto request = requests.Next();
     if (!request) break;
     std::string fault;
-    const std::string reply = json::Answer(*request, options, *clock, &fault);
+    const std::string reply =
+        request->isWhole ? json::Answer(request->text, options, *clock, &fault) : std::string();
     replies.WriteLine(reply.empty() ? json::kNoMemoryReply : reply);
     if (!fault.empty()) badLines.Add(number, fault);
   }
@@ -219,39 +227,18 @@ int Run(int argc, char** argv) {
   return line->command == Command::Batch ? RunBatch(*line) : RunList(*line);
 }
 
-/// Of a reader that went away: ends as other filters do, by the signal that says so.
-int EndQuietly() {
-  std::signal(SIGPIPE, SIG_DFL);
-  std::raise(SIGPIPE);
-  return kInputOutput;  // where the signal is blocked
-}
-
-int Main(int argc, char** argv) {
+int Main(int argc, char** argv) noexcept {
   // First an error of writing, so that files are left as they should be. A file that grows too large is one.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
   try {
     return Run(argc, argv);
-  } catch (const std::system_error& error) {
-    if (error.code() == std::errc::broken_pipe) return EndQuietly();
-    Complain(error.what());
-    return kInputOutput;
-  } catch (const FileError& error) {
-    Complain(error.what());
-    return kInputOutput;
   } catch (...) {
-    const json::Failure failure = json::CurrentFailure();
-    return Report(failure, failure.message);
+    return ReportCurrent();
   }
 }
 
 }  // namespace
 }  // namespace amortix2::cli
 
-int main(int argc, char** argv) {
-  try {
-    return amortix2::cli::Main(argc, argv);
-  } catch (...) {
-    return amortix2::cli::kInputOutput;
-  }
-}
+int main(int argc, char** argv) { return amortix2::cli::Main(argc, argv); }
