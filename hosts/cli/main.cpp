@@ -213,7 +213,7 @@ int RunServe(const CommandLine& line) {
   const auto listening = [](const std::string& address) {
     WriteAll(STDOUT_FILENO, "The pages are at " + address + " (Ctrl-C ends)\n");
   };
-  web::Serve(line.serving, *clock, {listening, Say});
+  web::Serve(line.serving, *clock, {listening, [](const std::string& answer) { Say({answer}); }});
   return kSuccess;
 }
 
@@ -223,7 +223,9 @@ int Run(int argc, char** argv) {
   if (!line) return status;
   if (line->command == Command::Call) return RunCall(*line);
   if (line->command == Command::Serve) return RunServe(*line);
-  if (line->command == Command::Rows) return RunRows(*line, *ClockOf(*line), Complain);
+  if (line->command == Command::Rows) {
+    return RunRows(*line, *ClockOf(*line), [](const std::string& fault) { Complain({fault}); });
+  }
   return line->command == Command::Batch ? RunBatch(*line) : RunList(*line);
 }
 
