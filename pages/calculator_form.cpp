@@ -75,7 +75,9 @@ class FormWriter {
     AppendFind();
     for (const ParameterInfo& parameter : member.parameters) {
       if (!parameter.IsInput()) continue;
-      if (const ListInfo* list = ListOf(member, parameter)) {
+      if (!parameter.questions.empty()) {
+        AppendSurvey(parameter);
+      } else if (const ListInfo* list = ListOf(member, parameter)) {
         if (*list->inputs.begin() == parameter.name) AppendList(*list);
       } else {
         AppendSingle(parameter);
@@ -100,6 +102,36 @@ class FormWriter {
       out_.TextElement("span", {}, FindParameter(calculation_.Member(), find.input)->title);
       out_.Close();
     }
+    out_.Close();
+  }
+
+  /// Each question with its answers, one of which is chosen.
+  void AppendSurvey(const ParameterInfo& parameter) {
+    for (std::size_t i = 0; i < parameter.questions.size(); ++i) {
+      const QuestionInfo& question = parameter.questions[i];
+      const std::string id = std::string(parameter.name) + "." + std::to_string(i + 1);
+      const Field field{parameter, id, query_.Get(id), i};
+      const std::string error = ErrorOf(field) ? id + "-error" : std::string();
+      out_.Open("fieldset", {{"class", "find"},
+                             {"id", id},
+                             {"tabindex", -1},
+                             Attribute::If(!error.empty(), {"aria-describedby", error})});
+      out_.TextElement("legend", {}, question.text);
+      for (const ChoiceInfo& answer : question.answers) AppendAnswer(field, answer);
+      AppendError(field);
+      out_.Close();
+    }
+  }
+
+  void AppendAnswer(const Field& field, const ChoiceInfo& answer) {
+    const std::string id = field.id + "." + std::string(answer.text);
+    out_.Open("label", {{"for", id}});
+    out_.Leaf("input", {{"type", "radio"},
+                        {"name", field.id},
+                        {"id", id},
+                        {"value", answer.text},
+                        Attribute::If(field.text == answer.text, {"checked", ""})});
+    out_.TextElement("span", {}, answer.title);
     out_.Close();
   }
 
@@ -250,7 +282,8 @@ void AppendErrors(EscapedMarkup& out, const Calculation& calculation) {
   for (const FieldError& error : calculation.Errors()) {
     out.Open("li");
     if (error.parameter) {
-      const bool isItem = ListOf(calculation.Member(), *error.parameter) != nullptr;
+      const bool isItem =
+          ListOf(calculation.Member(), *error.parameter) || !error.parameter->questions.empty();
       const std::string place = isItem ? "." + std::to_string(error.item + 1) : std::string();
       out.TextElement("a", {{"href", "#" + std::string(error.parameter->name) + place}},
                       error.parameter->title);

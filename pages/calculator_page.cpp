@@ -36,26 +36,42 @@ void AppendTitle(EscapedMarkup& out, const MemberInfo& member, bool isExample) {
   out.Close();
 }
 
+/// The inputs without a survey's answers: nobody should be led to somebody else's profile.
+Query WithoutAnswers(const MemberInfo& member, Query query) {
+  for (const ParameterInfo& parameter : member.parameters) {
+    for (std::size_t i = 1; i <= parameter.questions.size(); ++i) {
+      query.Remove(std::string(parameter.name) + "." + std::to_string(i));
+    }
+  }
+  return query;
+}
+
+void AppendResult(EscapedMarkup& out, const Calculation& calculation, const Query& query,
+                  const Clock& clock) {
+  if (!calculation.IsAnswered()) return AppendErrors(out, calculation);
+  std::optional<Calculation> first;
+  const std::string* with = query.Find("with");
+  if (const auto other = with ? Query::Read(*with) : std::nullopt) {
+    first.emplace(calculation.Target(), *other, clock);
+  }
+  AppendAnswer(out, calculation, query, first && first->IsAnswered() ? &*first : nullptr, clock);
+}
+
 }  // namespace
 
 Page CalculatorPage(const ClassMember& member, const Query& query, const Clock& clock) {
-  const bool isExample = !HasInputs(*member.member, query);
-  const Query inputs = isExample ? ExampleQuery(*member.member) : query;
+  const bool isOpened = !HasInputs(*member.member, query);
+  const Query inputs = isOpened ? ExampleQuery(*member.member) : query;
   const Calculation calculation(member, inputs, clock);
   if (auto taken = Download(calculation, inputs)) return std::move(*taken);
-  std::optional<Calculation> first;
-  const std::string* with = query.Find("with");
-  if (const auto other = with ? Query::Read(*with) : std::nullopt) first.emplace(member, *other, clock);
+  const Query shown = isOpened ? WithoutAnswers(*member.member, inputs) : inputs;
+  const bool isOpenSurvey = shown.Fields().size() != inputs.Fields().size();
   EscapedMarkup out;
-  AppendTitle(out, *member.member, isExample);
+  AppendTitle(out, *member.member, isOpened && !isOpenSurvey);
   out.Open("div", {{"class", "columns"}});
-  AppendForm(out, calculation, inputs);
+  AppendForm(out, calculation, shown);
   out.Open("div", {{"class", "result"}});
-  if (calculation.IsAnswered()) {
-    AppendAnswer(out, calculation, inputs, first && first->IsAnswered() ? &*first : nullptr, clock);
-  } else {
-    AppendErrors(out, calculation);
-  }
+  if (!isOpenSurvey) AppendResult(out, calculation, inputs, clock);
   out.Close();
   out.Close();
   return Framed(member.member->title, "/" + std::string(member.member->address), out);

@@ -1,7 +1,7 @@
 #pragma once
 
 // The page of a calculator: its form, and the answer beside it. Opened without inputs it shows the
-// description's example.
+// description's example, but for a survey, which nobody has answered yet.
 
 #include "amortix2/automation/date.h"
 #include "amortix2/component/description.h"

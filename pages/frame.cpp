@@ -10,7 +10,7 @@ struct Place {
   std::string_view title;
 };
 constexpr Place kPlaces[] = {
-    {"/", "Calculators"}, {"/survey", "Survey"}, {"/chart", "Charts"}, {"/method", "Method"}};
+    {"/", "Calculators"}, {"/invest", "Survey"}, {"/chart", "Charts"}, {"/method", "Method"}};
 
 void AppendHead(EscapedMarkup& out, std::string_view title) {
   out.Open("head");

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "amortix2/automation/text_scanner.h"
-#include "amortix2/component/classes.h"
 #include "amortix2/pages/frame.h"
 
 namespace amortix2::pages {
@@ -46,11 +45,6 @@ std::vector<Entry> Entries() {
   entries.push_back({Group::Charts, "/chart", "Chart of a table",
                      "Paste a table and take the chart along, as a picture or as markup.",
                      "chart graph picture table bar line svg gif"});
-  for (const MemberInfo* member : kInvestmentStrategyClass.inOrder) {
-    if (member->group != Group::Survey || member->finds.empty()) continue;
-    entries.push_back(EntryOf(*member));
-    entries.back().path = "/survey";
-  }
   return entries;
 }
 
@@ -100,8 +94,7 @@ void AppendGroup(EscapedMarkup& out, const std::vector<Entry>& entries, Group gr
 }  // namespace
 
 bool HasPage(const ClassMember& member) {
-  return member.type == &kCalculatorClass && !member.member->address.empty() &&
-         member.member->group != Group::Records;
+  return !member.member->address.empty() && !member.member->finds.empty();
 }
 
 Page HomePage(const Query& query) {

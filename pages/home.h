@@ -8,7 +8,7 @@
 
 namespace amortix2::pages {
 
-/// True for members that have a page of a calculator: those that answer people, not programs.
+/// True for members that have a page: those that find something for people, not charts and records.
 bool HasPage(const ClassMember& member);
 
 /// `q` holds the words that are looked for.

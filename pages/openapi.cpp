@@ -9,6 +9,7 @@
 #include "amortix2/json/strangers.h"
 #include "amortix2/json/tree.h"
 #include "amortix2/pages/calculation.h"
+#include "amortix2/pages/home.h"
 
 namespace amortix2::pages {
 namespace {
@@ -228,9 +229,8 @@ Tree Schemas() {
 
 std::string OpenApiJson() {
   Tree paths = Tree::object();
-  for (const auto& [type, member] : MembersInOrder()) {
-    if (member->address.empty() || member->finds.empty()) continue;
-    paths["/" + std::string(member->address)] = PageOf(*member);
+  for (const ClassMember& member : MembersInOrder()) {
+    if (HasPage(member)) paths["/" + std::string(member.member->address)] = PageOf(*member.member);
   }
   paths["/call"] = CallPath();
   paths["/api"] = JsonOf("api", "All that can be called, with every parameter", {{"type", "object"}});

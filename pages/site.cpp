@@ -9,6 +9,7 @@
 #include "amortix2/component/description.h"
 #include "amortix2/pages/api.h"
 #include "amortix2/pages/calculator_page.h"
+#include "amortix2/pages/chart_page.h"
 #include "amortix2/pages/frame.h"
 #include "amortix2/pages/home.h"
 #include "amortix2/pages/method_page.h"
@@ -42,6 +43,7 @@ Page Resource(std::string_view contentType, std::string_view bytes) {
 
 constexpr Route kRoutes[] = {
     {"/", [](const Query& query, const Clock&) { return HomePage(query); }},
+    {"/chart", [](const Query& query, const Clock&) { return ChartPage(query); }},
     {"/method", [](const Query&, const Clock&) { return MethodPage(); }},
     {"/style.css",
      [](const Query&, const Clock&) { return Resource("text/css; charset=utf-8", StyleSheet()); }},

@@ -1,0 +1,314 @@
+#include "amortix2/pages/chart_page.h"
+
+#include <optional>
+#include <string>
+
+#include "amortix2/automation/array.h"
+#include "amortix2/charts/bar_chart.h"
+#include "amortix2/charts/escaped_markup.h"
+#include "amortix2/charts/svg_chart.h"
+#include "amortix2/component/description.h"
+#include "amortix2/json/request_error.h"
+#include "amortix2/pages/frame.h"
+#include "amortix2/pages/pasted_table.h"
+
+namespace amortix2::pages {
+namespace {
+
+constexpr std::string_view kExample =
+    "Year\tPrincipal\tInterest\n2027\t2,235\t12,934\n2028\t2,385\t12,784\n2029\t2,545\t12,625\n";
+constexpr std::string_view kLines = "LINE";
+constexpr std::string_view kTooLarge = "These numbers are too large to draw.";
+constexpr std::string_view kNoChoice = "This is none of the choices.";
+
+/// The choices that the description has for the charts' style, and for the axis of their rows.
+const ChoicesInfo& Styles() {
+  return *FindParameter(*FindMember(*FindClass("SvgChart"), "MakeChart"), "typ")->choices;
+}
+const ChoicesInfo& Axes() {
+  return *FindMember(*FindClass("SvgChart"), "RowAxisKind")->parameters.front().choices;
+}
+
+struct Wish {
+  std::string table;
+  std::string style;
+  std::string axis;
+  std::string title;
+  std::string below;
+  std::string left;
+};
+
+Wish WishOf(const Query& query) {
+  const auto text = [&](std::string_view name) { return std::string(query.Get(name)); };
+  Wish wish{text("table"), text("style"), text("axis"), text("title"), text("below"), text("left")};
+  if (!query.Find("table"))
+    wish = {std::string(kExample), "ST", "text", "Payments by year", "Year", "Dollars"};
+  return wish;
+}
+
+struct Drawn {
+  Variant data;
+  std::string svg;
+  std::string table;
+  std::string html;
+};
+
+struct Errors {
+  std::string table;
+  std::string style;
+  std::string axis;
+  bool Any() const { return !table.empty() || !style.empty() || !axis.empty(); }
+};
+
+std::string Escaped(std::string_view text) {
+  std::string escaped;
+  AppendEscaped(escaped, text);
+  return escaped;
+}
+
+Variant List(std::initializer_list<std::string_view> texts) {
+  std::vector<Variant> cells(texts.begin(), texts.end());
+  return Array(0, std::move(cells));
+}
+
+void DrawPicture(const Wish& wish, Drawn& drawn) {
+  SvgChart svg;
+  svg.NegativeBars(true);
+  svg.AltFormatStr("#,##0.##");
+  svg.LineMarkers(true);
+  svg.LineDashes(true);
+  svg.RowAxisKind(std::string_view(wish.axis));
+  svg.Title(std::string_view(wish.title));
+  svg.XAxisTitle(std::string_view(wish.below));
+  svg.YAxisTitle(std::string_view(wish.left));
+  Variant picture;
+  if (wish.style == kLines) {
+    svg.LineChart(drawn.data, {}, {}, picture);
+  } else {
+    svg.MakeChart(drawn.data, {}, {}, {}, {}, {}, {}, picture, std::string_view(wish.style));
+  }
+  drawn.svg = picture.GetString();
+  svg.DataTable(drawn.data, {}, std::string_view(wish.title.empty() ? "The chart's numbers" : wish.title),
+                picture);
+  drawn.table = picture.GetString();
+}
+
+/// The HTML chart takes texts as markup: what was pasted is escaped before.
+void DrawHtml(const Wish& wish, Drawn& drawn) {
+  Array data = drawn.data.GetArray();
+  for (Variant& cell : data.Cells()) {
+    if (cell.Type() == VariantType::String) cell = std::string_view(Escaped(cell.GetString()));
+  }
+  std::vector<Variant> names{Variant("")};
+  for (std::int32_t series = 1; series <= data.Dimension(2).upper; ++series) {
+    const Variant& name = data.At(0, series);
+    const bool isNamed = name.Type() == VariantType::String && !name.GetString().empty();
+    names.push_back(isNamed ? name : Variant(std::string_view("Series " + std::to_string(series))));
+  }
+  Variant table = std::move(data);
+  Variant blank = "space.gif";
+  Variant images = List({"white.gif", "blue.gif", "orange.gif", "green.gif", "purple.gif", "red.gif",
+                         "teal.gif", "violet.gif", "olive.gif"});
+  Variant legend = Array(0, std::move(names));
+  Variant titles = List({"", "", Escaped(wish.title)});
+  Variant below = std::string_view(Escaped(wish.below));
+  Variant left = std::string_view(Escaped(wish.left));
+  Variant markup;
+  BarChart chart;
+  chart.NegativeBars(true);
+  chart.MakeChart(table, blank, images, legend, titles, below, left, markup, std::string_view(wish.style));
+  for (const Variant& line : markup.GetArray().Cells()) {
+    if (line.Type() == VariantType::String) (drawn.html += line.GetString()) += '\n';
+  }
+}
+
+std::optional<Drawn> Draw(const Wish& wish, Errors& errors) {
+  if (!FindChoice(Styles(), wish.style)) errors.style = kNoChoice;
+  if (!FindChoice(Axes(), wish.axis)) errors.axis = kNoChoice;
+  PastedTable table = ReadPastedTable(wish.table);
+  errors.table = std::move(table.error);
+  if (errors.Any()) return std::nullopt;
+  Drawn drawn{.data = std::move(table.data), .svg = {}, .table = {}, .html = {}};
+  const auto failure = json::Try([&] {
+    DrawPicture(wish, drawn);
+    DrawHtml(wish, drawn);
+  });
+  if (failure) errors.table = kTooLarge;
+  return failure ? std::nullopt : std::optional(std::move(drawn));
+}
+
+/// A field of the form with its label, hint and error.
+class Field {
+ public:
+  Field(EscapedMarkup& out, std::string_view name, std::string_view label, std::string_view hint,
+        const std::string& error)
+      : out_(out), name_(name), hint_(hint), error_(error) {
+    out_.Open("div", {{"class", "field"}});
+    out_.TextElement("label", {{"for", name}}, label);
+    describedBy_ = (hint_.empty() ? "" : name_ + "-hint") + (error_.empty() ? "" : " " + name_ + "-error");
+    out_.Open("div", {{"class", "control"}});
+  }
+  ~Field() {
+    out_.Close();
+    if (!hint_.empty()) out_.TextElement("p", {{"class", "hint"}, {"id", name_ + "-hint"}}, hint_);
+    if (!error_.empty()) out_.TextElement("p", {{"class", "error"}, {"id", name_ + "-error"}}, error_);
+    out_.Close();
+  }
+  Field(const Field&) = delete;
+  Field& operator=(const Field&) = delete;
+  Field(Field&&) = delete;
+  Field& operator=(Field&&) = delete;
+
+  void Text(std::string_view value) {
+    out_.Leaf("input", {{"type", "text"},
+                        {"id", name_},
+                        {"name", name_},
+                        {"value", value},
+                        {"maxlength", 120},
+                        {"autocomplete", "off"},
+                        DescribedBy()});
+  }
+
+  void Area(std::string_view value) {
+    out_.Open("textarea", {{"id", name_},
+                           {"name", name_},
+                           {"rows", 9},
+                           {"spellcheck", "false"},
+                           DescribedBy(),
+                           Attribute::If(!error_.empty(), {"aria-invalid", "true"})});
+    out_.Text("\n");  // browsers drop the first line end
+    out_.Text(value);
+    out_.Close();
+  }
+
+  void Select(const ChoicesInfo& choices, std::string_view value) {
+    out_.Open("select", {{"id", name_},
+                         {"name", name_},
+                         DescribedBy(),
+                         Attribute::If(!error_.empty(), {"aria-invalid", "true"})});
+    for (const ChoiceInfo& choice : choices.choices) {
+      if (choice.text == "OR") continue;  // another name of overlapped columns
+      out_.TextElement("option",
+                       {{"value", choice.text}, Attribute::If(choice.text == value, {"selected", ""})},
+                       choice.title);
+    }
+    out_.Close();
+  }
+
+ private:
+  Attribute DescribedBy() const {
+    return Attribute::If(!describedBy_.empty(), {"aria-describedby", describedBy_});
+  }
+
+  EscapedMarkup& out_;
+  std::string name_;
+  std::string_view hint_;
+  const std::string& error_;
+  std::string describedBy_;
+};
+
+void AppendForm(EscapedMarkup& out, const Wish& wish, const Errors& errors) {
+  const std::string none;
+  out.Open("form", {{"class", "card inputs"}, {"action", "/chart#answer"}, {"aria-label", "Inputs"}});
+  Field(out, "table", "Table",
+        "A line for each row, its label first; a first line may name the series. From a spreadsheet, as CSV, "
+        "or in columns.",
+        errors.table)
+      .Area(wish.table);
+  Field(out, "style", Styles().title, "", errors.style).Select(Styles(), wish.style);
+  Field(out, "axis", Axes().title, "What the labels of the rows are", errors.axis).Select(Axes(), wish.axis);
+  Field(out, "title", "Title", "", none).Text(wish.title);
+  Field(out, "below", "Caption below", "", none).Text(wish.below);
+  Field(out, "left", "Caption at the left", "", none).Text(wish.left);
+  out.Open("div", {{"class", "actions"}});
+  out.TextElement("button", {{"type", "submit"}}, "Draw");
+  out.Close();
+  out.Close();
+}
+
+void AppendMarkup(EscapedMarkup& out, std::string_view id, std::string_view title, std::string_view hint,
+                  std::string_view markup) {
+  out.Open("div", {{"class", "field"}});
+  out.TextElement("label", {{"for", id}}, title);
+  out.TextElement("p", {{"class", "hint"}}, hint);
+  out.Open("textarea",
+           {{"id", id}, {"class", "code"}, {"rows", 6}, {"readonly", ""}, {"spellcheck", "false"}});
+  out.Text("\n");
+  out.Text(markup);
+  out.Close();
+  out.Close();
+}
+
+void AppendChart(EscapedMarkup& out, const Wish& wish, const Drawn& drawn, const Query& query) {
+  out.Open("section", {{"class", "card answer"}, {"id", "answer"}, {"aria-labelledby", "answer-title"}});
+  out.TextElement("h2", {{"id", "answer-title"}}, "The chart");
+  out.Open("figure", {{"class", "chart"}});
+  if (!wish.title.empty()) out.TextElement("figcaption", {}, wish.title);
+  out.Open("div", {{"aria-hidden", "true"}});
+  out.AppendMarkup(drawn.svg);
+  out.Close();
+  out.Open("details");
+  out.TextElement("summary", {}, "The chart's numbers");
+  out.Open("div",
+           {{"class", "scroll"}, {"tabindex", 0}, {"role", "region"}, {"aria-label", "The chart's numbers"}});
+  out.AppendMarkup(drawn.table);
+  for (int i = 0; i < 3; ++i) out.Close();
+  Query picture = query;
+  picture.Set("format", "svg");
+  out.Open("ul", {{"class", "along"}});
+  out.Open("li");
+  out.TextElement("a", {{"href", "?" + picture.Text()}, {"download", "chart.svg"}},
+                  "The picture as a file (SVG)");
+  for (int i = 0; i < 3; ++i) out.Close();
+  out.Open("section", {{"class", "card inputs"}, {"aria-labelledby", "markup-title"}});
+  out.TextElement("h2", {{"id", "markup-title"}}, "Markup to copy");
+  AppendMarkup(out, "svg", "Picture (SVG)", "Put it into a page as it is.", drawn.svg);
+  AppendMarkup(out, "html", "HTML bar chart",
+               "Tables and stretched images for pages without pictures of their own; it needs the one-pixel "
+               "images that it names.",
+               drawn.html);
+  out.Close();
+}
+
+void AppendErrors(EscapedMarkup& out, const Errors& errors) {
+  out.Open("section", {{"class", "card problems"}, {"id", "answer"}, {"role", "alert"}, {"tabindex", "-1"}});
+  out.TextElement("h2", {}, "Please look at this again");
+  out.Open("ul");
+  const auto append = [&](const char* address, std::string_view title, const std::string& error) {
+    if (error.empty()) return;
+    out.Open("li");
+    AppendLink(out, address, title);
+    out.Text(": " + error);
+    out.Close();
+  };
+  append("#table", "Table", errors.table);
+  append("#style", Styles().title, errors.style);
+  append("#axis", Axes().title, errors.axis);
+  out.Close();
+  out.Close();
+}
+
+}  // namespace
+
+Page ChartPage(const Query& query) {
+  const Wish wish = WishOf(query);
+  Errors errors;
+  const auto drawn = Draw(wish, errors);
+  if (drawn && query.Get("format") == "svg") {
+    return {.contentType = "image/svg+xml", .bytes = drawn->svg, .fileName = "chart.svg"};
+  }
+  EscapedMarkup out;
+  out.Open("div", {{"class", "hero"}});
+  out.TextElement("h1", {}, "Chart of a table");
+  out.TextElement("p", {{"class", "lede"}}, "Paste numbers, and take the chart along.");
+  out.Close();
+  out.Open("div", {{"class", "columns"}});
+  AppendForm(out, wish, errors);
+  out.Open("div", {{"class", "result"}});
+  drawn ? AppendChart(out, wish, *drawn, query) : AppendErrors(out, errors);
+  out.Close();
+  out.Close();
+  return Framed("Chart of a table", "/chart", out);
+}
+
+}  // namespace amortix2::pages
