@@ -5,6 +5,7 @@
 #include <cmath>
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include "amortix2/automation/conversion.h"
 #include "amortix2/automation/text_scanner.h"
@@ -19,28 +20,42 @@ const json::CsvRecord kHeader{"month", "payments", "principal", "interest", "bal
 
 constexpr std::int32_t kMonths = 12;
 
-int Digits(std::string_view text) {
-  int number = 0;
-  for (const char c : text) number = IsDigit(c) ? number * 10 + (c - '0') : -1'000'000;
-  return number;
+constexpr std::int32_t Digit(char c) { return c - '0'; }
+constexpr std::int32_t TwoDigits(const char* text) { return Digit(text[0]) * 10 + Digit(text[1]); }
+
+/// A month of a year, in their digits, counted from the year 0; negative where there is none.
+constexpr std::int32_t MonthAt(const char* year, const char* month) {
+  const std::int32_t number = TwoDigits(month);
+  if (number < 1 || number > kMonths) return -1;
+  return (TwoDigits(year) * 100 + TwoDigits(year + 2)) * kMonths + number - 1;
 }
 
-/// The month of "mm-dd-yyyy" or, `isIso`, of "yyyy-mm", counted from the year 0.
-std::optional<std::int32_t> MonthOf(std::string_view text, bool isIso) {
-  if (text.size() != (isIso ? 7u : 10u) || text[isIso ? 4 : 2] != '-') return std::nullopt;
-  const int year = Digits(isIso ? text.substr(0, 4) : text.substr(6));
-  const int month = Digits(isIso ? text.substr(5) : text.substr(0, 2));
-  if (year < 0 || month < 1 || month > kMonths) return std::nullopt;
-  return year * kMonths + month - 1;
+/// The month of "mm-dd-yyyy", as schedules have it; negative for anything else.
+std::int32_t MonthOf(const Variant& date) {
+  if (date.Type() != VariantType::String) return -1;
+  const std::string_view text = date.GetString();
+  return text.size() == sizeof(DateText) ? MonthAt(text.data() + 6, text.data()) : -1;
 }
 
-std::int64_t ToCents(double amount) {
+/// The month of "yyyy-mm".
+std::optional<std::int32_t> ReadMonth(std::string_view text) {
+  TextScanner scanner(text);
+  const std::string_view year = scanner.TakeWhile(IsDigit);
+  const bool isParted = scanner.Take('-');
+  const std::string_view month = scanner.TakeWhile(IsDigit);
+  if (year.size() != 4 || !isParted || month.size() != 2 || !scanner.AtEnd()) return std::nullopt;
+  const std::int32_t number = MonthAt(year.data(), month.data());
+  return number < 0 ? std::nullopt : std::optional(number);
+}
+
+/// A number of cents, rounded; up to 2^51 of them.
+std::uint64_t ToWhole(double cents) {
   constexpr double kNoFraction = 0x1.8p52;  // a sum with it has no room for a fraction
-  const double cents = amount * 100;
-  if (!(std::abs(cents) < 0x1p51)) {
-    throw json::RequestError(ErrorNumber::Overflow, "an amount is too large to be added up in cents");
-  }
-  return std::bit_cast<std::int64_t>(cents + kNoFraction) - std::bit_cast<std::int64_t>(kNoFraction);
+  return std::bit_cast<std::uint64_t>(cents + kNoFraction) - std::bit_cast<std::uint64_t>(kNoFraction);
+}
+
+double AmountIn(const Variant& cell) {
+  return cell.Type() == VariantType::Double ? cell.GetDouble() : ToDouble(cell);
 }
 
 template <class Cents>
@@ -94,47 +109,87 @@ void NeedLoanSchedule(const ParameterInfo& result) {
   if (!isSchedule) throw json::RequestError(std::string(result.name) + " is no schedule of one loan");
 }
 
-void MonthSums::ReadLines(const Array& schedule) {
-  lines_.clear();
-  if (schedule.Rank() != 2 || schedule.Dimension(2).upper < static_cast<std::int32_t>(kColumns.size()))
-    return;
-  const Bounds rows = schedule.Dimension(1);
-  for (std::int64_t row = rows.lower; row <= rows.upper; ++row) {
-    const Variant& date = schedule.At(row, 1);
-    const auto month = date.Type() == VariantType::String ? MonthOf(date.GetString(), false) : std::nullopt;
-    if (!month) return;
-    Line& line = lines_.emplace_back();
-    line.month = *month;
-    const Variant* cell = &date;
-    for (std::int64_t& cents : line.cents) {
-      ++cell;
-      cents = ToCents(cell->Type() == VariantType::Double ? cell->GetDouble() : ToDouble(*cell));
-    }
+/// The months of the schedule's lines, as far as it has some; and where their cells are.
+void MonthSums::ReadMonths(const Array& schedule) {
+  constexpr Bounds kUsed{1, kColumns.size()};
+  if (schedule.Rank() != 2) return;
+  const Bounds columns = schedule.Dimension(2);
+  if (!columns.Contains(kUsed.lower) || !columns.Contains(kUsed.upper)) return;
+  width_ = static_cast<std::size_t>(columns.Count());
+  const auto first = static_cast<std::size_t>(kUsed.lower - columns.lower);
+  cells_ = schedule.Cells();
+  for (std::size_t date = first; date < cells_.size(); date += width_) {
+    const std::int32_t month = MonthOf(cells_[date]);
+    if (month < 0) break;
+    lineMonths_.push_back(month);
   }
+  if (!lineMonths_.empty()) cells_ = cells_.subspan(first);
+}
+
+/// Adds the lines to the open sums, or takes them off again; returns the largest amount in cents.
+template <class Operation>
+double MonthSums::Book(const Operation& operation) {
+  std::array<double, kAmounts> largest{};
+  std::array<std::uint64_t, kAmounts> cents{};
+  std::int32_t before = lineMonths_.front();
+  const auto add = [&](std::uint64_t& sum, std::uint64_t amount) { sum = operation(sum, amount); };
+  const Variant* row = cells_.data();
+  for (const std::int32_t month : lineMonths_) {
+    // The balance stands until the next line's month, and gives way to another in its own.
+    for (std::int32_t between = before + 1; between < month; ++between) {
+      add(OpenAt(between)[kBalance], cents[kBalance]);
+    }
+    OpenAmounts& sums = OpenAt(month);
+    if (month == before) sums[kBalance] = operation(sums[kBalance], 0 - cents[kBalance]);
+    for (std::size_t i = 0; i < kAmounts; ++i) {
+      const double amount = 100 * AmountIn(row[i + 1]);
+      largest[i] = std::max(largest[i], std::abs(amount));
+      cents[i] = ToWhole(amount);
+      add(sums[i], cents[i]);
+    }
+    before = month;
+    row += width_;
+  }
+  return std::ranges::max(largest);
 }
 
 void MonthSums::Add(const Variant& schedule) {
-  lines_.clear();
-  if (schedule.Type() == VariantType::Array) ReadLines(schedule.GetArray());
-  if (lines_.empty()) {
+  lineMonths_.clear();
+  if (schedule.Type() == VariantType::Array) ReadMonths(schedule.GetArray());
+  if (lineMonths_.empty()) {
     throw json::RequestError(ErrorNumber::TypeMismatch, "there is no schedule: the inputs determine no loan");
   }
-  const auto [first, last] = std::ranges::minmax_element(lines_, {}, &Line::month);
-  Cover(first->month, last->month);
-  for (std::size_t i = 0; i < lines_.size(); ++i) {
-    const Line& line = lines_[i];
-    Amounts& sums = At(line.month);
-    for (std::size_t column = 0; column < kBalance; ++column) sums[column] += line.cents[column];
-    // The balance stands until the next line's month, and the last one in its own.
-    const std::int32_t until = i + 1 < lines_.size() ? lines_[i + 1].month : line.month + 1;
-    for (std::int32_t month = line.month; month < until; ++month) {
-      At(month)[kBalance] += line.cents[kBalance];
-    }
+  const auto [first, last] = std::ranges::minmax(lineMonths_);
+  Cover(first, last);
+  const double largest = Book(std::plus());
+  // No month gets more than each line's amount, and a balance that stands.
+  const double most = largest * static_cast<double>(lineMonths_.size() + 1);
+  constexpr double kRoom = 0x1p62;
+  if (!(largest <= 0x1p51 && most <= kRoom)) {
+    Book(std::minus());
+    throw json::RequestError(ErrorNumber::Overflow, "an amount is too large to be added up in cents");
   }
+  if (open_ + most > kRoom) {
+    Book(std::minus());
+    Close();
+    Book(std::plus());
+  }
+  open_ += most;
 }
 
-void MonthSums::Add(const MonthSums& other) {
+/// Moves the open sums to where there is room for all.
+void MonthSums::Close() {
+  for (std::size_t month = 0; month < months_.size(); ++month) {
+    for (std::size_t i = 0; i < kAmounts; ++i) {
+      months_[month][i] += static_cast<std::int64_t>(std::exchange(openMonths_[month][i], 0));
+    }
+  }
+  open_ = 0;
+}
+
+void MonthSums::Add(MonthSums other) {
   if (other.months_.empty()) return;
+  other.Close();
   Cover(other.first_, other.first_ + static_cast<std::int32_t>(other.months_.size()) - 1);
   for (std::size_t i = 0; i < other.months_.size(); ++i) {
     Amounts& sums = months_[static_cast<std::size_t>(other.first_ - first_) + i];
@@ -145,11 +200,14 @@ void MonthSums::Add(const MonthSums& other) {
 void MonthSums::Cover(std::int32_t first, std::int32_t last) {
   if (months_.empty()) first_ = first;
   if (first < first_) {
-    months_.insert(months_.begin(), static_cast<std::size_t>(first_ - first), {});
+    const auto more = static_cast<std::size_t>(first_ - first);
+    months_.insert(months_.begin(), more, {});
+    openMonths_.insert(openMonths_.begin(), more, {});
     first_ = first;
   }
   const auto count = static_cast<std::size_t>(last - first_) + 1;
-  if (count > months_.size()) months_.resize(count);
+  months_.resize(std::max(count, months_.size()));
+  openMonths_.resize(months_.size());
 }
 
 void MonthSums::AddText(std::string_view text, char separator) {
@@ -158,7 +216,7 @@ void MonthSums::AddText(std::string_view text, char separator) {
     throw json::RequestError("this is no sum by month: its header is not month,payments,...");
   }
   for (auto record = records.begin() + 1; record != records.end(); ++record) {
-    const auto month = MonthOf(record->front(), true);
+    const auto month = ReadMonth(record->front());
     if (!month) throw json::RequestError(json::Quoted(record->front()) + " is no month YYYY-MM");
     Cover(*month, *month);
     for (std::size_t column = 0; column < At(*month).size(); ++column) {
@@ -169,7 +227,8 @@ void MonthSums::AddText(std::string_view text, char separator) {
   }
 }
 
-void MonthSums::AppendTo(std::string& out, char separator) const {
+void MonthSums::AppendTo(std::string& out, char separator) {
+  Close();
   json::AppendCsv(out, kHeader, separator);
   std::int32_t month = first_;
   for (const Amounts& sums : months_) {

@@ -9,7 +9,9 @@
 // payments add up and the last balance counts.
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,31 +29,38 @@ class MonthSums {
   /// Adds a loan's schedule, each cell rounded to whole cents. Raises RequestError for a table without
   /// lines or dates and for an amount beyond 22 million million; nothing is added then.
   void Add(const Variant& schedule);
-  void Add(const MonthSums& other);
+  void Add(MonthSums other);
 
   /// Adds sums that AppendTo wrote. Raises RequestError for anything else, when some may be added.
   void AddText(std::string_view text, char separator);
 
   /// A header, then a line for each month from the first to the last.
-  void AppendTo(std::string& out, char separator) const;
+  void AppendTo(std::string& out, char separator);
 
  private:
-  __extension__ using Cents = __int128;  // 2^76 loans of the largest amount
+  __extension__ using Cents = __int128;  // room for 2^76 of the largest amount
+  static constexpr std::size_t kAmounts = 4;
   static constexpr std::size_t kBalance = 3;
-  using Amounts = std::array<Cents, 4>;
+  using Amounts = std::array<Cents, kAmounts>;
+  using OpenAmounts = std::array<std::uint64_t, kAmounts>;  // modulo 2^64, so that all can be taken off again
 
-  struct Line {
-    std::int32_t month;  // since the year 0
-    std::array<std::int64_t, 4> cents;
-  };
-
-  void ReadLines(const Array& schedule);
+  void ReadMonths(const Array& schedule);
+  template <class Operation>
+  double Book(const Operation& operation);
+  void Close();
   void Cover(std::int32_t first, std::int32_t last);
   Amounts& At(std::int32_t month) { return months_[static_cast<std::size_t>(month - first_)]; }
+  OpenAmounts& OpenAt(std::int32_t month) { return openMonths_[static_cast<std::size_t>(month - first_)]; }
 
   std::int32_t first_ = 0;
   std::vector<Amounts> months_;
-  std::vector<Line> lines_;  // of the schedule that is being added
+  std::vector<OpenAmounts> openMonths_;  // what is not in months_ yet
+  double open_ = 0;                      // the most that may be in one of them
+
+  // Of the schedule that is being added: its lines' months, and the cells from the first one's date on.
+  std::vector<std::int32_t> lineMonths_;
+  std::span<const Variant> cells_;
+  std::size_t width_ = 0;
 };
 
 }  // namespace amortix2::cli

@@ -150,5 +150,25 @@ TEST_F(Program, NeitherThreadsNorCutsOfRowsChangeAByte) {
   EXPECT_EQ(Read("out"), summed);
 }
 
+TEST_F(Program, SumsBeyond64BitsAreExactAndWhatIsTooLargeLeavesThem) {
+  const std::string sum = "rows fixed vIntRate=0 --sum vDetArray --today 2026-12-31";
+  const std::string header = "vPurchaseAmt,vPeriod\n";
+  std::string loans;
+  for (int i = 0; i < 100; ++i) loans += "20000000000000.01,2\n";
+  ASSERT_EQ(Run(sum, header + loans), 0);
+  std::ofstream(Path("hundred"), std::ios::binary) << Read("out");
+  std::string all = header;
+  std::string merge = "rows --merge";
+  for (int i = 0; i < 50; ++i) {
+    all += loans + "30000000000000,2\n";
+    merge += " '" + Path("hundred") + "'";
+  }
+  ASSERT_EQ(Run(sum, all), kRowsFailed + 50);
+  const std::string sums = Read("out");
+  EXPECT_NE(sums.find("\r\n2026-12,0.00,0.00,0.00,100000000000000050.00\r\n"), std::string::npos) << sums;
+  ASSERT_EQ(Run(merge), 0);
+  EXPECT_EQ(Read("out"), sums);
+}
+
 }  // namespace
 }  // namespace amortix2::cli
