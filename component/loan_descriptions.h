@@ -19,7 +19,7 @@ inline constexpr auto kLoanMembers = std::tuple{
             .group = Group::Loans,
             .title = "Loan",
             .address = "loan",
-            .help = "A loan that starts today: of amount, payment, term and rate finds the one left at 0.",
+            .help = "A loan that starts today: of amount, payment, term and rate finds the one left out.",
             .finds =
                 {
                     {.input = "vPurchaseAmt",

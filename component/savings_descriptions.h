@@ -108,9 +108,8 @@ inline constexpr auto kMembers = std::tuple{
             .group = Group::Savings,
             .title = "Savings, any unknown",
             .address = "savings",
-            .help =
-                "Of balance, deposit, goal, term and rate of a savings plan, finds the one that is 0; the "
-                "goal when none is.",
+            .help = "Of balance, deposit, goal, term and rate of a savings plan, finds the one left out; the "
+                    "goal when none is.",
             .finds = Finds({{{.input = "vPeriod",
                               .figure = "vResEndDate",
                               .sentences = {NotReached("vResPayment"),
@@ -184,7 +183,7 @@ inline constexpr auto kRetirementMembers = std::tuple{
             .group = Group::Retirement,
             .title = "Retirement account",
             .address = "retirement",
-            .help = "A retirement account with yearly contributions: finds the quantity that is 0, and the "
+            .help = "A retirement account with yearly contributions: finds the quantity left out, and the "
                     "balance after tax.",
             .finds =
                 Finds({{{.input = "vPeriod",

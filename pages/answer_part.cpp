@@ -33,11 +33,11 @@ std::vector<ResultArray> Arrays(const Calculation& calculation) {
 bool IsSchedule(const ParameterInfo& parameter) { return parameter.table->opensWithRowZero; }
 
 void AppendFigures(EscapedMarkup& out, const Calculation& calculation) {
-  const std::vector<NamedFigure> figures = FiguresOf(calculation);
+  std::vector<NamedFigure> figures = FiguresOf(calculation);
+  std::erase_if(figures, [](const NamedFigure& figure) { return figure.isEcho || figure.isCell; });
   if (figures.empty()) return;
   out.Open("dl", {{"class", "figures"}});
   for (const NamedFigure& figure : figures) {
-    if (figure.isEcho) continue;
     out.Open("div", {Attribute::If(figure.isFound, {"class", "found"})});
     out.TextElement("dt", {}, figure.title);
     out.TextElement("dd", {}, FigureText(calculation.In(), figure.value, figure.unit));
@@ -65,7 +65,7 @@ void AppendNotes(EscapedMarkup& out, const Calculation& calculation) {
 void AppendGrids(EscapedMarkup& out, const Calculation& calculation, const std::vector<ResultArray>& arrays) {
   for (const auto& [parameter, array] : arrays) {
     if (IsSchedule(parameter) || array.Rank() == 1) continue;
-    AppendGrid(out, calculation.In(), parameter.title, json::TableOf(calculation.In(), parameter, array));
+    AppendGrid(out, calculation.In(), parameter, array);
   }
 }
 
@@ -85,6 +85,18 @@ void AppendSchedules(EscapedMarkup& out, const Calculation& calculation,
   }
 }
 
+void AppendChartCard(EscapedMarkup& out, const Calculation& calculation, const Query& query) {
+  EscapedMarkup charts;
+  AppendCharts(charts, calculation, query);
+  if (charts.Written().empty()) return;
+  out.Open("section", {{"class", "card"}, {"aria-labelledby", "charts"}});
+  out.TextElement("h2", {{"id", "charts"}}, "Charts");
+  out.Open("div", {{"class", "charts"}});
+  out.Append(charts);
+  out.Close();
+  out.Close();
+}
+
 void AppendTakeAlong(EscapedMarkup& out, const Calculation& calculation, const Query& query) {
   const std::string path = "/" + std::string(calculation.Member().address) + "?";
   Query own = query;
@@ -98,7 +110,9 @@ void AppendTakeAlong(EscapedMarkup& out, const Calculation& calculation, const Q
   link(path + own.Text() + "#answer", "Link to this answer");
   Query with = own;
   with.Set("with", own.Text());
-  link(path + with.Text(), "Compare with a change");
+  link(path + with.Text(),
+       query.Find("with") ? "Compare the next change with this" : "Compare with a change");
+  if (query.Find("with")) link(path + own.Text(), "Stop comparing");
   out.Close();
   AppendDownloads(out, calculation, own);
 }
@@ -121,12 +135,17 @@ void AppendAnswer(EscapedMarkup& out, const Calculation& calculation, const Quer
   if (!sentence.empty()) out.TextElement("p", {{"class", "sentence"}}, sentence);
   AppendFigures(out, calculation);
   AppendNotes(out, calculation);
-  if (first) AppendTwoAnswers(out, *first, calculation);
+  if (first && first->Arguments() == calculation.Arguments()) {
+    out.TextElement("p", {{"class", "notice"}},
+                    "Now change an input and calculate: this answer stays beside the new one.");
+  } else if (first) {
+    AppendTwoAnswers(out, *first, calculation);
+  }
   AppendGrids(out, calculation, arrays);
   AppendHorizons(out, calculation, query, clock);
   AppendTakeAlong(out, calculation, query);
   out.Close();
-  AppendCharts(out, calculation, query);
+  AppendChartCard(out, calculation, query);
   AppendSchedules(out, calculation, arrays);
 }
 

@@ -1,8 +1,10 @@
 #include "amortix2/pages/calculation.h"
 
 #include <algorithm>
+#include <functional>
 
-#include "amortix2/json/json_text.h"
+#include "amortix2/automation/conversion.h"
+#include "amortix2/automation/number_format.h"
 #include "amortix2/pages/typed_input.h"
 
 namespace amortix2::pages {
@@ -20,10 +22,19 @@ bool IsZero(const json::Fields& arguments, std::string_view name) {
   return !number || *number == 0;
 }
 
-/// As a person would type an example's value, which is a number, a text or a date.
-std::string TypedText(const json::Tree& value) {
+/// As a person would type an example's value: an amount with its thousands parted.
+std::string TypedText(const ParameterInfo& parameter, std::string_view value) {
+  static const NumberPattern kMoney("#,##0.##");
+  const bool isMoney = parameter.unit == Unit::Currency || parameter.unit == Unit::MonthlyCurrency;
+  const auto number = isMoney ? ParseNumber(value) : std::nullopt;
+  if (!number) return std::string(value);
+  std::string text = kMoney.Format(*number);
+  if (text.ends_with('.')) text.pop_back();
+  return text;
+}
+std::string TypedText(const ParameterInfo& parameter, const json::Tree& value) {
   const std::string* text = json::TextOf(value);
-  return text ? *text : value.dump();
+  return TypedText(parameter, std::string_view(text ? *text : value.dump()));
 }
 
 }  // namespace
@@ -54,12 +65,13 @@ Query ExampleQuery(const MemberInfo& member) {
     const auto values = isList ? json::ParseTree(parameter.example).tree : std::nullopt;
     const json::Items* items = values ? json::ItemsOf(*values) : nullptr;
     if (!items) {
-      query.Set(parameter.name, parameter.example);
+      query.Set(parameter.name, TypedText(parameter, parameter.example));
     } else if (parameter.questions.empty()) {
-      for (const json::Tree& item : *items) query.Append(parameter.name, TypedText(item));
+      for (const json::Tree& item : *items) query.Append(parameter.name, TypedText(parameter, item));
     } else {
       for (std::size_t i = 1; i < items->size(); ++i) {
-        query.Append(std::string(parameter.name) + "." + std::to_string(i), TypedText((*items)[i]));
+        query.Append(std::string(parameter.name) + "." + std::to_string(i),
+                     TypedText(parameter, (*items)[i]));
       }
     }
   }
@@ -80,6 +92,8 @@ Calculation::Calculation(const ClassMember& member, const Query& query, const Cl
     }
   }
   CheckFind();
+  // Each points into the member's parameters, which stand as the fields do.
+  std::ranges::stable_sort(errors_, std::less<>(), &FieldError::parameter);
   if (!errors_.empty()) return;
   static const json::Fields kNoSettings;
   const std::string call = Call();

@@ -53,11 +53,12 @@ std::string_view WhenEmpty(Omitted omitted) {
   }
 }
 
-/// The description's help, without what it says of a 0 that nobody types here.
+/// The description's help, without what it says of a 0, which nobody has to type here.
 std::string Hint(const ParameterInfo& parameter) {
   std::string hint(parameter.help);
   if (parameter.choices && parameter.unit == Unit::Text) hint.clear();
-  if (parameter.omitted == Omitted::FindIt) hint.erase(std::min(hint.find("; 0"), hint.size()));
+  const bool isSaidBelow = parameter.omitted == Omitted::FindIt || parameter.omitted == Omitted::WholeTerm;
+  if (isSaidBelow) hint.erase(std::min(hint.find(';'), hint.size()));
   if (!hint.empty()) hint += '.';
   const std::string_view empty = parameter.choices ? std::string_view() : WhenEmpty(parameter.omitted);
   if (!empty.empty()) hint.append(hint.empty() ? "" : " ").append(empty);

@@ -29,11 +29,15 @@ std::string Counted(double number, const char* one, const char* many) {
   return Formatted(kCount, number) + (number == 1 ? one : many);
 }
 
+/// From two years on in years and months.
 std::string MonthsText(double months) {
   constexpr double kYear = 12;
-  if (std::abs(months) < 2 * kYear || std::fmod(months, kYear) != 0)
-    return Counted(months, " month", " months");
-  return Counted(months / kYear, " year", " years");
+  const double size = std::abs(months);
+  if (size < 2 * kYear || size != std::trunc(size)) return Counted(months, " month", " months");
+  const double rest = std::fmod(months, kYear);
+  std::string text = Counted((months - rest) / kYear, " year", " years");
+  if (rest != 0) text += " " + Counted(std::abs(rest), " month", " months");
+  return text;
 }
 
 bool IsPlain(const Variant& value) {

@@ -9,7 +9,7 @@
 
 namespace amortix2::pages {
 
-/// A value with its unit. Months that make whole years, from two on, are told in years.
+/// A value with its unit; from 24 on, months are told in years and months.
 std::string FigureText(const Variant& value, Unit unit);
 
 /// The same, where periods have the word of the member's frequency ("24 quarters").

@@ -59,21 +59,8 @@ class Horizons {
     proposed_ = TitleOf(calculation, comparison.proposed);
   }
 
-  void Append(EscapedMarkup& out) {
-    struct Column {
-      std::string title;
-      Costs costs;
-    };
-    std::vector<Column> columns;
-    for (const auto& [months, title] :
-         {std::pair(12, "1 year"), std::pair(60, "5 years"), std::pair(120, "10 years")}) {
-      if (const auto costs = After(months)) columns.push_back({title, *costs});
-    }
-    const double asked = calculation_.In().Number(calculation_.Member().horizon);
-    const std::string title = asked == 0 ? "whole term" : FigureText(Variant(asked), Unit::Months);
-    const bool isNew = std::ranges::find(columns, title, &Column::title) == columns.end();
-    const auto costs = CostsOf(calculation_);
-    if (isNew && costs) columns.push_back({title + (asked == 0 ? "" : ", as asked"), *costs});
+  void Append(EscapedMarkup& out) const {
+    const std::vector<Column> columns = Columns();
     OpenTable(out, std::string(RowTitle()) + ", by how long it is kept");
     out.Open("thead");
     out.Open("tr");
@@ -82,23 +69,52 @@ class Horizons {
     out.Close();
     out.Close();
     out.Open("tbody");
-    const auto row = [&](const std::string& name, const auto& figure) {
-      out.Open("tr");
-      out.TextElement("th", {{"scope", "row"}}, name);
-      for (const Column& column : columns) {
-        out.TextElement("td", {}, FigureText(Variant(figure(column.costs)), Unit::Currency));
-      }
-      out.Close();
-    };
-    row(current_, [](const Costs& sides) { return sides.current; });
-    row(proposed_, [](const Costs& sides) { return sides.proposed; });
-    row("Saved by: " + proposed_, [](const Costs& sides) { return sides.Saved(); });
+    AppendRow(out, current_, columns, [](const Costs& costs) { return costs.current; });
+    AppendRow(out, proposed_, columns, [](const Costs& costs) { return costs.proposed; });
+    AppendRow(out, "Saved by “" + proposed_ + "”", columns, [](const Costs& costs) { return costs.Saved(); });
     out.Close();
     CloseTable(out);
     AppendBreakEven(out);
   }
 
  private:
+  struct Column {
+    std::string title;
+    double months;
+    Costs costs;
+  };
+
+  /// In order of time, what was asked among them; the whole term is the longest.
+  std::vector<Column> Columns() const {
+    constexpr double kWhole = 1e9;
+    const double given = calculation_.In().Number(calculation_.Member().horizon);
+    const double asked = given == 0 ? kWhole : given;
+    std::vector<Column> columns;
+    for (const int months : {12, 60, 120}) {
+      const auto costs = months == asked ? std::nullopt : After(months);
+      if (costs)
+        columns.push_back(
+            {std::to_string(months / 12) + (months == 12 ? " year" : " years"), 0.0 + months, *costs});
+    }
+    const auto costs = CostsOf(calculation_);
+    const std::string title =
+        given == 0 ? "the whole term" : FigureText(Variant(given), Unit::Months) + ", as asked";
+    if (costs) columns.push_back({title, asked, *costs});
+    std::ranges::sort(columns, {}, &Column::months);
+    return columns;
+  }
+
+  template <class FigureOf>
+  static void AppendRow(EscapedMarkup& out, const std::string& title, const std::vector<Column>& columns,
+                        const FigureOf& figure) {
+    out.Open("tr");
+    out.TextElement("th", {{"scope", "row"}}, title);
+    for (const Column& column : columns) {
+      out.TextElement("td", {}, FigureText(Variant(figure(column.costs)), Unit::Currency));
+    }
+    out.Close();
+  }
+
   std::string_view RowTitle() const {
     const ComparisonInfo& comparison = *calculation_.Member().comparison;
     const TableInfo& table = *FindParameter(calculation_.Member(), comparison.current.parameter)->table;
@@ -127,11 +143,10 @@ class Horizons {
       const int middle = (before + after) / 2;
       (IsBetter(middle) == atFirst ? before : after) = middle;
     }
-    const std::string month = std::to_string(after);
     out.TextElement("p", {{"class", "break-even"}},
-                    "Break-even: kept for less than " + month + " months, “" +
-                        (atFirst ? proposed_ : current_) + "” is the better side; from " + month +
-                        " months on, “" + (atFirst ? current_ : proposed_) + "” is.");
+                    "Break-even at " + FigureText(Variant(after), Unit::Months) + ": kept for less, “" +
+                        (atFirst ? proposed_ : current_) + "” is the better choice, from then on “" +
+                        (atFirst ? current_ : proposed_) + "”.");
   }
 
   const Calculation& calculation_;

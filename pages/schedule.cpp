@@ -1,9 +1,12 @@
 #include "amortix2/pages/schedule.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "amortix2/automation/conversion.h"
+#include "amortix2/json/result_table.h"
 #include "amortix2/pages/figure_text.h"
 #include "amortix2/pages/years.h"
 
@@ -126,12 +129,46 @@ void AppendMonths(EscapedMarkup& out, const std::string& title, const Schedule& 
   out.Close();
 }
 
+/// The side of a comparison in one grid that is better in a row; nothing where both are equal, and elsewhere.
+std::optional<std::size_t> BetterColumn(const MemberInfo& member, const ParameterInfo& parameter,
+                                        const json::ResultTable& table, std::int64_t row) {
+  const ComparisonInfo* comparison = member.comparison;
+  const bool isCompared = comparison && comparison->current.parameter == parameter.name &&
+                          comparison->proposed.parameter == parameter.name;
+  const std::int64_t place = row - parameter.table->firstRow;
+  if (!isCompared || place < 0 || place >= std::ssize(parameter.table->rows)) return std::nullopt;
+  const Better better = parameter.table->rows[static_cast<std::size_t>(place)].better;
+  const auto column = [&](const SideInfo& side) {
+    return static_cast<std::size_t>(side.column - parameter.table->firstColumn);
+  };
+  const std::size_t sides[] = {column(comparison->current), column(comparison->proposed)};
+  const double difference =
+      NumericOrZero(table.cell(row, sides[1])) - NumericOrZero(table.cell(row, sides[0]));
+  if (better == Better::Neither || difference == 0) return std::nullopt;
+  return sides[(difference < 0) == (better == Better::Lower) ? 1 : 0];
+}
+
+/// A title of an axis, which is a number, as people read it; of other tables as it is.
+std::string AxisText(const AxisInfo* axis, const std::string& title) {
+  const auto number = axis ? ParseNumber(title) : std::nullopt;
+  return number ? FigureText(Variant(*number), axis->unit) : title;
+}
+
+void AppendMark(EscapedMarkup& out) {
+  out.Open("span", {{"class", "better"}});
+  out.Text("✓");
+  out.TextElement("span", {}, " better");
+  out.Close();
+}
+
 }  // namespace
 
 void OpenTable(EscapedMarkup& out, std::string_view caption) {
   out.Open("div", {{"class", "scroll"}, {"role", "region"}, {"tabindex", "0"}, {"aria-label", caption}});
   out.Open("table");
-  out.TextElement("caption", {}, caption);
+  out.Open("caption");
+  out.TextElement("span", {}, caption);
+  out.Close();
 }
 
 void CloseTable(EscapedMarkup& out) {
@@ -155,13 +192,21 @@ void AppendSchedule(EscapedMarkup& out, const Inputs& inputs, const ParameterInf
   AppendMonths(out, title, schedule, years);
 }
 
-void AppendGrid(EscapedMarkup& out, const Inputs& inputs, std::string_view caption,
-                const json::ResultTable& table) {
-  OpenTable(out, caption);
+void AppendGrid(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter,
+                const Array& array) {
+  const json::ResultTable table = json::TableOf(inputs, parameter, array);
+  OpenTable(out, parameter.title);
   out.Open("thead");
   out.Open("tr");
-  if (!table.rowTitles.empty()) out.TextElement("th", {{"scope", "col"}}, table.corner);
-  for (const std::string& column : table.columns) out.TextElement("th", {{"scope", "col"}}, column);
+  const AxisInfo* columns = parameter.table->columnAxis;
+  if (parameter.table->rowAxis) {
+    out.TextElement("th", {{"scope", "col"}}, table.corner);
+  } else if (!table.rowTitles.empty()) {
+    out.TextElement("td", {}, {});
+  }
+  for (const std::string& column : table.columns) {
+    out.TextElement("th", {{"scope", "col"}}, AxisText(columns, column));
+  }
   out.Close();
   out.Close();
   out.Open("tbody");
@@ -169,10 +214,14 @@ void AppendGrid(EscapedMarkup& out, const Inputs& inputs, std::string_view capti
     out.Open("tr");
     if (!table.rowTitles.empty()) {
       const std::string& title = table.rowTitles[static_cast<std::size_t>(row - table.rows.lower)];
-      out.TextElement("th", {{"scope", "row"}}, title);
+      out.TextElement("th", {{"scope", "row"}}, AxisText(parameter.table->rowAxis, title));
     }
+    const std::optional<std::size_t> better = BetterColumn(inputs.Member(), parameter, table, row);
     for (std::size_t column = 0; column < table.columns.size(); ++column) {
-      out.TextElement("td", {}, FigureText(inputs, table.cell(row, column), table.unit(row, column)));
+      out.Open("td");
+      if (better == column) AppendMark(out);
+      out.Text(FigureText(inputs, table.cell(row, column), table.unit(row, column)));
+      out.Close();
     }
     out.Close();
   }

@@ -8,7 +8,6 @@
 #include "amortix2/automation/array.h"
 #include "amortix2/charts/escaped_markup.h"
 #include "amortix2/component/call_values.h"
-#include "amortix2/json/result_table.h"
 
 namespace amortix2::pages {
 
@@ -21,8 +20,8 @@ void CloseTable(EscapedMarkup& out);
 void AppendSchedule(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter,
                     const Array& array);
 
-/// A table with rows' titles; cells carry their unit where it differs by the row.
-void AppendGrid(EscapedMarkup& out, const Inputs& inputs, std::string_view caption,
-                const json::ResultTable& table);
+/// A table with titles on both sides, whose cells carry their units; where it compares two sides, the better
+/// one is marked.
+void AppendGrid(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter, const Array& array);
 
 }  // namespace amortix2::pages

@@ -82,14 +82,18 @@ form:has(.find label:nth-of-type(3) :checked) .findable-3, form:has(.find label:
 form:has(.find label:nth-of-type(5) :checked) .findable-5 { display: none; }
 .field label { display: block; font-weight: 600; margin-bottom: .25rem; }
 .control { display: flex; align-items: center; gap: .5rem; }
-input, select, textarea { font: inherit; color: inherit; background: var(--card); border: 1px solid var(--field);
+input:not([type=radio]), select, textarea { font: inherit; color: inherit; background: var(--card); border: 1px solid var(--field);
   border-radius: .5rem; padding: .45rem .7rem; min-height: 2.75rem; max-width: 100%; }
 .control input, .control select { flex: 1; min-width: 0; width: 100%; }
-[aria-invalid] { border: 2px solid var(--wrong); }
+.control [aria-invalid] { border: 2px solid var(--wrong); }
 .unit { color: var(--soft); white-space: nowrap; }
 .hint { color: var(--soft); font-size: .9rem; line-height: 1.4; margin-top: .25rem; }
 .error { color: var(--wrong); font-weight: 600; font-size: .95rem; margin-top: .25rem; }
-.item { border-left: 3px solid var(--line); padding-left: .9rem; display: grid; gap: .6rem; }
+.item { display: grid; gap: 0 .6rem; grid-template-columns: repeat(3, minmax(0, 1fr)); align-items: end; }
+.item legend { margin-bottom: .1rem; }
+.item label { font-size: .85rem; font-weight: 500; line-height: 1.3; color: var(--soft); }
+.item .unit { display: none; }
+.item .error { font-size: .85rem; }
 button { font: inherit; font-weight: 650; min-height: 2.75rem; padding: .5rem 1.4rem; border: 0; border-radius: .5rem;
   background: var(--accent); color: var(--on-accent); cursor: pointer; }
 button:hover { filter: brightness(1.08); }
@@ -106,17 +110,21 @@ button:hover { filter: brightness(1.08); }
 .figures .found dd { color: var(--accent); font-size: 1.6rem; line-height: 1.2; }
 .notes { margin-top: 1.4rem; padding: .9rem 1.1rem; border-radius: .6rem; background: var(--wash); }
 .break-even { margin-top: .9rem; font-weight: 600; }
-.along { list-style: none; display: flex; flex-wrap: wrap; gap: .3rem 1.5rem; margin: 1.4rem 0 0; padding: .9rem 0 0;
-  border-top: 1px solid var(--line); }
-.along a { display: inline-block; padding: .25rem 0; }
+caption span { display: inline-block; position: sticky; left: 0; max-width: min(100%, calc(100vw - 4.5rem)); }
+.better { margin-right: .5rem; padding: 0 .45rem; border-radius: 1rem; background: var(--wash); color: var(--accent);
+  font-size: .8rem; font-weight: 600; }
+.along, .downloads { list-style: none; display: flex; flex-wrap: wrap; gap: .3rem 1.5rem; margin: 1.4rem 0 0; padding: 0; }
+.along { padding-top: .9rem; border-top: 1px solid var(--line); font-weight: 600; }
+.downloads { margin-top: .3rem; font-size: .95rem; }
+.along a, .downloads a { display: inline-block; padding: .25rem 0; }
 
 .scroll { overflow-x: auto; margin-top: 1.4rem; }
 table { border-collapse: collapse; width: 100%; font-variant-numeric: tabular-nums; font-size: .95rem; }
 caption { text-align: left; font-weight: 600; padding-bottom: .4rem; }
-th, td { padding: .42rem .75rem; text-align: right; white-space: nowrap; border-bottom: 1px solid var(--line); }
+th, td { padding: .42rem 0 .42rem 1rem; text-align: right; white-space: nowrap; border-bottom: 1px solid var(--line); }
 thead th { color: var(--soft); font-weight: 600; vertical-align: bottom; white-space: normal; }
-tbody th { font-weight: 500; }
-th:first-child, td:first-child { text-align: left; padding-left: .1rem; }
+tbody th { font-weight: 500; white-space: normal; min-width: 5rem; }
+th:first-child, td:first-child { text-align: left; padding-left: 0; }
 tbody tr:hover { background: var(--wash); }
 summary { cursor: pointer; min-height: 2.25rem; display: flex; align-items: center; gap: .6rem; }
 summary::before { content: "+"; width: 1em; color: var(--accent); font-weight: 700; }
@@ -125,13 +133,20 @@ summary::-webkit-details-marker { display: none; }
 .years { display: grid; gap: .1rem 1rem; margin-top: .4rem; grid-template-columns: repeat(auto-fill, minmax(5.5rem, 1fr)); }
 .years details[open] { grid-column: 1 / -1; }
 .years .scroll { margin: .2rem 0 1rem; }
-figure { margin: 1.4rem 0 0; }
-figure svg, figure img { max-width: 100%; height: auto; }
+.charts { display: grid; gap: 1.5rem; margin-top: 1rem; grid-template-columns: repeat(auto-fit, minmax(min(100%, 22rem), 1fr)); }
+figure { margin: 0; min-width: 0; }
+figure svg, figure img { display: block; width: 100%; max-width: 44rem; height: auto; }
+figure summary, .download { font-size: .9rem; }
 figcaption { font-weight: 600; margin-bottom: .5rem; }
 
+@media (max-width: 30rem) {
+  .top ul { gap: 0 .9rem; font-size: .95rem; }
+  th, td { padding-left: .7rem; }
+  .better span { position: absolute; clip-path: inset(50%); width: 1px; height: 1px; overflow: hidden; }
+}
 @media print {
   :root { --ground: #fff; --card: #fff; --ink: #000; --soft: #333; --line: #bbb; --accent: #000; --wash: #fff; }
-  .top, .skip, .inputs, .along, .notice, .years, .hint { display: none; }
+  .top, .skip, .inputs, .along, .downloads, .download, figure details, .notice, .years, .hint { display: none; }
   .columns { display: block; }
   .card { border: 0; box-shadow: none; padding: 0; margin-bottom: 1.5rem; }
   .scroll { overflow: visible; }

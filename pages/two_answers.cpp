@@ -12,13 +12,12 @@ namespace amortix2::pages {
 namespace {
 
 /// The cells of a small table that has titles on both sides.
-void AddCells(std::vector<NamedFigure>& figures, const json::ResultTable& table) {
+void AddCells(std::vector<NamedFigure>& figures, const json::ResultTable& table, bool isList) {
   for (std::int64_t row = table.rows.lower; row <= table.rows.upper && !table.rowTitles.empty(); ++row) {
     const std::string& title = table.rowTitles[static_cast<std::size_t>(row - table.rows.lower)];
     for (std::size_t column = 0; column < table.columns.size(); ++column) {
-      const bool isList = table.columns.size() == 1;
       figures.push_back({isList ? title : title + ", " + table.columns[column], table.cell(row, column),
-                         table.unit(row, column)});
+                         table.unit(row, column), false, false, !isList});
     }
   }
 }
@@ -33,26 +32,39 @@ void AddFigure(std::vector<NamedFigure>& figures, const Calculation& calculation
     const bool isEcho = !parameter.echoes.empty() && !isFound;
     figures.push_back({std::string(parameter.title), *value, parameter.unit, isFound, isEcho});
   } else if (parameter.table && !parameter.table->rows.empty()) {
-    AddCells(figures, json::TableOf(calculation.In(), parameter, value->GetArray()));
+    const Array& array = value->GetArray();
+    AddCells(figures, json::TableOf(calculation.In(), parameter, array), array.Rank() == 1);
   }
 }
 
-/// The inputs that differ, as figures of both.
-void AddInputs(std::vector<NamedFigure>& ones, std::vector<NamedFigure>& others, const Calculation& first,
-               const Calculation& second) {
+/// A figure of both answers.
+struct Pair {
+  NamedFigure one;
+  NamedFigure other;
+};
+
+/// The inputs that differ and are given in both, then the figures that at least one of both was asked for.
+std::vector<Pair> Pairs(const Calculation& first, const Calculation& second) {
+  std::vector<Pair> pairs;
   for (const ParameterInfo& parameter : first.Member().parameters) {
     if (!parameter.IsInput()) continue;
     const Variant& one = first.In().At(parameter.name);
     const Variant& other = second.In().At(parameter.name);
     const bool isArray = one.Type() == VariantType::Array || other.Type() == VariantType::Array;
-    if (isArray || one == other) continue;
-    ones.push_back({std::string(parameter.title), one, parameter.unit});
-    others.push_back({std::string(parameter.title), other, parameter.unit});
+    if (isArray || one == other || !IsGiven(one) || !IsGiven(other)) continue;
+    const std::string title(parameter.title);
+    pairs.push_back({{title, one, parameter.unit}, {title, other, parameter.unit}});
   }
+  const std::vector<NamedFigure> others = FiguresOf(second);
+  for (const NamedFigure& one : FiguresOf(first)) {
+    const auto other = std::ranges::find(others, one.title, &NamedFigure::title);
+    if (other != others.end() && !(one.isEcho && other->isEcho)) pairs.push_back({one, *other});
+  }
+  return pairs;
 }
 
-void AppendRow(EscapedMarkup& out, const Calculation& calculation, const NamedFigure& one,
-               const NamedFigure& other) {
+void AppendRow(EscapedMarkup& out, const Calculation& calculation, const Pair& pair) {
+  const auto& [one, other] = pair;
   const auto text = [&](const Variant& value) { return FigureText(calculation.In(), value, one.unit); };
   out.Open("tr");
   out.TextElement("th", {{"scope", "row"}}, one.title);
@@ -79,28 +91,15 @@ std::vector<NamedFigure> FiguresOf(const Calculation& calculation) {
 }
 
 void AppendTwoAnswers(EscapedMarkup& out, const Calculation& first, const Calculation& second) {
-  std::vector<NamedFigure> ones;
-  std::vector<NamedFigure> others;
-  AddInputs(ones, others, first, second);
-  std::ranges::move(FiguresOf(first), std::back_inserter(ones));
-  std::ranges::move(FiguresOf(second), std::back_inserter(others));
   OpenTable(out, "Beside the first answer");
   out.Open("thead");
   out.Open("tr");
-  for (const char* title : {"", "First", "Now", "Difference"}) {
-    if (*title) {
-      out.TextElement("th", {{"scope", "col"}}, title);
-    } else {
-      out.TextElement("td", {}, "");
-    }
-  }
+  out.TextElement("td", {}, {});
+  for (const char* title : {"First", "Now", "Difference"}) out.TextElement("th", {{"scope", "col"}}, title);
   out.Close();
   out.Close();
   out.Open("tbody");
-  for (const NamedFigure& one : ones) {
-    const auto other = std::ranges::find(others, one.title, &NamedFigure::title);
-    if (other != others.end()) AppendRow(out, second, one, *other);
-  }
+  for (const Pair& pair : Pairs(first, second)) AppendRow(out, second, pair);
   out.Close();
   CloseTable(out);
 }

@@ -17,9 +17,11 @@ struct NamedFigure {
   Unit unit = Unit::None;
   bool isFound = false;  ///< what was asked for
   bool isEcho = false;   ///< an input that came back as it was given
+  bool isCell = false;   ///< of a table that is shown as one
 };
 
-/// The single results of an answered calculation and the elements of its titled lists, in order.
+/// The single results of an answered calculation, and the cells of its small tables that have titles on both
+/// sides, what was asked for first.
 std::vector<NamedFigure> FiguresOf(const Calculation& calculation);
 
 /// A table of the inputs that differ and of all figures, with the difference. Both are of one member.
