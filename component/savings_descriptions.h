@@ -228,7 +228,7 @@ inline constexpr auto kRetirementMembers = std::tuple{
             .address = "spend",
             .help =
                 "Of balance, withdrawal, rate and term of a plan that spends a balance down, finds the one "
-                "that is 0; the withdrawal when none is.",
+                "left out; the withdrawal when none is.",
             .finds =
                 {
                     {.input = "vPeriod",
