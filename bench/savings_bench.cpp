@@ -85,7 +85,8 @@ void RandomPlans(benchmark::State& state, tSavingsDesc (RandomSavings::*make)())
   int most = 0;
   double slowest = 0;
   for (auto _ : state) {
-    RandomSavings random(5);
+    SeededRandom source(5);
+    RandomSavings random(source);
     for (int i = 0; i < 100000; ++i) {
       const tSavingsDesc plan = (random.*make)();
       const Clock::time_point begin = Clock::now();

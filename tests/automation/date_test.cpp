@@ -22,14 +22,17 @@ int DaysInMonth(int year, int month) {
 TEST(Dates, EveryDayFollowsTheOneBefore) {
   CivilDate expected{100, 1, 1};
   int weekday = 5;  // a Friday
+  const int every = Cases(13, 1);
   std::int32_t serial = kFirstDay.serial;
   for (; serial <= kLastDay.serial; ++serial) {
     const Date date{serial};
     ASSERT_EQ(ToCivil(date), expected) << serial;
     ASSERT_EQ(MakeDate(expected.year, expected.month, expected.day), date);
     ASSERT_EQ(DayOfWeek(date), weekday) << serial;
-    const DateText text = serial % 2 == 0 ? FormatIso(date) : FormatMonthDayYear(date);
-    ASSERT_EQ(ParseDate(View(text)), date) << serial;
+    if (serial % every == 0) {
+      const DateText text = serial % 2 == 0 ? FormatIso(date) : FormatMonthDayYear(date);
+      ASSERT_EQ(ParseDate(View(text)), date) << serial;
+    }
     weekday = (weekday + 1) % 7;
     if (++expected.day <= DaysInMonth(expected.year, expected.month)) continue;
     // The day behind the month's last is the next month's first, and day 0 is the last of the month before.

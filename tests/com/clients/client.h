@@ -63,18 +63,37 @@ inline OwnedVariant Reference(VARTYPE type, void* place) {
 }
 inline OwnedVariant Reference(OwnedVariant& variable) { return Reference(VT_VARIANT, &variable.Get()); }
 
-/// Calls and returns the automation error number, 0 for none; `text` gets what a caller is told.
-inline int NumberOfFailure(IDispatch& object, const wchar_t* name, std::span<const OwnedVariant> arguments,
-                           std::wstring* text = nullptr) {
+/// Writes a property.
+inline void PutByName(IDispatch& object, const wchar_t* name, OwnedVariant value) {
+  DISPID number = DISPID_UNKNOWN;
+  DISPID put = DISPID_PROPERTYPUT;
+  amortix2::com::Check(object.GetIDsOfNames(IID_NULL, const_cast<LPOLESTR*>(&name), 1, 0, &number));
+  DISPPARAMS parameters{&value.Get(), &put, 1, 1};
+  EXCEPINFO details{};
+  const HRESULT result =
+      object.Invoke(number, IID_NULL, 0, DISPATCH_PROPERTYPUT, &parameters, nullptr, &details, nullptr);
+  for (BSTR text : {details.bstrSource, details.bstrDescription}) SysFreeString(text);
+  amortix2::com::Check(result == DISP_E_EXCEPTION ? details.scode : result);
+}
+
+/// The automation error number that an action ends in, 0 for none; `text` gets what a caller is told.
+template <class Action>
+int NumberOf(Action action, std::wstring* text = nullptr) {
   try {
-    CallByName(object, name, arguments);
+    action();
     return 0;
   } catch (const ForeignError& error) {
     if (text != nullptr) *text = error.Description();
     return HRESULT_FACILITY(error.Code()) == 10 ? HRESULT_CODE(error.Code()) : error.Code();
   } catch (const AutomationError& error) {
     return static_cast<int>(error.Number());
+  } catch (const std::bad_alloc&) {
+    return static_cast<int>(ErrorNumber::OutOfMemory);
   }
+}
+inline int NumberOfFailure(IDispatch& object, const wchar_t* name, std::span<const OwnedVariant> arguments,
+                           std::wstring* text = nullptr) {
+  return NumberOf([&] { CallByName(object, name, arguments); }, text);
 }
 
 /// SimpleLoanCalculator with one amount, 12 months and 6 %; results start Empty unless given as places.

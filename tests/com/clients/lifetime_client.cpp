@@ -2,12 +2,10 @@
 // the DLL goes when nothing uses it, and its type library says what the component's description says.
 //
 //   lifetime_client CALLS  the number of calls made in search of leaks
-//   lifetime_client X.gif  keeps what a chart writes to its page
 
 #include <algorithm>
 #include <atomic>
 #include <cstdlib>
-#include <fstream>
 #include <thread>
 
 #include "amortix2/automation/array.h"
@@ -121,41 +119,6 @@ void UnloadsWhenUnused() {
   }
 }
 
-/// A line chart for a page whose response keeps what it gets in a file.
-void WritesToItsPage(const std::string& path) {
-  Scripted response({{L"BinaryWrite", [&](std::span<VARIANT> arguments) {
-                        CHECK(arguments.size() == 1 && arguments[0].vt == (VT_ARRAY | VT_UI1));
-                        SAFEARRAY* bytes = arguments[0].parray;
-                        std::ofstream(path, std::ios::binary)
-                            .write(static_cast<const char*>(SafeArrayData(bytes).At(0)),
-                                   static_cast<std::streamsize>(bytes->rgsabound[0].cElements));
-                        return OwnedVariant();
-                      }}});
-  Scripted context({{L"Response", [&](auto) { return response.AsArgument(); }}});
-  constexpr double kPoints[4][2] = {{0, 0}, {5, -3}, {7, 2.5}, {-4, 9}};
-  Array table({0, 3}, {0, 2});
-  Array palette({0, 255}, {0, 2});
-  for (int row = 0; row < 4; ++row) {
-    for (int line = 1; line <= 2; ++line) table.At(row, line) = kPoints[row][line - 1];
-  }
-  for (int i = 0; i < 256; ++i) {
-    palette.At(i, 0) = i;
-    palette.At(i, 1) = 255 - i;
-    palette.At(i, 2) = i / 2;
-  }
-  {
-    const auto chart = Create(L"Amortix2.GifChart");
-    std::vector<OwnedVariant> arguments(3);
-    arguments[0] = MakeValue(std::move(table));
-    arguments[1] = MakeValue(std::move(palette));
-    CHECK(NumberOfFailure(*chart.Get(), L"LineChart", arguments) == 91);
-    OwnedVariant page = context.AsArgument();
-    CallByName(*chart.Get(), L"OnStartPage", {&page, 1});
-    CHECK(NumberOfFailure(*chart.Get(), L"LineChart", arguments) == 0);
-  }
-  CHECK(context.references == 1 && response.references == 1);
-}
-
 std::string NameOf(ITypeInfo& type, MEMBERID member) {
   BSTR name = nullptr;
   type.GetDocumentation(member, &name, nullptr, nullptr, nullptr);
@@ -254,15 +217,12 @@ void TypeLibrarySaysWhatTheDescriptionSays() {
 }  // namespace
 
 int main(int count, char** arguments) {
-  const std::string first = count > 1 ? arguments[1] : "4000";
-  if (first.ends_with(".gif")) return Run(COINIT_APARTMENTTHREADED, [&] { WritesToItsPage(first); });
-  const int status = Run(COINIT_MULTITHREADED, [&] {
+  return Run(COINIT_MULTITHREADED, [&] {
     CHECK(!IsLoaded());
     TypeLibrarySaysWhatTheDescriptionSays();
-    NothingLeaks(std::atol(first.c_str()));
+    NothingLeaks(count > 1 ? std::atol(arguments[1]) : 4000);
     ThreadsDoNotDisturbEachOther();
     OnlyStatelessObjectsTravel();
     UnloadsWhenUnused();
   });
-  return status;
 }
