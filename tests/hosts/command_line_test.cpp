@@ -12,9 +12,6 @@
 namespace amortix2::cli {
 namespace {
 
-constexpr const char* kLoan =
-    R"("call":"Calculator.SimpleLoanCalculator","args":{"vPurchaseAmt":200000,"vPeriod":360,"vIntRate":6.5}})";
-
 std::string MixedRequests(int count) {
   static constexpr const char* kBad[] = {"", "{", "\"\xFF\"", "[[[[", "{\"call\":\"Calculator.None\"}"};
   std::string input;
@@ -101,55 +98,6 @@ TEST_F(Program, ALineThatIsTooLongIsReadOver) {
   for (const std::size_t good : {0u, 3u})
     EXPECT_TRUE(lines[good].starts_with("{\"id\":1,\"results\"")) << good;
   for (const std::size_t bad : {1u, 2u}) EXPECT_NE(lines[bad].find("longer"), std::string::npos) << bad;
-}
-
-TEST_F(Program, OutputThatCannotBeWrittenIsAFailureNotACrash) {
-  std::ofstream(Path("in"), std::ios::binary) << MixedRequests(1000);
-  const std::string batch = "'" AMORTIX2_PROGRAM "' batch <'" + Path("in") + "' 2>/dev/null ";
-  EXPECT_EQ(WEXITSTATUS(std::system((batch + ">/dev/full").c_str())), 3);
-  EXPECT_EQ(WEXITSTATUS(std::system((batch + ">&-").c_str())), 3);
-  for (const char* output : {" >/dev/full", " >&-"}) {
-    for (const char* command : {"--help", "--version", "list", "call loan --help", "call loan vPeriod=1"}) {
-      const std::string line = std::string("'" AMORTIX2_PROGRAM "' ") + command + " 2>/dev/null" + output;
-      EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), 3) << line;
-    }
-  }
-  // A reader that goes away ends it as it ends other filters, without a word.
-  const std::string piped = "( '" AMORTIX2_PROGRAM "' batch <'" + Path("in") + "' 2>'" + Path("err") +
-                            "'; echo $? >'" + Path("out") + "' ) | head -c 10 >/dev/null";
-  std::ofstream good(Path("in"), std::ios::binary);
-  for (int i = 0; i < 1000; ++i) good << "{" << kLoan << "\n";
-  good.close();
-  ASSERT_EQ(std::system(piped.c_str()), 0);
-  EXPECT_EQ(Read("out"), "141\n");
-  EXPECT_EQ(Read("err"), "");
-}
-
-TEST_F(Program, APipeThatDoesNotBlockIsWaitedFor) {
-  std::ofstream(Path("in"), std::ios::binary) << MixedRequests(200);
-  const std::string batch = " '" AMORTIX2_PROGRAM "' batch <'" + Path("in") + "' 2>/dev/null ";
-  ASSERT_EQ(std::system((batch + ">'" + Path("all") + "'").c_str()), 0);
-  int out[2];
-  ASSERT_EQ(pipe2(out, O_NONBLOCK), 0);
-  const pid_t child = fork();
-  if (child == 0) {
-    dup2(out[1], 1);
-    execl("/bin/sh", "sh", "-c", batch.c_str(), nullptr);
-    _exit(127);
-  }
-  close(out[1]);
-  fcntl(out[0], F_SETFL, 0);
-  usleep(100'000);  // until the pipe is full
-  std::string all;
-  std::array<char, 4096> piece;
-  for (ssize_t count; (count = read(out[0], piece.data(), piece.size())) > 0;) {
-    all.append(piece.data(), static_cast<std::size_t>(count));
-  }
-  close(out[0]);
-  int status = -1;
-  waitpid(child, &status, 0);
-  EXPECT_EQ(status, 0);
-  EXPECT_EQ(all, Read("all"));
 }
 
 TEST_F(Program, LongTablesAreFoldedOnATerminalOnly) {
@@ -314,19 +262,6 @@ TEST_F(Program, OutKeepsTheOldFileUntilTheNewOneIsComplete) {
   EXPECT_EQ(Run(call + "/none"), 3);
   EXPECT_EQ(Read("err"),
             "amortix2: cannot write " + Path("image") + "/none: The folder of the file does not exist.\n");
-}
-
-TEST_F(Program, AFileThatGrowsTooLargeIsAnErrorAndLeavesNothing) {
-  std::ofstream(Path("table.csv")) << ",A\na,1\nb,2\n";
-  const std::string call =
-      "call svg-bar-chart vColDat=@'" + Path("table.csv") + "' --out '" + Path("chart") + "'";
-  ASSERT_EQ(Run(call, "", "ulimit -f 1;"), 3);
-  EXPECT_EQ(Read("err"),
-            "amortix2: cannot write " + Path("chart") + ": The file cannot be read or written.\n");
-  EXPECT_FALSE(std::filesystem::exists(Path("chart")));
-  ASSERT_EQ(Run(call), 0);
-  EXPECT_EQ(Read("err"),
-            "wrote " + Path("chart") + " (" + std::to_string(Read("chart").size()) + " bytes)\n");
 }
 
 TEST_F(Program, ValuesComeFromFilesAndStandardInput) {

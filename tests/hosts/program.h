@@ -15,6 +15,9 @@
 
 namespace amortix2::cli {
 
+inline constexpr const char* kLoan =
+    R"("call":"Calculator.SimpleLoanCalculator","args":{"vPurchaseAmt":200000,"vPeriod":360,"vIntRate":6.5}})";
+
 class Program : public ::testing::Test {
  protected:
   Program()
