@@ -14,8 +14,9 @@
 namespace amortix2::pages {
 namespace {
 
-constexpr double kHeight = 260;
-constexpr double kWidth = 420;
+// Small enough that a telephone need not shrink the labels much.
+constexpr double kHeight = 230;
+constexpr double kWidth = 360;
 
 bool IsPercent(Unit unit) {
   return unit == Unit::Percent || unit == Unit::AnnualPercent || unit == Unit::PercentagePoints;
@@ -74,14 +75,14 @@ void AppendFigure(EscapedMarkup& out, const ChartInfo& chart, const Drawing& dra
   out.AppendMarkup(drawing.picture.GetString());
   out.Close();
   out.Open("details");
-  out.TextElement("summary", {}, "The chart's numbers: " + std::string(chart.title));
+  out.TextElement("summary", {}, "The chart's numbers");
   out.Open("div", {{"class", "scroll"}, {"tabindex", 0}, {"role", "region"}, {"aria-label", chart.title}});
   out.AppendMarkup(drawing.table.GetString());
   out.Close();
   out.Close();
   out.Open("p", {{"class", "download"}});
-  out.TextElement("a", {{"href", gifAddress}, {"download", "chart.gif"}},
-                  "GIF image of this chart: " + std::string(chart.title));
+  const std::string name = "GIF image of \"" + std::string(chart.title) + "\"";
+  out.TextElement("a", {{"href", gifAddress}, {"download", "chart.gif"}, {"aria-label", name}}, "GIF image");
   out.Close();
   out.Close();
 }

@@ -1,13 +1,18 @@
 #include "amortix2/pages/chart_page.h"
 
+#include <charconv>
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "amortix2/automation/array.h"
 #include "amortix2/charts/bar_chart.h"
 #include "amortix2/charts/escaped_markup.h"
 #include "amortix2/charts/svg_chart.h"
+#include "amortix2/charts/svg_palette.h"
 #include "amortix2/component/description.h"
+#include "amortix2/json/json_text.h"
 #include "amortix2/json/request_error.h"
 #include "amortix2/pages/frame.h"
 #include "amortix2/pages/pasted_table.h"
@@ -66,11 +71,6 @@ std::string Escaped(std::string_view text) {
   return escaped;
 }
 
-Variant List(std::initializer_list<std::string_view> texts) {
-  std::vector<Variant> cells(texts.begin(), texts.end());
-  return Array(0, std::move(cells));
-}
-
 void DrawPicture(const Wish& wish, Drawn& drawn) {
   SvgChart svg;
   svg.NegativeBars(true);
@@ -93,30 +93,54 @@ void DrawPicture(const Wish& wish, Drawn& drawn) {
   drawn.table = picture.GetString();
 }
 
+/// An image of one pixel of a colour ("#08529e") as an address, so that a chart needs no files; transparent
+/// without one.
+std::string PixelAddress(std::string_view colour) {
+  std::string gif("GIF89a\1\0\1\0\x80\0\0", 13);
+  std::string components(3, '\0');
+  for (std::size_t i = 0; i < 3 && !colour.empty(); ++i) {
+    const std::string_view digits = colour.substr(1 + 2 * i, 2);
+    unsigned component = 0;
+    std::from_chars(digits.data(), digits.data() + digits.size(), component, 16);
+    components[i] = static_cast<char>(component);
+  }
+  (gif += components) += components;
+  if (colour.empty()) gif += std::string("\x21\xF9\4\1\0\0\0\0", 8);
+  gif += std::string(",\0\0\0\0\1\0\1\0\0\2\2\x44\1\0;", 16);
+  std::string address = "data:image/gif;base64,";
+  json::AppendBase64(address, std::vector<std::uint8_t>(gif.begin(), gif.end()));
+  return address;
+}
+
+Variant Text(const std::string& text) { return std::string_view(text); }
+
 /// The HTML chart takes texts as markup: what was pasted is escaped before.
 void DrawHtml(const Wish& wish, Drawn& drawn) {
   Array data = drawn.data.GetArray();
   for (Variant& cell : data.Cells()) {
-    if (cell.Type() == VariantType::String) cell = std::string_view(Escaped(cell.GetString()));
+    if (cell.Type() == VariantType::String) cell = Text(Escaped(cell.GetString()));
   }
-  std::vector<Variant> names{Variant("")};
+  std::vector<Variant> names{""};
+  std::vector<Variant> images{Text(PixelAddress("#ffffff"))};
   for (std::int32_t series = 1; series <= data.Dimension(2).upper; ++series) {
     const Variant& name = data.At(0, series);
     const bool isNamed = name.Type() == VariantType::String && !name.GetString().empty();
-    names.push_back(isNamed ? name : Variant(std::string_view("Series " + std::to_string(series))));
+    names.push_back(isNamed ? name : Text("Series " + std::to_string(series)));
+    images.push_back(Text(PixelAddress(SeriesColour(static_cast<std::size_t>(series) - 1))));
   }
   Variant table = std::move(data);
-  Variant blank = "space.gif";
-  Variant images = List({"white.gif", "blue.gif", "orange.gif", "green.gif", "purple.gif", "red.gif",
-                         "teal.gif", "violet.gif", "olive.gif"});
+  Variant blank = Text(PixelAddress({}));
+  Variant colours = Array(0, std::move(images));
   Variant legend = Array(0, std::move(names));
-  Variant titles = List({"", "", Escaped(wish.title)});
-  Variant below = std::string_view(Escaped(wish.below));
-  Variant left = std::string_view(Escaped(wish.left));
+  Variant titles = Array(0, {"", "", Text(Escaped(wish.title))});
+  Variant below = Text(Escaped(wish.below));
+  Variant left = Text(Escaped(wish.left));
   Variant markup;
   BarChart chart;
   chart.NegativeBars(true);
-  chart.MakeChart(table, blank, images, legend, titles, below, left, markup, std::string_view(wish.style));
+  chart.SetAxisGif(Text(PixelAddress("#000000")));
+  chart.SetSpaceGif(blank);
+  chart.MakeChart(table, blank, colours, legend, titles, below, left, markup, Text(wish.style));
   for (const Variant& line : markup.GetArray().Cells()) {
     if (line.Type() == VariantType::String) (drawn.html += line.GetString()) += '\n';
   }
@@ -231,19 +255,18 @@ void AppendMarkup(EscapedMarkup& out, std::string_view id, std::string_view titl
   out.Open("div", {{"class", "field"}});
   out.TextElement("label", {{"for", id}}, title);
   out.TextElement("p", {{"class", "hint"}}, hint);
-  out.Open("textarea",
-           {{"id", id}, {"class", "code"}, {"rows", 6}, {"readonly", ""}, {"spellcheck", "false"}});
+  out.Open("textarea", {{"id", id}, {"rows", 6}, {"readonly", ""}, {"spellcheck", "false"}});
   out.Text("\n");
   out.Text(markup);
   out.Close();
   out.Close();
 }
 
-void AppendChart(EscapedMarkup& out, const Wish& wish, const Drawn& drawn, const Query& query) {
+void AppendChart(EscapedMarkup& out, const Drawn& drawn, const Query& query) {
   out.Open("section", {{"class", "card answer"}, {"id", "answer"}, {"aria-labelledby", "answer-title"}});
   out.TextElement("h2", {{"id", "answer-title"}}, "The chart");
   out.Open("figure", {{"class", "chart"}});
-  if (!wish.title.empty()) out.TextElement("figcaption", {}, wish.title);
+  out.TextElement("figcaption", {}, "As it will stand in a page");
   out.Open("div", {{"aria-hidden", "true"}});
   out.AppendMarkup(drawn.svg);
   out.Close();
@@ -263,10 +286,10 @@ void AppendChart(EscapedMarkup& out, const Wish& wish, const Drawn& drawn, const
   out.Open("section", {{"class", "card inputs"}, {"aria-labelledby", "markup-title"}});
   out.TextElement("h2", {{"id", "markup-title"}}, "Markup to copy");
   AppendMarkup(out, "svg", "Picture (SVG)", "Put it into a page as it is.", drawn.svg);
-  AppendMarkup(out, "html", "HTML bar chart",
-               "Tables and stretched images for pages without pictures of their own; it needs the one-pixel "
-               "images that it names.",
-               drawn.html);
+  AppendMarkup(
+      out, "html", "HTML bar chart",
+      "Tables and stretched images, for pages that show no pictures of their own. It needs no files.",
+      drawn.html);
   out.Close();
 }
 
@@ -305,7 +328,7 @@ Page ChartPage(const Query& query) {
   out.Open("div", {{"class", "columns"}});
   AppendForm(out, wish, errors);
   out.Open("div", {{"class", "result"}});
-  drawn ? AppendChart(out, wish, *drawn, query) : AppendErrors(out, errors);
+  drawn ? AppendChart(out, *drawn, query) : AppendErrors(out, errors);
   out.Close();
   out.Close();
   return Framed("Chart of a table", "/chart", out);
