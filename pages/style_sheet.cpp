@@ -136,7 +136,7 @@ summary::-webkit-details-marker { display: none; }
 .charts { display: grid; gap: 1.5rem; margin-top: 1rem; grid-template-columns: repeat(auto-fit, minmax(min(100%, 22rem), 1fr)); }
 textarea { width: 100%; white-space: pre; overflow: auto; font: .9rem/1.5 ui-monospace, monospace; tab-size: 10; }
 figure { margin: 0; min-width: 0; }
-figure svg, figure img { display: block; width: 100%; max-width: 44rem; height: auto; }
+figure svg, figure img { display: block; width: 100%; max-width: 34rem; height: auto; }
 figure summary, .download { font-size: .9rem; }
 figcaption { font-weight: 600; margin-bottom: .5rem; }
 
