@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "amortix2/automation/text_scanner.h"
@@ -48,19 +49,60 @@ std::vector<Entry> Entries() {
   return entries;
 }
 
-/// Every word occurs, or begins with what occurs: "saving" finds "save" by its first letters.
-bool Matches(const Entry& entry, std::string_view wanted) {
+/// What people say, and what the description says instead.
+constexpr std::pair<std::string_view, std::string_view> kOtherWords[] = {
+    {"house", "home"},         {"house", "mortgage"}, {"home", "mortgage"},  {"buy", "purchase"},
+    {"car", "loan"},           {"car", "lease"},      {"auto", "loan"},      {"debt", "loan"},
+    {"borrow", "loan"},        {"early", "extra"},    {"sooner", "extra"},   {"ira", "retirement"},
+    {"pension", "retirement"}, {"goal", "deposit"},   {"invest", "savings"}, {"installment", "payment"},
+};
+
+bool IsPart(char c) { return IsLetter(c) || IsDigit(c) || c < 0; }
+
+/// True when a word of the text begins as `word` does, whose end may differ ("saving" finds "saved"); a short
+/// word must be the same.
+bool Occurs(std::string_view text, std::string_view word) {
+  constexpr std::size_t kShort = 3;
   constexpr std::size_t kStem = 4;
+  const bool isShort = word.size() <= kShort;
+  const std::string_view stem = word.substr(0, isShort ? word.size() : std::max(kStem, word.size() * 2 / 3));
+  for (std::size_t at = text.find(stem); at != std::string_view::npos; at = text.find(stem, at + 1)) {
+    const std::size_t end = at + stem.size();
+    const bool isWhole = end == text.size() || !IsPart(text[end]);
+    if ((at == 0 || !IsPart(text[at - 1])) && (!isShort || isWhole)) return true;
+  }
+  return false;
+}
+
+/// How many of the words occur, or another for it; the shortest say nothing.
+int Score(const Entry& entry, std::string_view wanted) {
+  constexpr std::size_t kShortest = 3;
   const std::string small = Small(wanted);
   TextScanner scanner(small);
-  const auto isPart = [](char c) { return IsLetter(c) || IsDigit(c) || c < 0; };
+  int score = 0;
   while (!scanner.AtEnd()) {
-    const std::string_view word = scanner.TakeWhile(isPart);
-    if (entry.words.find(word.substr(0, std::max(kStem, word.size() * 2 / 3))) == std::string::npos)
-      return false;
-    scanner.TakeWhile([&](char c) { return !isPart(c); });
+    scanner.TakeWhile([](char c) { return !IsPart(c); });
+    const std::string_view word = scanner.TakeWhile(IsPart);
+    if (word.size() < kShortest) continue;
+    const bool occurs = Occurs(entry.words, word) || std::ranges::any_of(kOtherWords, [&](const auto& other) {
+                          return other.first == word && Occurs(entry.words, other.second);
+                        });
+    score += occurs ? 1 : 0;
   }
-  return true;
+  return score;
+}
+
+/// The entries that have most of the words; none where no word occurs.
+std::vector<Entry> Found(const std::vector<Entry>& entries, std::string_view wanted) {
+  std::vector<Entry> found;
+  int best = 1;
+  for (const Entry& entry : entries) {
+    const int score = Score(entry, wanted);
+    if (score > best) found.clear();
+    best = std::max(best, score);
+    if (score == best) found.push_back(entry);
+  }
+  return found;
 }
 
 void AppendSearch(EscapedMarkup& out, std::string_view wanted) {
@@ -100,9 +142,8 @@ bool HasPage(const ClassMember& member) {
 Page HomePage(const Query& query) {
   const std::string_view wanted = query.Get("q");
   std::vector<Entry> entries = Entries();
-  std::vector<Entry> found;
-  std::ranges::copy_if(entries, std::back_inserter(found),
-                       [&](const Entry& entry) { return Matches(entry, wanted); });
+  const bool isSearch = wanted.find_first_not_of(' ') != std::string_view::npos;
+  std::vector<Entry> found = isSearch ? Found(entries, wanted) : entries;
   EscapedMarkup out;
   out.Open("div", {{"class", "hero"}});
   out.TextElement("h1", {}, "Money, worked out");
@@ -111,8 +152,7 @@ Page HomePage(const Query& query) {
   AppendSearch(out, wanted);
   out.Close();
   if (found.empty()) {
-    out.TextElement("p", {{"class", "notice"}},
-                    "Nothing has all of these words. Here is everything there is.");
+    out.TextElement("p", {{"class", "notice"}}, "Nothing has these words. Here is everything there is.");
     found = std::move(entries);
   } else if (found.size() < entries.size()) {
     out.Open("p", {{"class", "notice"}});

@@ -65,7 +65,10 @@ main > section { margin-top: 2rem; }
 
 .columns { display: grid; gap: 1.5rem; align-items: start; grid-template-columns: minmax(0, 1fr); }
 .result { display: grid; gap: 1.5rem; grid-template-columns: minmax(0, 1fr); }
-@media (min-width: 60rem) { .columns { grid-template-columns: 23rem minmax(0, 1fr); } }
+@media (min-width: 60rem) {
+  .columns { grid-template-columns: 23rem minmax(0, 1fr); }
+  .columns:has(.result:empty) { grid-template-columns: minmax(0, 42rem); }
+}
 .card { background: var(--card); border: 1px solid var(--line); border-radius: .9rem; box-shadow: var(--shadow);
   padding: clamp(1rem, 2.5vw, 1.6rem); }
 .inputs { display: grid; gap: 1.15rem; }
@@ -76,7 +79,7 @@ legend { font-weight: 600; padding: 0; margin-bottom: .4rem; }
 .find label + label { margin-top: .3rem; }
 .find label:hover { border-color: var(--accent); }
 .find label:has(:checked) { background: var(--wash); border-color: var(--accent); font-weight: 600; }
-.find input { accent-color: var(--accent); width: 1.1rem; height: 1.1rem; margin: 0; }
+.find input { flex: none; accent-color: var(--accent); width: 1.1rem; height: 1.1rem; margin: 0; }
 form:has(.find label:nth-of-type(1) :checked) .findable-1, form:has(.find label:nth-of-type(2) :checked) .findable-2,
 form:has(.find label:nth-of-type(3) :checked) .findable-3, form:has(.find label:nth-of-type(4) :checked) .findable-4,
 form:has(.find label:nth-of-type(5) :checked) .findable-5 { display: none; }
@@ -84,6 +87,7 @@ form:has(.find label:nth-of-type(5) :checked) .findable-5 { display: none; }
 .control { display: flex; align-items: center; gap: .5rem; }
 input:not([type=radio]), select, textarea { font: inherit; color: inherit; background: var(--card); border: 1px solid var(--field);
   border-radius: .5rem; padding: .45rem .7rem; min-height: 2.75rem; max-width: 100%; }
+textarea { width: 100%; font: .9rem/1.5 ui-monospace, monospace; white-space: pre; overflow: auto; }
 .control input, .control select { flex: 1; min-width: 0; width: 100%; }
 .control [aria-invalid] { border: 2px solid var(--wrong); }
 .unit { color: var(--soft); white-space: nowrap; }
@@ -142,7 +146,9 @@ figcaption { font-weight: 600; margin-bottom: .5rem; }
 
 @media (max-width: 30rem) {
   .top ul { gap: 0 .9rem; font-size: .95rem; }
-  th, td { padding-left: .7rem; }
+  table { font-size: .88rem; }
+  th, td { padding-left: .6rem; }
+  .better { margin-right: .15rem; padding: 0; background: none; }
   .better span { position: absolute; clip-path: inset(50%); width: 1px; height: 1px; overflow: hidden; }
 }
 @media print {

@@ -9,12 +9,14 @@
 
 #include "amortix2/charts/escaped_markup.h"
 #include "amortix2/json/json_text.h"
+#include "amortix2/json/lookup.h"
 #include "amortix2/json/reply.h"
 #include "amortix2/json/request_error.h"
 #include "amortix2/pages/calculation.h"
 #include "amortix2/pages/chart_numbers.h"
 #include "amortix2/pages/pasted_table.h"
 #include "amortix2/pages/site.h"
+#include "amortix2/pages/typed_input.h"
 #include "support.h"
 
 namespace amortix2::pages {
@@ -233,6 +235,43 @@ TEST(Pages, TablesArePasted) {
     std::string read = table.error;
     if (read.empty()) json::AppendVariant(read, table.data, json::Form::Plain);
     EXPECT_EQ(read, expected) << text;
+  }
+}
+
+struct TypedRow {
+  const char* member;
+  const char* parameter;
+  const char* text;
+  const char* expected;  ///< as a request has it, or the sentence of the refusal
+};
+const TypedRow kTyped[] = {
+    {"loan", "vPurchaseAmt", " $200,000 ", "200000"},
+    {"loan", "vPurchaseAmt", "$1,250.50", "1250.5"},
+    {"loan", "vPurchaseAmt", "250k", "250000"},
+    {"loan", "vPurchaseAmt", "12,00", R"("12,00" cannot be read. Write it like $200,000.00.)"},
+    {"loan", "vPurchaseAmt", "-5", "Enter a value from $0.00 to $10,000,000.00."},
+    {"loan", "vIntRate", "6.5 %", "6.5"},
+    {"loan", "vIntRate", ".5", "0.5"},
+    {"loan", "vIntRate", "6,5", R"("6,5" cannot be read. Write it like 6.5%.)"},
+    {"loan", "vIntRate", "6.5 years", R"("6.5 years" cannot be read. Write it like 6.5%.)"},
+    {"loan", "vPeriod", "30 years", "360"},
+    {"loan", "vPeriod", "2 yrs, 6 mo", "30"},
+    {"loan", "vPeriod", "360", "360"},
+    {"loan", "vPeriod", "30.5", "Enter a whole number."},
+    {"loan", "vPeriod", "51 years", "Enter a value from 1 month to 50 years."},
+    {"loan", "vLoanType", "credit card", R"("C")"},
+    {"save", "vFreq", "monthly", "4"},
+    {"save", "vFreq", "hourly", R"("hourly" is none of the choices.)"},
+    {"save", "vStartDate", "12/01/2026", R"({"type":"Date","value":"2026-12-01"})"},
+    {"save", "vStartDate", "2027-02-30", R"("2027-02-30" is no date. Write it like 12/31/2026.)"},
+    {"save", "vStartDate", " ", "null"},
+};
+
+TEST(Pages, InputsAreReadAsPeopleTypeThem) {
+  for (const auto& [member, parameter, text, expected] : kTyped) {
+    const auto target = json::FindCalled(member);
+    const Typed typed = ReadTyped(*FindParameter(target.method, parameter), text);
+    EXPECT_EQ(typed.error.empty() ? typed.value.dump() : typed.error, expected) << text;
   }
 }
 
