@@ -29,6 +29,8 @@ PASSED_OVER = re.compile(r"^\s*(#|//|template|static_assert|using|friend)|operat
 # The tests that may notice a change of a folder, the quickest first.
 TESTS = {"engine": "rows engine calculators component", "calculators": "rows calculators component hosts",
          "charts": "charts json hosts", "json": "json rows hosts component"}
+# And what else may, with the programs that it needs.
+OTHERS = {"charts": ("browser[.]|decode_gifs", ["amortix2", "gif_samples"])}
 
 
 def mutations(path):
@@ -84,7 +86,10 @@ class Tree:
                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=1200, preexec_fn=limits)
             if run.returncode:
                 return True
-        return False
+        pattern, programs = OTHERS.get(folder, ("^$", []))
+        if not all(self.builds(program) for program in programs):
+            return None
+        return subprocess.run(["ctest", "--test-dir", self.build, "-R", pattern], stdout=subprocess.DEVNULL).returncode != 0
 
 
 def main():

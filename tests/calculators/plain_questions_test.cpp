@@ -288,8 +288,11 @@ TEST_F(PlainQuestions, WhatIsNotSaidIsZero) {
   check("HomeAffordabilityCalculator", {500, 0, 0, 0, 0, 12}, 7, [] {
     return ResultsOf(Solve(AffordabilityQuestion{.monthlyBudget = 500, .months = 12, .startDate = kToday}));
   });
-  check("MortgageQualificationCalculator", {60000, 0, 0, 0, 0, 0, 0, 0, 0, 12}, 11, [] {
-    return ResultsOf(Solve(QualificationQuestion{.annualIncome = 60000, .months = 12, .startDate = kToday}));
+  check("HomeAffordabilityCalculator", {0, 0, 0, 0, 500, 12}, 7, [] {
+    return ResultsOf(Solve(AffordabilityQuestion{.downPayment = 500, .months = 12, .startDate = kToday}));
+  });
+  check("MortgageQualificationCalculator", {100, 0, 0, 0, 0, 0, 0, 0, 0, 12}, 11, [] {
+    return ResultsOf(Solve(QualificationQuestion{.annualIncome = 100, .months = 12, .startDate = kToday}));
   });
   check("RefinancingCalculator", {1000, 100, 0, 0, 0, 0, 12}, 10, [&] {
     const RefinancingQuestion question{.current = loan, .proposed = {.months = 12}, .startDate = kToday};
