@@ -63,7 +63,7 @@ class Tree:
                 target = place / name
                 target.parent.mkdir(parents=True, exist_ok=True)
                 if not target.exists() or target.read_bytes() != (source / name).read_bytes():
-                    shutil.copy2(source / name, target)
+                    shutil.copy(source / name, target)
         subprocess.run(["cmake", "-S", place, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Mutants",
                         "-DCMAKE_CXX_FLAGS=-O0 -w", "-Wno-dev", "--log-level=WARNING"], check=True)
         targets = subprocess.run(["ninja", "-C", self.build, "-t", "targets", "all"], text=True, capture_output=True, check=True).stdout
