@@ -53,7 +53,7 @@ bool HasRunDry(const tSavingsDesc& plan) {
 // Half a cent of what was solved, and half a cent of each line, grown to the end.
 TEST(SavingsSolver, SolvedAmountsReachTheGoal) {
   int solved = 0;
-  const int cases = Cases(4000, 20000);
+  const int cases = Cases(2000, 20000);
   ForAll(cases, [&](Random& random) {
     tSavingsDesc plan = RandomSavings(random).OfEveryModeAndSpan();
     const double goal = plan.endingBalance;
@@ -100,7 +100,7 @@ TEST(SavingsSolver, SolvedRatesStandBetweenTheirNeighbours) {
 // Lines that compound as the search for the horizon does.
 TEST(SavingsSolver, HorizonsEndAtTheirGoal) {
   int reached = 0;
-  const int cases = Cases(4000, 20000);
+  const int cases = Cases(2000, 20000);
   ForAll(cases, [&](Random& random) {
     tSavingsDesc plan = RandomSavings(random).OfEveryModeAndSpan();
     plan.taxRate = 0;
@@ -121,7 +121,7 @@ TEST(SavingsSolver, HorizonsEndAtTheirGoal) {
 
 TEST(SavingsSolver, EveryRateSearchEnds) {
   int most = 0;
-  ForAll(Cases(4000, 20000), [&](Random& random) {
+  ForAll(Cases(1500, 20000), [&](Random& random) {
     const tSavingsDesc plan = RandomSavings(random).Wild();
     SavingsRate found;
     ErrorOf([&] { found = FindSavingsRate(plan); });
@@ -132,7 +132,7 @@ TEST(SavingsSolver, EveryRateSearchEnds) {
 }
 
 TEST(SavingsSchedule, LinesJoinAndTotalsAdd) {
-  const int cases = Cases(4000, 20000);
+  const int cases = Cases(2000, 20000);
   int built = 0;
   ForAll(cases, [&](Random& random) {
     tSavingsDesc plan = RandomSavings(random).Wild();
