@@ -55,6 +55,30 @@ constexpr std::array kOrdersOfMonthAndYear{Order{0, 2, 1}, Order{1, 2, 0}};
 
 int FullYear(int year) { return year < 30 ? year + 2000 : year < 100 ? year + 1900 : year; }
 
+bool IsValidDay(int year, int month, int day) {
+  if (month < 1 || month > 12 || day < 1) return false;
+  const std::chrono::year_month_day_last end{std::chrono::year{year} / month / std::chrono::last};
+  return day <= static_cast<int>(static_cast<unsigned>(end.day()));
+}
+
+/// "01-31-2026", as schedules have it, which are read by the thousand; nothing where it takes a reader to
+/// tell.
+std::optional<Date> ScheduleDate(std::string_view text) {
+  constexpr std::string_view kForm = "00-00-0000";
+  const auto fits = [](char c, char form) { return form == '0' ? IsDigit(c) : c == form; };
+  if (!std::ranges::equal(text, kForm, fits) || text[6] == '0') return std::nullopt;
+  const auto number = [text](std::size_t from, std::size_t end) {
+    int value = 0;
+    for (std::size_t i = from; i < end; ++i) value = value * 10 + (text[i] - '0');
+    return value;
+  };
+  const int month = number(0, 2);
+  const int day = number(3, 5);
+  const int year = number(6, 10);
+  if (!IsValidDay(year, month, day)) return std::nullopt;
+  return MakeDate(year, month, day);
+}
+
 class DateReader {
  public:
   explicit DateReader(std::string_view text) : scanner_(text) {}
@@ -147,12 +171,6 @@ class DateReader {
     return std::nullopt;
   }
 
-  static bool IsValidDay(int year, int month, int day) {
-    if (month < 1 || month > 12 || day < 1) return false;
-    const std::chrono::year_month_day_last end{std::chrono::year{year} / month / std::chrono::last};
-    return day <= static_cast<int>(static_cast<unsigned>(end.day()));
-  }
-
   TextScanner scanner_;
   std::array<Part, 3> parts_{};
   std::size_t count_ = 0;
@@ -162,6 +180,7 @@ class DateReader {
 }  // namespace
 
 std::optional<Date> ParseDate(std::string_view text) {
+  if (const auto date = ScheduleDate(text)) return date;
   if (text.ends_with(',')) return std::nullopt;
   return DateReader(text).Read();
 }

@@ -18,7 +18,9 @@ std::optional<Date> DayOf(const TableInfo& table, const Array& lines, std::int32
     const HeadingInfo* heading = ColumnHeading(table, column);
     if (!heading || heading->unit != Unit::Date || !lines.Dimension(2).Contains(column)) continue;
     const Variant& cell = lines.At(line, column);
-    if (IsGiven(cell) && IsDate(cell)) return ToDate(cell);
+    if (cell.Type() == VariantType::Date) return cell.GetDate();
+    const auto day = cell.Type() == VariantType::String ? ParseDate(cell.GetString()) : std::nullopt;
+    if (day) return day;
   }
   return std::nullopt;
 }

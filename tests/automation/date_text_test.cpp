@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <string>
 #include <vector>
 
 #include "amortix2/automation/conversion.h"
@@ -44,6 +48,19 @@ TEST(DateText, IsReadByItsRules) {
     const auto date = ParseDate(c.text);
     ASSERT_TRUE(date) << c.text;
     EXPECT_EQ(ToCivil(*date), c.day) << c.text;
+  }
+}
+
+// The form of schedules is read by a way of its own.
+TEST(DateText, HasTheSameDaysWithAnySign) {
+  for (const int year : {1, 29, 30, 99, 100, 999, 1000, 1900, 2000, 2024, 2026, 9999}) {
+    for (int monthAndDay = 0; monthAndDay < 10000; monthAndDay += monthAndDay % 100 == 39 ? 61 : 1) {
+      std::array<char, 16> text{};
+      std::snprintf(text.data(), text.size(), "%02d-%02d-%04d", monthAndDay / 100, monthAndDay % 100, year);
+      std::string other = text.data();
+      std::ranges::replace(other, '-', '/');
+      ASSERT_EQ(ParseDate(text.data()), ParseDate(other)) << other;
+    }
   }
 }
 
