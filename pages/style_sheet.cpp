@@ -140,7 +140,8 @@ summary::-webkit-details-marker { display: none; }
 .charts { display: grid; gap: 1.5rem; margin-top: 1rem; grid-template-columns: repeat(auto-fit, minmax(min(100%, 22rem), 1fr)); }
 textarea { width: 100%; white-space: pre; overflow: auto; font: .9rem/1.5 ui-monospace, monospace; tab-size: 10; }
 figure { margin: 0; min-width: 0; }
-figure svg, figure img { display: block; width: 100%; max-width: 34rem; height: auto; }
+figure svg { display: block; width: 100%; height: auto; }
+figure > div { max-width: 34rem; }
 figure summary, .download { font-size: .9rem; }
 figcaption { font-weight: 600; margin-bottom: .5rem; }
 
@@ -159,6 +160,13 @@ figcaption { font-weight: 600; margin-bottom: .5rem; }
   .scroll { overflow: visible; }
   thead { display: table-header-group; }
   tr, figure { break-inside: avoid; }
+  h2, h3, caption, summary { break-after: avoid; }
+  details:not([open]), summary::before { display: none; }
+  th, td { padding-top: .2rem; padding-bottom: .2rem; }
+  .charts { grid-template-columns: 1fr 1fr; }
+  main { min-height: 0; padding-bottom: 0; }
+  footer .wrap { padding-top: .5rem; padding-bottom: 0; }
+  @page { margin: 1.5cm; }
   body { font-size: 10pt; }
 }
 )css";
