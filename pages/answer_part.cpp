@@ -32,6 +32,27 @@ std::vector<ResultArray> Arrays(const Calculation& calculation) {
 
 bool IsSchedule(const ParameterInfo& parameter) { return parameter.table->opensWithRowZero; }
 
+/// The inputs, for paper, where there is no form.
+void AppendAsked(EscapedMarkup& out, const Calculation& calculation) {
+  out.Open("dl", {{"class", "asked"}});
+  for (const ParameterInfo& parameter : calculation.Member().parameters) {
+    const Variant& given = calculation.In().At(parameter.name);
+    if (!parameter.IsInput() || !IsGiven(given)) continue;
+    std::string text;
+    for (const Variant& element : ElementsOf(given)) {
+      const ChoiceInfo* choice =
+          parameter.choices ? FindChoice(*parameter.choices, CellText(element, Unit::None)) : nullptr;
+      if (!text.empty()) text += "; ";
+      text += choice ? std::string(choice->title) : FigureText(calculation.In(), element, parameter.unit);
+    }
+    out.Open("div");
+    out.TextElement("dt", {}, parameter.title);
+    out.TextElement("dd", {}, text);
+    out.Close();
+  }
+  out.Close();
+}
+
 void AppendFigures(EscapedMarkup& out, const Calculation& calculation) {
   std::vector<NamedFigure> figures = FiguresOf(calculation);
   std::erase_if(figures, [](const NamedFigure& figure) { return figure.isEcho || figure.isCell; });
@@ -131,6 +152,7 @@ void AppendAnswer(EscapedMarkup& out, const Calculation& calculation, const Quer
   out.Open("section",
            {{"class", "card answer"}, {"id", "answer"}, {"tabindex", "-1"}, {"aria-live", "polite"}});
   out.TextElement("h2", {}, "Answer");
+  AppendAsked(out, calculation);
   const std::string sentence = AnswerText(calculation);
   if (!sentence.empty()) out.TextElement("p", {{"class", "sentence"}}, sentence);
   AppendFigures(out, calculation);

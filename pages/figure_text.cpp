@@ -93,7 +93,9 @@ std::string FigureText(const Variant& value, Unit unit) {
 }
 
 std::string FigureText(const Inputs& inputs, const Variant& value, Unit unit) {
-  return unit == Unit::Periods ? PlainFigure(inputs, value, unit) : FigureText(value, unit);
+  if (unit != Unit::Periods) return FigureText(value, unit);
+  const std::string text = PlainFigure(inputs, value, unit);
+  return text.ends_with(" months") ? FigureText(value, Unit::Months) : text;
 }
 
 }  // namespace amortix2::pages

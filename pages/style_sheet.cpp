@@ -87,7 +87,6 @@ form:has(.find label:nth-of-type(5) :checked) .findable-5 { display: none; }
 .control { display: flex; align-items: center; gap: .5rem; }
 input:not([type=radio]), select, textarea { font: inherit; color: inherit; background: var(--card); border: 1px solid var(--field);
   border-radius: .5rem; padding: .45rem .7rem; min-height: 2.75rem; max-width: 100%; }
-textarea { width: 100%; font: .9rem/1.5 ui-monospace, monospace; white-space: pre; overflow: auto; }
 .control input, .control select { flex: 1; min-width: 0; width: 100%; }
 .control [aria-invalid] { border: 2px solid var(--wrong); }
 .unit { color: var(--soft); white-space: nowrap; }
@@ -107,11 +106,12 @@ button:hover { filter: brightness(1.08); }
 
 .answer > h2 { color: var(--soft); font-size: .95rem; font-weight: 600; letter-spacing: 0; }
 .sentence { font-size: clamp(1.2rem, 2.6vw, 1.55rem); line-height: 1.35; font-weight: 600; margin-top: .3rem; }
-.figures { margin: 1.4rem 0 0; display: grid; gap: 1rem 2rem;
-  grid-template-columns: repeat(auto-fill, minmax(min(100%, 10rem), 1fr)); }
+.figures { margin: 1.4rem 0 0; display: grid; gap: 1rem 1.25rem;
+  grid-template-columns: repeat(auto-fill, minmax(min(100%, 9.5rem), 1fr)); }
 .figures dt { color: var(--soft); font-size: .9rem; }
 .figures dd { margin: 0; font-size: 1.25rem; font-weight: 600; font-variant-numeric: tabular-nums; }
 .figures .found dd { color: var(--accent); font-size: 1.6rem; line-height: 1.2; }
+.asked { display: none; }
 .notes { margin-top: 1.4rem; padding: .9rem 1.1rem; border-radius: .6rem; background: var(--wash); }
 .break-even { margin-top: .9rem; font-weight: 600; }
 caption span { display: inline-block; position: sticky; left: 0; max-width: min(100%, calc(100vw - 4.5rem)); }
@@ -155,7 +155,10 @@ figcaption { font-weight: 600; margin-bottom: .5rem; }
 @media print {
   :root { --ground: #fff; --card: #fff; --ink: #000; --soft: #333; --line: #bbb; --accent: #000; --wash: #fff; }
   .top, .skip, .inputs, .along, .downloads, .download, figure details, .notice, .years, .hint { display: none; }
-  .columns { display: block; }
+  .columns, .result { display: block; }
+  .asked { display: grid; grid-template-columns: repeat(3, 1fr); gap: .2rem 1.5rem; margin: .4rem 0 1.2rem; }
+  .asked div { display: flex; justify-content: space-between; gap: .5rem; border-bottom: 1px solid var(--line); }
+  .asked dd { margin: 0; text-align: right; }
   .card { border: 0; box-shadow: none; padding: 0; margin-bottom: 1.5rem; }
   .scroll { overflow: visible; }
   thead { display: table-header-group; }
