@@ -26,7 +26,7 @@ measure() {
     best=$(awk -v a="$best" -v b="$seconds" 'BEGIN { print a < b ? a : b }')
   done
   awk -v name="$name" -v loans="$loans" -v seconds="$best" -v bytes="$(stat -c %s output)" 'BEGIN {
-    printf "%-34s %8.2f us a loan %9.0f loans a second %9.0f bytes a loan\n", name, seconds / loans * 1e6, loans / seconds, bytes / loans }'
+    printf "%-34s %8.2f us a loan %9.0f loans a second %9.1f bytes a loan\n", name, seconds / loans * 1e6, loans / seconds, bytes / loans }'
 }
 
 make_loans 200000 >loans.csv

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <cstring>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -23,19 +24,25 @@ constexpr std::int32_t kMonths = 12;
 constexpr std::int32_t Digit(char c) { return c - '0'; }
 constexpr std::int32_t TwoDigits(const char* text) { return Digit(text[0]) * 10 + Digit(text[1]); }
 
-/// A month of a year, in their digits, counted from the year 0; negative where there is none.
-constexpr std::int32_t MonthAt(const char* year, const char* month) {
-  const std::int32_t number = TwoDigits(month);
-  if (number < 1 || number > kMonths) return -1;
-  return (TwoDigits(year) * 100 + TwoDigits(year + 2)) * kMonths + number - 1;
-}
+/// Reads months of years in their digits; those of one year follow each other, mostly.
+class MonthReader {
+ public:
+  /// The month counted from the year 0; negative where there is none.
+  std::int32_t At(const char* year, const char* month) {
+    std::uint32_t digits = 0;
+    std::memcpy(&digits, year, sizeof digits);
+    if (digits != year_) {
+      year_ = digits;
+      january_ = (TwoDigits(year) * 100 + TwoDigits(year + 2)) * kMonths;
+    }
+    const std::int32_t number = TwoDigits(month);
+    return number >= 1 && number <= kMonths ? january_ + number - 1 : -1;
+  }
 
-/// The month of "mm-dd-yyyy", as schedules have it; negative for anything else.
-std::int32_t MonthOf(const Variant& date) {
-  if (date.Type() != VariantType::String) return -1;
-  const std::string_view text = date.GetString();
-  return text.size() == sizeof(DateText) ? MonthAt(text.data() + 6, text.data()) : -1;
-}
+ private:
+  std::uint32_t year_ = 0;  // the digits, as they lie in memory
+  std::int32_t january_ = 0;
+};
 
 /// The month of "yyyy-mm".
 std::optional<std::int32_t> ReadMonth(std::string_view text) {
@@ -44,7 +51,7 @@ std::optional<std::int32_t> ReadMonth(std::string_view text) {
   const bool isParted = scanner.Take('-');
   const std::string_view month = scanner.TakeWhile(IsDigit);
   if (year.size() != 4 || !isParted || month.size() != 2 || !scanner.AtEnd()) return std::nullopt;
-  const std::int32_t number = MonthAt(year.data(), month.data());
+  const std::int32_t number = MonthReader().At(year.data(), month.data());
   return number < 0 ? std::nullopt : std::optional(number);
 }
 
@@ -118,12 +125,20 @@ void MonthSums::ReadMonths(const Array& schedule) {
   width_ = static_cast<std::size_t>(columns.Count());
   const auto first = static_cast<std::size_t>(kUsed.lower - columns.lower);
   cells_ = schedule.Cells();
-  for (std::size_t date = first; date < cells_.size(); date += width_) {
-    const std::int32_t month = MonthOf(cells_[date]);
+  lineMonths_.resize(cells_.size() / width_);
+  MonthReader months;
+  std::size_t lines = 0;
+  for (; lines < lineMonths_.size(); ++lines) {
+    // "mm-dd-yyyy"
+    const Variant& date = cells_[lines * width_ + first];
+    if (date.Type() != VariantType::String) break;
+    const std::string_view text = date.GetString();
+    const std::int32_t month = text.size() == sizeof(DateText) ? months.At(text.data() + 6, text.data()) : -1;
     if (month < 0) break;
-    lineMonths_.push_back(month);
+    lineMonths_[lines] = month;
   }
-  if (!lineMonths_.empty()) cells_ = cells_.subspan(first);
+  lineMonths_.resize(lines);
+  if (lines > 0) cells_ = cells_.subspan(first);
 }
 
 /// Adds the lines to the open sums, or takes them off again; returns the largest amount in cents.
