@@ -1,5 +1,6 @@
 #include "amortix2/pages/downloads.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -14,6 +15,8 @@
 
 namespace amortix2::pages {
 namespace {
+
+constexpr std::string_view kFigures = "figures";
 
 bool IsTable(const Calculation& calculation, const ParameterInfo& parameter) {
   if (!parameter.IsResult()) return false;
@@ -41,10 +44,24 @@ std::string FiguresAsCsv(const Calculation& calculation) {
   return out;
 }
 
+bool IsSchedule(const ParameterInfo* parameter) {
+  const TableInfo* table = parameter->table;
+  return table && !table->columns.empty() && table->columns.front().unit == Unit::Date;
+}
+
+/// The first schedule, else the first table, else the single figures.
+std::string_view FirstTable(const Calculation& calculation) {
+  const auto tables = TablesOf(calculation);
+  if (tables.empty()) return kFigures;
+  const auto schedule = std::ranges::find_if(tables, IsSchedule);
+  return (schedule == tables.end() ? tables.front() : *schedule)->name;
+}
+
 std::optional<Page> Csv(const Calculation& calculation, std::string_view table) {
   if (!calculation.IsAnswered()) return std::nullopt;
+  if (table.empty()) table = FirstTable(calculation);
   Page page{.contentType = "text/csv; charset=utf-8", .bytes = {}, .fileName = "answer.csv"};
-  if (table.empty()) {
+  if (table == kFigures) {
     page.bytes = FiguresAsCsv(calculation);
     return page;
   }
@@ -95,7 +112,7 @@ void AppendLink(EscapedMarkup& out, Query query, std::string_view format, std::s
   query.Remove("chart");
   query.Remove("table");
   query.Set("format", format);
-  if (!table.empty()) query.Set("table", table);
+  if (format == "csv") query.Set("table", table);
   out.Open("li");
   out.TextElement("a", {{"href", "?" + query.Text()}}, text);
   out.Close();
@@ -116,7 +133,7 @@ void AppendDownloads(EscapedMarkup& out, const Calculation& calculation, const Q
   for (const ParameterInfo* table : TablesOf(calculation)) {
     AppendLink(out, query, "csv", table->name, std::string(table->title) + " (CSV)");
   }
-  AppendLink(out, query, "csv", {}, "Figures (CSV)");
+  AppendLink(out, query, "csv", kFigures, "Figures (CSV)");
   AppendLink(out, query, "json", {}, "The whole answer (JSON)");
   out.Close();
 }

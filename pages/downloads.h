@@ -1,7 +1,8 @@
 #pragma once
 
 // An answer to take along: its tables as CSV, the whole of it as JSON, its charts as GIF images. The query
-// asks for them by "format" ("csv" with "table", the name of a result; "json"; "gif" with "chart", from 1).
+// asks for them by "format": "csv" with "table", the name of a result or "figures" (without it the first
+// schedule), "json", or "gif" with "chart", from 1.
 
 #include <optional>
 

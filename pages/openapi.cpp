@@ -117,10 +117,10 @@ void AddFormat(Tree& list, const MemberInfo& member) {
   for (const ParameterInfo& parameter : member.parameters) {
     if (parameter.IsResult() && parameter.table) tables.push_back(parameter.name);
   }
-  if (!tables.empty()) {
-    list.push_back(InQuery("table", "The table that is wanted as CSV; without it the single figures", false,
-                           {{"type", "string"}, {"enum", tables}}));
-  }
+  tables.push_back("figures");
+  list.push_back(InQuery("table",
+                         "The table that is wanted as CSV, or the single figures; without it the schedule",
+                         false, {{"type", "string"}, {"enum", tables}}));
   if (member.charts.empty()) return;
   list.push_back(InQuery("chart", "The chart that is wanted as GIF", false,
                          {{"type", "integer"}, {"minimum", 1}, {"maximum", member.charts.size()}}));

@@ -54,13 +54,13 @@ const Exchange kExchanges[] = {
     {"GET", "/loan", "vIntRate=%zz", "", 400, ""},
     {"POST", "/loan", "", "", 405, ""},
     {"DELETE", "/", "", "", 405, ""},
-    {"GET", "/loan",
-     "vPurchaseAmt=%241%2C000&vPeriod=2+months&vIntRate=6.5+%25&find=vPayment&format=csv&table=vDetArray", "",
+    {"GET", "/loan", "vPurchaseAmt=%241%2C000&vPeriod=2+months&vIntRate=6.5+%25&find=vPayment&format=csv", "",
      200,
      "Date,Payment,Principal,Interest,Balance\r\n11-21-2026,0,0,0,1000\r\n12-21-2026,504.07,498.65,5.42,501."
      "35\r\n"
      "01-21-2027,504.07,501.35,2.72,0\r\n"},
-    {"GET", "/loan", "vPurchaseAmt=1000&vPeriod=2&vIntRate=6.5&find=vPayment&format=csv", "", 200,
+    {"GET", "/loan", "vPurchaseAmt=1000&vPeriod=2&vIntRate=6.5&find=vPayment&format=csv&table=figures", "",
+     200,
      "Figure,Value\r\nAmount,1000\r\nMonthly payment,504.07\r\nTerm,2\r\nInterest rate,6.5\r\n"
      "Total of payments,1008.14\r\nTotal interest,8.14\r\n"},
     {"GET", "/loan", "vPurchaseAmt=none&vPeriod=2&vIntRate=6.5&find=vPayment&format=json", "", 400,
