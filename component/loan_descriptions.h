@@ -38,7 +38,8 @@ inline constexpr auto kLoanMembers = std::tuple{
                     {.input = "vPeriod",
                      .figure = "vResPeriod",
                      .sentences =
-                         {{"At {vResPayment} a month the loan is paid off after {vResPeriod}; interest "
+                         {NeverPaidOff("vResPayment", "vPayment"),
+                          {"At {vResPayment} a month the loan is paid off after {vResPeriod}; interest "
                            "comes to {vTotInt}."}}},
                     {.input = "vIntRate",
                      .figure = "vResIntRate",

@@ -1,5 +1,6 @@
 #include "amortix2/pages/answer_part.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -59,7 +60,9 @@ void AppendFigures(EscapedMarkup& out, const Calculation& calculation) {
   if (figures.empty()) return;
   out.Open("dl", {{"class", "figures"}});
   for (const NamedFigure& figure : figures) {
-    out.Open("div", {Attribute::If(figure.isFound, {"class", "found"})});
+    constexpr std::size_t kLong = 40;
+    const bool isLong = figure.value.Type() == VariantType::String && figure.value.GetString().size() > kLong;
+    out.Open("div", {Attribute::If(figure.isFound || isLong, {"class", isLong ? "words" : "found"})});
     out.TextElement("dt", {}, figure.title);
     out.TextElement("dd", {}, FigureText(calculation.In(), figure.value, figure.unit));
     out.Close();
@@ -67,8 +70,7 @@ void AppendFigures(EscapedMarkup& out, const Calculation& calculation) {
   out.Close();
 }
 
-void AppendNotes(EscapedMarkup& out, const Calculation& calculation) {
-  const std::vector<Note> notes = calculation.Execution().Notes();
+void AppendNotes(EscapedMarkup& out, const std::vector<Note>& notes) {
   if (notes.empty()) return;
   out.Open("div", {{"class", "notes"}});
   out.TextElement("h3", {}, "Good to know");
@@ -83,10 +85,11 @@ void AppendNotes(EscapedMarkup& out, const Calculation& calculation) {
   out.Close();
 }
 
-void AppendGrids(EscapedMarkup& out, const Calculation& calculation, const std::vector<ResultArray>& arrays) {
+void AppendGrids(EscapedMarkup& out, const Calculation& calculation, const std::vector<ResultArray>& arrays,
+                 Marks marks) {
   for (const auto& [parameter, array] : arrays) {
     if (IsSchedule(parameter) || array.Rank() == 1) continue;
-    AppendGrid(out, calculation.In(), parameter, array);
+    AppendGrid(out, calculation.In(), parameter, array, marks);
   }
 }
 
@@ -156,15 +159,18 @@ void AppendAnswer(EscapedMarkup& out, const Calculation& calculation, const Quer
   const std::string sentence = AnswerText(calculation);
   if (!sentence.empty()) out.TextElement("p", {{"class", "sentence"}}, sentence);
   AppendFigures(out, calculation);
-  AppendNotes(out, calculation);
+  const std::vector<Note> notes = calculation.Execution().Notes();
+  AppendNotes(out, notes);
   if (first && first->Arguments() == calculation.Arguments()) {
     out.TextElement("p", {{"class", "notice"}},
                     "Now change an input and calculate: this answer stays beside the new one.");
   } else if (first) {
     AppendTwoAnswers(out, *first, calculation);
   }
-  AppendGrids(out, calculation, arrays);
-  AppendHorizons(out, calculation, query, clock);
+  // A loan that is never paid off counts as the whole debt at once; nothing is better or worse than that.
+  const bool isNeverPaid = std::ranges::find(notes, "payment-below-interest", &Note::code) != notes.end();
+  AppendGrids(out, calculation, arrays, isNeverPaid ? Marks::None : Marks::Better);
+  if (!isNeverPaid) AppendHorizons(out, calculation, query, clock);
   AppendTakeAlong(out, calculation, query);
   out.Close();
   AppendChartCard(out, calculation, query);

@@ -94,6 +94,8 @@ std::string FigureText(const Variant& value, Unit unit) {
 
 std::string FigureText(const Inputs& inputs, const Variant& value, Unit unit) {
   if (unit != Unit::Periods) return FigureText(value, unit);
+  // A plan that never ends has -1 of them.
+  if (NumericOrZero(value) < 0) return "for ever";
   const std::string text = PlainFigure(inputs, value, unit);
   return text.ends_with(" months") ? FigureText(value, Unit::Months) : text;
 }

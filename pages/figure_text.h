@@ -12,7 +12,8 @@ namespace amortix2::pages {
 /// A value with its unit; from 24 on, months are told in years and months.
 std::string FigureText(const Variant& value, Unit unit);
 
-/// The same, where periods have the word of the member's frequency ("24 quarters").
+/// The same, where periods have the word of the member's frequency ("24 quarters"), and those of a plan that
+/// never ends are "for ever".
 std::string FigureText(const Inputs& inputs, const Variant& value, Unit unit);
 
 /// A table's cell, whose column tells the unit: money without its sign, times without their word.

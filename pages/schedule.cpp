@@ -192,8 +192,8 @@ void AppendSchedule(EscapedMarkup& out, const Inputs& inputs, const ParameterInf
   AppendMonths(out, title, schedule, years);
 }
 
-void AppendGrid(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter,
-                const Array& array) {
+void AppendGrid(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter, const Array& array,
+                Marks marks) {
   const json::ResultTable table = json::TableOf(inputs, parameter, array);
   OpenTable(out, parameter.title);
   out.Open("thead");
@@ -216,7 +216,8 @@ void AppendGrid(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& p
       const std::string& title = table.rowTitles[static_cast<std::size_t>(row - table.rows.lower)];
       out.TextElement("th", {{"scope", "row"}}, AxisText(parameter.table->rowAxis, title));
     }
-    const std::optional<std::size_t> better = BetterColumn(inputs.Member(), parameter, table, row);
+    std::optional<std::size_t> better;
+    if (marks == Marks::Better) better = BetterColumn(inputs.Member(), parameter, table, row);
     for (std::size_t column = 0; column < table.columns.size(); ++column) {
       out.Open("td");
       if (better == column) AppendMark(out);

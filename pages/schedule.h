@@ -20,8 +20,13 @@ void CloseTable(EscapedMarkup& out);
 void AppendSchedule(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter,
                     const Array& array);
 
-/// A table with titles on both sides, whose cells carry their units; where it compares two sides, the better
-/// one is marked.
-void AppendGrid(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter, const Array& array);
+enum class Marks {
+  None,
+  Better,  ///< where two sides are compared, the better one
+};
+
+/// A table with titles on both sides, whose cells carry their units.
+void AppendGrid(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter, const Array& array,
+                Marks marks);
 
 }  // namespace amortix2::pages

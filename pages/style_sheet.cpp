@@ -111,6 +111,8 @@ button:hover { filter: brightness(1.08); }
 .figures dt { color: var(--soft); font-size: .9rem; }
 .figures dd { margin: 0; font-size: 1.25rem; font-weight: 600; font-variant-numeric: tabular-nums; }
 .figures .found dd { color: var(--accent); font-size: 1.6rem; line-height: 1.2; }
+.figures .words { grid-column: 1 / -1; }
+.figures .words dd { font-size: 1rem; font-weight: 400; max-width: 44rem; }
 .asked { display: none; }
 .notes { margin-top: 1.4rem; padding: .9rem 1.1rem; border-radius: .6rem; background: var(--wash); }
 .break-even { margin-top: .9rem; font-weight: 600; }
