@@ -5,18 +5,18 @@
 // is named is given).
 
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
 
-#include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
 #include "amortix2/automation/error.h"
 #include "amortix2/component/call_values.h"
 #include "amortix2/component/invocation.h"
 #include "amortix2/component/notes.h"
+#include "amortix2/json/tree.h"
+#include "amortix2/json/variant_reader.h"
 
 namespace amortix2 {
 
@@ -25,26 +25,7 @@ class FixedDay final : public Clock {
   Date Today() const override { return MakeDate(2026, 11, 21); }
 };
 
-inline Variant FromJson(const nlohmann::json& json) {
-  if (json.is_null()) return {};
-  if (json.is_number()) return json.get<double>();
-  if (json.is_string()) return std::string_view(json.get_ref<const std::string&>());
-  const auto last = static_cast<std::int32_t>(json.size()) - 1;
-  const bool isTable = !json.empty() && json[0].is_array();
-  if (!isTable) {
-    Array list({0, last});
-    for (std::int32_t i = 0; i <= last; ++i) list.At(i) = FromJson(json[static_cast<std::size_t>(i)]);
-    return list;
-  }
-  Array table({0, last}, {0, static_cast<std::int32_t>(json[0].size()) - 1});
-  for (std::size_t row = 0; row < json.size(); ++row) {
-    for (std::size_t column = 0; column < json[row].size(); ++column) {
-      table.At(static_cast<std::int64_t>(row), static_cast<std::int64_t>(column)) =
-          FromJson(json[row][column]);
-    }
-  }
-  return table;
-}
+inline Variant FromJson(std::string_view text) { return json::ToVariant(*json::ParseTree(text).tree); }
 
 /// One call of a described member: its inputs, what came back, and the error if there was one.
 class DescribedRequest {
@@ -78,7 +59,7 @@ class DescribedRequest {
     if (parameter.type->kind != TypeKind::Variant) return;
     const bool isJson = text.starts_with('[');
     parameter.type->write(place.Get(), text == "-" ? Variant()
-                                       : isJson    ? FromJson(nlohmann::json::parse(text))
+                                       : isJson    ? FromJson(text)
                                                    : Variant(std::string_view(text)));
   }
   /// Any variant in the place of a parameter that is one.

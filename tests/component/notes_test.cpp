@@ -358,7 +358,7 @@ TEST(Notes, AreFoundForAnything) {
   const Variant odd[] = {{}, kNull, kMissing, "x", "6.5%", "1e400", 1e308, -1e308, 1e-308, -0.5, 0.0, 1.0, 360.0,
                          -40000.0, true, "C", "T", 2.5, 6.5, 100.0, 4.0, 70000.0, Date{46000}, kLastDay, kFirstDay,
                          "12/31/9999", Array({0, -1}), Array({0, 2}), Array({1, 2}, {0, 6}),
-                         FromJson(nlohmann::json::parse("[1, \"a\", null]"))};
+                         FromJson("[1, \"a\", null]")};
   // clang-format on
   ForAll(Cases(3000, 100000), [&](Random& random) {
     const ClassMember& member = random.OneOf(MembersInOrder());
