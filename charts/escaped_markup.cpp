@@ -37,6 +37,9 @@ std::string_view Entity(char c) {
   }
 }
 
+/// Characters that stand for themselves, one byte each: nearly all of a page's.
+bool IsPlain(char c) { return c >= ' ' && c < '\x7F' && Entity(c).empty(); }
+
 }  // namespace
 
 void AppendNumber(std::string& out, double number) {
@@ -54,7 +57,11 @@ void AppendNumber(std::string& out, double number) {
 }
 
 void AppendEscaped(std::string& out, std::string_view text) {
-  while (!text.empty()) {
+  for (;;) {
+    const auto plain = std::ranges::find_if_not(text, IsPlain) - text.begin();
+    out += text.substr(0, static_cast<std::size_t>(plain));
+    text.remove_prefix(static_cast<std::size_t>(plain));
+    if (text.empty()) return;
     const CodePoint point = FirstCodePoint(text);
     const std::string_view bytes = text.substr(0, point.length);
     const std::string_view entity = Entity(text.front());

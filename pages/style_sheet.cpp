@@ -38,10 +38,11 @@ a { color: var(--accent); text-underline-offset: .2em; }
 .top li a { display: block; padding: .75rem 0; color: var(--soft); text-decoration: none; }
 .top li a:hover { color: var(--ink); text-decoration: underline; }
 .top li a[aria-current] { color: var(--ink); box-shadow: inset 0 -3px var(--accent); }
-main { min-height: 70vh; padding-bottom: 4rem; }
+main.wrap { min-height: 70vh; padding-bottom: 4rem; }
 footer { border-top: 1px solid var(--line); color: var(--soft); font-size: .95rem; }
 footer .wrap { padding-top: 1.5rem; padding-bottom: 2rem; }
-.hero { padding: clamp(1.5rem, 4vw, 3rem) 0 1.75rem; display: grid; gap: .5rem; justify-items: start; }
+.hero { padding: clamp(1.5rem, 4vw, 3rem) 0 1.75rem; display: grid; gap: .5rem; justify-items: start;
+  grid-template-columns: minmax(0, 1fr); }
 .group a { font-size: .95rem; text-decoration: none; }
 .group a:hover { text-decoration: underline; }
 .lede { color: var(--soft); font-size: 1.1rem; max-width: 46rem; }
@@ -169,7 +170,7 @@ figcaption { font-weight: 600; margin-bottom: .5rem; }
   details:not([open]), summary::before { display: none; }
   th, td { padding-top: .2rem; padding-bottom: .2rem; }
   .charts { grid-template-columns: 1fr 1fr; }
-  main { min-height: 0; padding-bottom: 0; }
+  main.wrap { min-height: 0; padding-bottom: 0; }
   footer .wrap { padding-top: .5rem; padding-bottom: 0; }
   @page { margin: 1.5cm; }
   body { font-size: 10pt; }
