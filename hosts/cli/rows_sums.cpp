@@ -156,12 +156,18 @@ double MonthSums::Book(const Operation& operation) {
     }
     OpenAmounts& sums = OpenAt(month);
     if (month == before) sums[kBalance] = operation(sums[kBalance], 0 - cents[kBalance]);
-    for (std::size_t i = 0; i < kAmounts; ++i) {
+    const auto book = [&](std::size_t i) {
       const double amount = 100 * AmountIn(row[i + 1]);
       largest[i] = std::max(largest[i], std::abs(amount));
       cents[i] = ToWhole(amount);
       add(sums[i], cents[i]);
-    }
+    };
+    // One by one, so that all of it stays in registers.
+    static_assert(kAmounts == 4);
+    book(0);
+    book(1);
+    book(2);
+    book(3);
     before = month;
     row += width_;
   }
