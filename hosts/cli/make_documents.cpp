@@ -34,6 +34,7 @@ int main(int count, char** arguments) try {
     return 2;
   }
   std::vector<Usage> usage;
+  usage.reserve(kCommands.size());
   for (const std::string_view command : kCommands) usage.push_back({command, HelpOf(std::string(command))});
   const std::filesystem::path folder = arguments[1];
   Write(folder / "docs/calculators.md", CalculatorsGuide());
