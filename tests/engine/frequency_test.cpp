@@ -103,8 +103,8 @@ TEST(Frequency, WholePeriodsEndOnOrBeforeTheEnd) {
 TEST(Frequency, StepsBeyondSixteenBitsOverflow) {
   const Date start = MakeDate(2001, 1, 1);
   EXPECT_NO_THROW(AdvanceDate(start, dailymode, 32000));
-  for (const auto& [mode, count] : {std::pair{dailymode, 32768}, {weeklyMode, 5000}, {monthlyMode, 40000}}) {
-    EXPECT_EQ(ErrorOf([&] { AdvanceDate(start, mode, count); }), ErrorNumber::Overflow) << mode;
+  for (const auto& step : {std::pair{dailymode, 32768}, {weeklyMode, 5000}, {monthlyMode, 40000}}) {
+    EXPECT_EQ(ErrorOf([&] { AdvanceDate(start, step.first, step.second); }), ErrorNumber::Overflow);
   }
 }
 
