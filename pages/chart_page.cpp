@@ -107,9 +107,9 @@ std::string PixelAddress(std::string_view colour) {
   (gif += components) += components;
   if (colour.empty()) gif += std::string("\x21\xF9\4\1\0\0\0\0", 8);
   gif += std::string(",\0\0\0\0\1\0\1\0\0\2\2\x44\1\0;", 16);
-  std::string address = "data:image/gif;base64,";
-  json::AppendBase64(address, std::vector<std::uint8_t>(gif.begin(), gif.end()));
-  return address;
+  std::string quoted;
+  json::AppendBase64(quoted, std::vector<std::uint8_t>(gif.begin(), gif.end()));
+  return "data:image/gif;base64," + quoted.substr(1, quoted.size() - 2);
 }
 
 Variant Text(const std::string& text) { return std::string_view(text); }

@@ -1,6 +1,7 @@
 #include "amortix2/pages/home.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -51,11 +52,28 @@ std::vector<Entry> Entries() {
 
 /// What people say, and what the description says instead.
 constexpr std::pair<std::string_view, std::string_view> kOtherWords[] = {
-    {"house", "home"},         {"house", "mortgage"}, {"home", "mortgage"},  {"buy", "purchase"},
-    {"car", "loan"},           {"car", "lease"},      {"auto", "loan"},      {"debt", "loan"},
-    {"borrow", "loan"},        {"early", "extra"},    {"sooner", "extra"},   {"ira", "retirement"},
-    {"pension", "retirement"}, {"goal", "deposit"},   {"invest", "savings"}, {"installment", "payment"},
+    {"house", "home"},
+    {"house", "mortgage"},
+    {"home", "mortgage"},
+    {"buy", "purchase"},
+    {"car", "loan"},
+    {"car", "lease"},
+    {"auto", "loan"},
+    {"debt", "loan"},
+    {"borrow", "loan"},
+    {"long", "term"},
+    {"early", "extra"},
+    {"sooner", "extra"},
+    {"ira", "retirement"},
+    {"pension", "retirement"},
+    {"goal", "deposit"},
+    {"invest", "savings"},
+    {"installment", "payment"},
 };
+
+/// What questions are made of, whatever they are about.
+constexpr std::string_view kQuestionWords[] = {"and", "can",  "does",  "for",   "how",  "much",
+                                               "the", "take", "takes", "until", "what", "will"};
 
 bool IsPart(char c) { return IsLetter(c) || IsDigit(c) || c < 0; }
 
@@ -74,7 +92,7 @@ bool Occurs(std::string_view text, std::string_view word) {
   return false;
 }
 
-/// How many of the words occur, or another for it; the shortest say nothing.
+/// How many of the words occur, or another for it; the shortest and those of any question say nothing.
 int Score(const Entry& entry, std::string_view wanted) {
   constexpr std::size_t kShortest = 3;
   const std::string small = Small(wanted);
@@ -83,7 +101,8 @@ int Score(const Entry& entry, std::string_view wanted) {
   while (!scanner.AtEnd()) {
     scanner.TakeWhile([](char c) { return !IsPart(c); });
     const std::string_view word = scanner.TakeWhile(IsPart);
-    if (word.size() < kShortest) continue;
+    const bool isOfQuestions = std::ranges::find(kQuestionWords, word) != std::end(kQuestionWords);
+    if (word.size() < kShortest || isOfQuestions) continue;
     const bool occurs = Occurs(entry.words, word) || std::ranges::any_of(kOtherWords, [&](const auto& other) {
                           return other.first == word && Occurs(entry.words, other.second);
                         });

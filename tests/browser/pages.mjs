@@ -175,6 +175,17 @@ async function checkWrong(page) {
   await look(page, "a page of mistakes");
 }
 
+/** The markup that people copy shows its bars elsewhere, in the colours of the picture. */
+async function checkMarkup(page) {
+  await page.goto(`${site}/chart`);
+  const [html, svg] = [await page.inputValue("#html"), await page.inputValue("#svg")];
+  await page.goto("about:blank");
+  await page.setContent(html + svg);
+  const images = await page.evaluate(() => [...document.images].map(({ naturalWidth, naturalHeight }) => naturalWidth * naturalHeight));
+  expect(images.length > 20 && images.every((size) => size === 1), `images of the HTML chart have ${images} pixels`);
+  expect(await page.locator("svg rect:has(title)").count() === 6, "the picture has not its six bars");
+}
+
 /** On paper: the answer and its table, whose head stands on every sheet, and nothing to fill in. */
 async function checkPaper(page) {
   await page.goto(site + "/loan");
@@ -219,7 +230,7 @@ try {
   expect(valid, `/openapi.json: ${JSON.stringify(errors)}`);
   const page = await browser.newPage();
   page.on("response", (response) => expect(response.status() === 200, `${response.url()}: ${response.status()}`));
-  page.on("request", (request) => expect(request.url().startsWith(site), `${request.url()} is asked for`));
+  page.on("request", (request) => expect(/^(data|about):/.test(request.url()) || request.url().startsWith(site), `${request.url()} is asked for`));
   page.on("console", (message) => expect(message.type() !== "error", `${page.url()}: ${message.text()}`));
   const some = process.env.AMORTIX2_ALL ? members : members.filter((_, i) => i % 4 === 0);
   for (const member of some.filter(({ address }) => address !== "invest")) {
@@ -233,6 +244,7 @@ try {
   await compareByKeyboard(page);
   await checkWrong(page);
   await checkPaper(page);
+  await checkMarkup(page);
   const survey = "/invest?vInvAmount=10000&" + [..."DCDCC"].map((answer, i) => `vSurvey.${i + 1}=${answer}`).join("&");
   const paths = process.env.AMORTIX2_ALL ? ["/", "/?q=loan", "/method", "/invest", ...members.map(({ address }) => `/${address}`)] : ["/", "/refinance"];
   await lookAround(page, ["/chart", survey, ...paths]);

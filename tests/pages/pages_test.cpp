@@ -162,7 +162,7 @@ TEST(Pages, WrongInputsAreToldAtTheirFields) {
         if (query.Get("find") == name) query.Remove("find");
         query.Set(name, text);
         const Page page = Get(PathOf(member), query);
-        const std::string what = PathOf(member) + " " + name + "=" + text;
+        const std::string what = PathOf(member).append(" ").append(name).append("=").append(text);
         ASSERT_EQ(page.status, 200) << what;
         EXPECT_EQ(page.bytes.find("<script"), std::string::npos) << what;
         const ParameterInfo* parameter = FindParameter(*member.member, name);
