@@ -64,7 +64,8 @@ std::vector<Pair> Pairs(const Calculation& first, const Calculation& second) {
 }
 
 void AppendRow(EscapedMarkup& out, const Calculation& calculation, const Pair& pair) {
-  const auto& [one, other] = pair;
+  const NamedFigure& one = pair.one;
+  const NamedFigure& other = pair.other;
   const auto text = [&](const Variant& value) { return FigureText(calculation.In(), value, one.unit); };
   out.Open("tr");
   out.TextElement("th", {{"scope", "row"}}, one.title);
@@ -86,7 +87,8 @@ std::vector<NamedFigure> FiguresOf(const Calculation& calculation) {
     if (parameter.role == Role::Result) AddFigure(figures, calculation, parameter);
   }
   // What was asked for stands first.
-  std::ranges::stable_partition(figures, &NamedFigure::isFound);
+  std::stable_partition(figures.begin(), figures.end(),
+                        [](const NamedFigure& figure) { return figure.isFound; });
   return figures;
 }
 
