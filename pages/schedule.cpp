@@ -13,6 +13,10 @@
 namespace amortix2::pages {
 namespace {
 
+/// Of a schedule's lines on a page: the payments of each day for 25 years, and a megabyte or two of markup.
+constexpr std::int64_t kMostCells = 60000;
+constexpr std::int64_t kCellsOfYear = 20;  // as much markup as a year's own table takes beside its cells
+
 /// A schedule with its titles.
 struct Schedule {
   const TableInfo& info;
@@ -188,8 +192,12 @@ void AppendSchedule(EscapedMarkup& out, const Inputs& inputs, const ParameterInf
   for (const YearOfLines& year : years) rows.YearRow(year);
   out.Close();
   CloseTable(out);
-  out.TextElement("p", {{"class", "hint"}}, "Open a year to see each payment.");
-  AppendMonths(out, title, schedule, years);
+  const std::int64_t cells = schedule.lines.Dimension(1).Count() * std::ssize(ShownColumns(schedule));
+  const bool fits = cells + kCellsOfYear * std::ssize(years) <= kMostCells;
+  out.TextElement("p", {{"class", "hint"}},
+                  fits ? "Open a year to see each payment."
+                       : "The single payments are too many for a page; the CSV file has them all.");
+  if (fits) AppendMonths(out, title, schedule, years);
 }
 
 void AppendGrid(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter, const Array& array,

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# With AMORTIX2_ALL=1 runs nginx as the guide configures it, but for ports and files, before the page server: 10,000 requests over TLS.
+# With AMORTIX2_ALL=1 runs nginx as the guide configures it, but for ports and files, before the page server: 10,000
+# requests over TLS.
 #
 #   nginx_test.sh PROGRAM GUIDE FOLDER
 set -euo pipefail
