@@ -55,7 +55,7 @@ constexpr auto kDescription = describe<BarChart>(
         kWidth.Example("2")),
     property<&BarChart::MinimumOverlapCount>(
         Setting(9, "Overlap steps", "How many such steps wide an overlapped bar is, at first 3."),
-        kWidth.In(Unit::Count).Example("3")),
+        kWidth.In(Unit::Count).Span(1, 20, 1).Limit(0, 20).Example("3")),
     property<&BarChart::UseStyleSheets>(
         Setting(11, "Style sheets", "Style classes in the place of fonts and colours."), kSwitch),
     property<&BarChart::NegativeBars>(

@@ -233,6 +233,9 @@ struct ListInfo {
   std::string_view title;  ///< of one item: "Current loan"
   ShortList<std::string_view, 4> inputs;
   std::int32_t most = 0;  ///< items that a server lets in
+  /// A server lets in no item whose first input is more than so many times its second: a debt whose payment
+  /// makes a long schedule. 0: any.
+  std::int32_t mostPayments = 0;
 };
 
 /// One side of a comparison: a column of a grid (-1: its last).

@@ -114,7 +114,7 @@ constexpr auto kDescription = describe<SvgChart>(
         Setting(12, "Overlap step", "No effect: bars may be of any width."), kWidth.Example("3")),
     property<&SvgChart::MinimumOverlapCount>(
         Setting(13, "Overlap steps", "How many steps wide an overlapped bar is, 1 to 10, at first 3."),
-        kWidth.In(Unit::Count).Example("3")),
+        kWidth.In(Unit::Count).Span(1, 20, 1).Limit(0, 20).Example("3")),
     property<&SvgChart::TotalGraphFrameWidth>(
         Setting(14, "Frame width", "The least width of a picture with a frame, at first 462."),
         kPixels.Example("462")),

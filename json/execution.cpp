@@ -4,7 +4,6 @@
 #include <string>
 
 #include "amortix2/json/lookup.h"
-#include "amortix2/json/strangers.h"
 #include "amortix2/json/typed_value.h"
 
 namespace amortix2::json {
@@ -43,6 +42,13 @@ void Execution::ReadByName(const Fields& fields) {
   }
 }
 
+/// Of a stranger's call or setting, before it is carried out.
+void Execution::Check(const Invocation& call) {
+  CheckInputs(call, reading_);
+  AddInputs(call, size_);
+  CheckGiven(size_);
+}
+
 void Execution::Apply(const Fields& settings, Caller caller) {
   std::vector<const MemberInfo*> applied;
   for (const auto& [name, value] : settings) {
@@ -55,7 +61,7 @@ void Execution::Apply(const Fields& settings, Caller caller) {
     if (caller == Caller::Stranger) CheckOpenSetting(object_->Class(), member);
     Invocation setting(member);
     ReadSetting(value, setting);
-    if (caller == Caller::Stranger) CheckInputs(setting, reading_);
+    if (caller == Caller::Stranger) Check(setting);
     setting.Call(*object_);
     reading_ = {};
   }
@@ -73,7 +79,7 @@ void Execution::Run(const Request& request, const Clock& clock, Keep keep, Calle
   page_ = std::make_shared<CapturedPage>();
   StartPage(*object_, page_);
   ReadByName(request.arguments);
-  if (caller == Caller::Stranger) CheckInputs(*call_, reading_);
+  if (caller == Caller::Stranger) Check(*call_);
   if (keep == Keep::GivenToo) {
     for (const Value& argument : call_->Arguments()) {
       const Variant* variant = VariantIn(argument);

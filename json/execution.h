@@ -17,6 +17,7 @@
 #include "amortix2/json/captured_page.h"
 #include "amortix2/json/request.h"
 #include "amortix2/json/request_error.h"
+#include "amortix2/json/strangers.h"
 
 namespace amortix2::json {
 
@@ -74,6 +75,8 @@ class Execution {
   void Apply(const Fields& settings, Caller caller);
   void Run(const Request& request, const Clock& clock, Keep keep, Caller caller);
 
+  void Check(const Invocation& call);
+
   std::optional<Failure> error_;
   std::optional<Object> object_;
   std::optional<Invocation> call_;
@@ -83,6 +86,7 @@ class Execution {
   std::optional<Inputs> inputs_;
   std::vector<Variant> given_;
   std::shared_ptr<CapturedPage> page_;
+  GivenSize size_;  // of a stranger's inputs
 };
 
 }  // namespace amortix2::json

@@ -1,8 +1,11 @@
 #include "amortix2/json/strangers.h"
 
 #include <algorithm>
+#include <cmath>
+#include <span>
 #include <string>
 
+#include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
 #include "amortix2/component/call_values.h"
 #include "amortix2/json/reply_size.h"
@@ -29,12 +32,42 @@ void CheckLimit(const ParameterInfo& parameter, std::string_view shown, const Va
   }
 }
 
-void CheckItems(const MemberInfo& member, const ParameterInfo& parameter, const Variant& given) {
-  for (const ListInfo& list : member.lists) {
-    if (std::ranges::find(list.inputs, parameter.name) == list.inputs.end()) continue;
-    if (ElementsOf(given).size() <= static_cast<std::size_t>(list.most)) continue;
-    throw RequestError(ErrorNumber::InvalidProcedureCall, std::string(parameter.name) + " has more than " +
-                                                              std::to_string(list.most) + " elements");
+std::span<const Variant> ItemsOf(const Invocation& call, std::string_view input) {
+  const auto& parameters = call.Member().parameters;
+  const auto place = std::ranges::find(parameters, input, &ParameterInfo::name) - parameters.begin();
+  return ElementsOf(*static_cast<const Variant*>(call.Arguments()[static_cast<std::size_t>(place)].Get()));
+}
+
+void CheckList(const Invocation& call, const ListInfo& list, std::string_view& at) {
+  for (const std::string_view input : list.inputs) {
+    at = input;
+    if (ItemsOf(call, input).size() > static_cast<std::size_t>(list.most)) {
+      throw RequestError(ErrorNumber::InvalidProcedureCall,
+                         std::string(at) + " has more than " + std::to_string(list.most) + " elements");
+    }
+  }
+  if (list.mostPayments == 0) return;
+  const auto debts = ItemsOf(call, list.inputs.begin()[0]);
+  const auto payments = ItemsOf(call, at = list.inputs.begin()[1]);
+  for (std::size_t i = 0; i < std::min(debts.size(), payments.size()); ++i) {
+    const double payment = std::abs(NumericOrZero(payments[i]));
+    if (payment == 0 || std::abs(NumericOrZero(debts[i])) <= list.mostPayments * payment) continue;
+    throw RequestError(ErrorNumber::InvalidProcedureCall, std::string(at) + ": " + NumberText(payment) +
+                                                              " is too small: the debt is more than " +
+                                                              std::to_string(list.mostPayments) +
+                                                              " times as much");
+  }
+  at = {};
+}
+
+void Add(GivenSize& size, const Variant& value) {
+  if (value.Type() == VariantType::Array) {
+    for (const Variant& cell : value.GetArray().Cells()) Add(size, cell);
+    return;
+  }
+  ++size.cells;
+  if (value.Type() == VariantType::String) {
+    size.longestText = std::max(size.longestText, value.GetString().size());
   }
 }
 
@@ -54,15 +87,28 @@ void CheckInputs(const Invocation& call, std::string_view& at) {
   const bool isSetting = !at.empty();
   for (std::size_t i = 0; i < call.Arguments().size(); ++i) {
     const ParameterInfo& parameter = call.Member().parameters[i];
-    const bool isNumber = parameter.limit.IsGiven();  // nothing else has one, and lists are of numbers
+    const bool isNumber = parameter.limit.IsGiven();  // nothing else has one
     if (!parameter.IsInput() || !isNumber) continue;
     if (!isSetting) at = parameter.name;
-    WithVariant(*parameter.type, call.Arguments()[i].Get(), [&](const Variant& given) {
-      CheckLimit(parameter, at, given);
-      CheckItems(call.Member(), parameter, given);
-    });
+    WithVariant(*parameter.type, call.Arguments()[i].Get(),
+                [&](const Variant& given) { CheckLimit(parameter, at, given); });
     if (!isSetting) at = {};
   }
+  for (const ListInfo& list : call.Member().lists) CheckList(call, list, at);
+}
+
+void AddInputs(const Invocation& call, GivenSize& size) {
+  for (const Value& argument : call.Arguments()) {
+    if (argument.Type().kind == TypeKind::ScriptingContext) continue;
+    WithVariant(argument.Type(), argument.Get(), [&](const Variant& value) { Add(size, value); });
+  }
+}
+
+void CheckGiven(const GivenSize& size) {
+  if (size.longestText == 0 || size.cells <= kMostStrangersMarkup / size.longestText) return;
+  throw RequestError(ErrorNumber::InvalidProcedureCall,
+                     "a text is too long for so many cells: together they may have " +
+                         std::to_string(kMostStrangersMarkup) + " characters");
 }
 
 void CheckAnswer(const ReplySize& size) {

@@ -27,10 +27,22 @@ void CheckOpen(const ClassInfo& type, const MemberInfo& member);
 /// The same, and for a member that gives an answer of its own: a request has one.
 void CheckOpenSetting(const ClassInfo& type, const MemberInfo& member);
 
-/// Raises InvalidProcedureCall for an input, or an element of one, outside its limit, and for a list of more
-/// items than its member lets in. `at` receives the input's name, or stays as it is when it says already what
-/// is being set.
+/// Raises InvalidProcedureCall for an input, or an element of one, outside its limit, for a list of more
+/// items than its member lets in, and for a debt whose payments are too small. `at` receives the input's
+/// name, or stays as it is when it says already what is being set.
 void CheckInputs(const Invocation& call, std::string_view& at);
+
+/// What a request gives of which charts write much: a text may stand in the markup of every cell.
+struct GivenSize {
+  std::size_t cells = 0;
+  std::size_t longestText = 0;
+};
+inline constexpr std::size_t kMostStrangersMarkup = std::size_t{1} << 19;
+
+void AddInputs(const Invocation& call, GivenSize& size);
+
+/// Raises InvalidProcedureCall for cells that, with the longest text in each, exceed kMostStrangersMarkup.
+void CheckGiven(const GivenSize& size);
 
 /// Raises OutOfMemory for results of more cells than kMostStrangersCells, or of more bytes than
 /// kLongestStrangersReply however few digits they have: before they are written.

@@ -137,6 +137,15 @@ TEST(Json, StrangersAreKeptWithinLimits) {
     EXPECT_EQ(Answer(row[0], {.notes = true, .strangers = true}, kClock), row[1]) << row[0];
     EXPECT_NE(Answer(row[0], {.notes = true}, kClock), row[1]);
   }
+  // A text of 1000 characters in 525 cells has more than 2^19; the same in half of them is drawn.
+  const auto chart = [](std::size_t lines) {
+    std::string request = R"({"call":"SvgChart.AxisRange","with":{"Title":")" + std::string(1000, 'x');
+    request += R"("},"args":{"vColDat":[["","a"])";
+    for (std::size_t i = 1; i < lines; ++i) request += R"(,["",1])";
+    return Answer(request + "]}}", {.strangers = true}, kClock);
+  };
+  EXPECT_NE(chart(263).find("a text is too long for so many cells"), std::string::npos);
+  EXPECT_TRUE(chart(130).starts_with(R"({"results":{"vTop":)")) << chart(130);
 }
 
 TEST(Json, WhatAnAmortizationReturnsCanBeGivenAgain) {
