@@ -160,6 +160,7 @@ async function compareByKeyboard(page) {
   const [one, other] = [6, 5.5].map((vNewRate) => written(resultsOf(byAddress.refinance, { vNewRate }).vGrid[4][2], "currency"));
   expect(first.text.includes(one), `by keyboard: ${one} is not in the answer`);
   expect(both.text.includes(one) && both.text.includes(other), `by keyboard: ${one} and ${other} do not stand beside each other`);
+  await look(page, "two answers");
 }
 
 /** What was wrong is told, its link leads to the field, and the field says so to every reader. */
@@ -246,7 +247,7 @@ try {
   await checkPaper(page);
   await checkMarkup(page);
   const survey = "/invest?vInvAmount=10000&" + [..."DCDCC"].map((answer, i) => `vSurvey.${i + 1}=${answer}`).join("&");
-  const paths = process.env.AMORTIX2_ALL ? ["/", "/?q=loan", "/method", "/invest", ...members.map(({ address }) => `/${address}`)] : ["/", "/refinance"];
+  const paths = process.env.AMORTIX2_ALL ? ["/", "/?q=loan", "/method", "/invest", "/invest?vInvAmount=5", ...members.map(({ address }) => `/${address}`)] : ["/", "/refinance"];
   await lookAround(page, ["/chart", survey, ...paths]);
 } finally {
   await browser.close();
