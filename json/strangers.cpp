@@ -21,18 +21,21 @@ bool IsRecord(const ParameterInfo& parameter) { return parameter.type->record !=
                                                     " is not open to strangers: " + std::string(why));
 }
 
+[[noreturn]] void Refuse(const std::string& message) {
+  throw RequestError(ErrorNumber::InvalidProcedureCall, message);
+}
+
 void CheckLimit(const ParameterInfo& parameter, std::string_view shown, const Variant& given) {
   const Range& limit = parameter.limit;
   for (const Variant& element : ElementsOf(given)) {
     const double number = NumericOrZero(element);
-    if (!limit.IsGiven() || limit.Contains(number)) continue;
-    throw RequestError(ErrorNumber::InvalidProcedureCall, std::string(shown) + ": " + NumberText(number) +
-                                                              " lies outside " + NumberText(limit.least) +
-                                                              " to " + NumberText(limit.most));
+    if (limit.Contains(number)) continue;
+    Refuse(std::string(shown) + ": " + NumberText(number) + " lies outside " + NumberText(limit.least) +
+           " to " + NumberText(limit.most));
   }
 }
 
-std::span<const Variant> ItemsOf(const Invocation& call, std::string_view input) {
+std::span<const Variant> ListGiven(const Invocation& call, std::string_view input) {
   const auto& parameters = call.Member().parameters;
   const auto place = std::ranges::find(parameters, input, &ParameterInfo::name) - parameters.begin();
   return ElementsOf(*static_cast<const Variant*>(call.Arguments()[static_cast<std::size_t>(place)].Get()));
@@ -41,21 +44,18 @@ std::span<const Variant> ItemsOf(const Invocation& call, std::string_view input)
 void CheckList(const Invocation& call, const ListInfo& list, std::string_view& at) {
   for (const std::string_view input : list.inputs) {
     at = input;
-    if (ItemsOf(call, input).size() > static_cast<std::size_t>(list.most)) {
-      throw RequestError(ErrorNumber::InvalidProcedureCall,
-                         std::string(at) + " has more than " + std::to_string(list.most) + " elements");
+    if (ListGiven(call, input).size() > static_cast<std::size_t>(list.most)) {
+      Refuse(std::string(at) + " has more than " + std::to_string(list.most) + " elements");
     }
   }
   if (list.mostPayments == 0) return;
-  const auto debts = ItemsOf(call, list.inputs.begin()[0]);
-  const auto payments = ItemsOf(call, at = list.inputs.begin()[1]);
+  const auto debts = ListGiven(call, list.inputs.begin()[0]);
+  const auto payments = ListGiven(call, at = list.inputs.begin()[1]);
   for (std::size_t i = 0; i < std::min(debts.size(), payments.size()); ++i) {
     const double payment = std::abs(NumericOrZero(payments[i]));
     if (payment == 0 || std::abs(NumericOrZero(debts[i])) <= list.mostPayments * payment) continue;
-    throw RequestError(ErrorNumber::InvalidProcedureCall, std::string(at) + ": " + NumberText(payment) +
-                                                              " is too small: the debt is more than " +
-                                                              std::to_string(list.mostPayments) +
-                                                              " times as much");
+    Refuse(std::string(at) + ": " + NumberText(payment) + " is too small: the debt is more than " +
+           std::to_string(list.mostPayments) + " times as much");
   }
   at = {};
 }
@@ -106,9 +106,8 @@ void AddInputs(const Invocation& call, GivenSize& size) {
 
 void CheckGiven(const GivenSize& size) {
   if (size.longestText == 0 || size.cells <= kMostStrangersMarkup / size.longestText) return;
-  throw RequestError(ErrorNumber::InvalidProcedureCall,
-                     "a text is too long for so many cells: together they may have " +
-                         std::to_string(kMostStrangersMarkup) + " characters");
+  Refuse("a text is too long for so many cells: together they may have " +
+         std::to_string(kMostStrangersMarkup) + " characters");
 }
 
 void CheckAnswer(const ReplySize& size) {

@@ -103,11 +103,11 @@ class TreeBuilder {
 }  // namespace
 
 void TakeApart(Tree& tree) noexcept {
-  if (tree.is_object()) return TakeApart(tree.get_ref<Fields&>());
-  if (!tree.is_array()) return;
-  auto& items = tree.get_ref<Items&>();
-  for (Tree& item : items) TakeApart(item);
-  items.clear();
+  if (auto* const fields = tree.get_ptr<Fields*>()) return TakeApart(*fields);
+  auto* const items = tree.get_ptr<Items*>();
+  if (!items) return;
+  for (Tree& item : *items) TakeApart(item);
+  items->clear();
 }
 
 void TakeApart(Fields& fields) noexcept {

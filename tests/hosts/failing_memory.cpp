@@ -7,11 +7,11 @@
 
 extern "C" {
 
-// What the C library calls its own. NOLINTBEGIN(bugprone-reserved-identifier)
+// What the C library calls its own. NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming)
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* place, std::size_t size);
-// NOLINTEND(bugprone-reserved-identifier)
+// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
 
 static long count = 0;
 
@@ -24,8 +24,8 @@ static bool Fails() {
 }
 
 void* malloc(std::size_t size) { return Fails() ? nullptr : __libc_malloc(size); }
-void* calloc(std::size_t items, std::size_t size) { return Fails() ? nullptr : __libc_calloc(items, size); }
-void* realloc(void* place, std::size_t size) { return Fails() ? nullptr : __libc_realloc(place, size); }
+void* calloc(std::size_t nmemb, std::size_t size) { return Fails() ? nullptr : __libc_calloc(nmemb, size); }
+void* realloc(void* ptr, std::size_t size) { return Fails() ? nullptr : __libc_realloc(ptr, size); }
 
 [[gnu::destructor]] static void Tell() {
   const char* const name = std::getenv("FAIL_COUNT");
