@@ -291,8 +291,8 @@ TEST_F(PlainQuestions, WhatIsNotSaidIsZero) {
   check("HomeAffordabilityCalculator", {0, 0, 0, 0, 500, 12}, 7, [] {
     return ResultsOf(Solve(AffordabilityQuestion{.downPayment = 500, .months = 12, .startDate = kToday}));
   });
-  check("MortgageQualificationCalculator", {100, 0, 0, 0, 0, 0, 0, 0, 0, 12}, 11, [] {
-    return ResultsOf(Solve(QualificationQuestion{.annualIncome = 100, .months = 12, .startDate = kToday}));
+  check("MortgageQualificationCalculator", {36, 0, 0, 0, 0, 0, 0, 0, 0, 12}, 11, [] {
+    return ResultsOf(Solve(QualificationQuestion{.annualIncome = 36, .months = 12, .startDate = kToday}));
   });
   check("RefinancingCalculator", {1000, 100, 0, 0, 0, 0, 12}, 10, [&] {
     const RefinancingQuestion question{.current = loan, .proposed = {.months = 12}, .startDate = kToday};
