@@ -122,7 +122,8 @@ void AppendMonths(EscapedMarkup& out, const std::string& title, const Schedule& 
     const std::string name = std::to_string(year.year);
     out.Open("details");
     out.TextElement("summary", {}, name);
-    OpenTable(out, title + ", the payments of " + name);
+    std::string caption = title;
+    OpenTable(out, caption.append(", the payments of ").append(name));
     rows.Head(false);
     out.Open("tbody");
     for (std::int32_t line = year.first; line <= year.last; ++line) rows.Line(line);
