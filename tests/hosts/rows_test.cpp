@@ -140,10 +140,10 @@ TEST_F(Program, NeitherThreadsNorCutsOfRowsChangeAByte) {
   for (int part = 2; part >= 0; --part) {
     const std::string some = Joined(loans, cuts[part], cuts[part + 1]);
     const std::string text = output(answers, some);
-    parts = text.substr(text.find('\n') + 1) + parts;
+    parts.insert(0, text.substr(text.find('\n') + 1));
     const std::string name = "sum" + std::to_string(part);
     std::ofstream(Path(name.c_str()), std::ios::binary) << output(sums, some);
-    merge += " '" + Path(name.c_str()) + "'";
+    merge.append(" '").append(Path(name.c_str())).append("'");
   }
   EXPECT_EQ(answered.substr(answered.find('\n') + 1), parts);
   EXPECT_EQ(Run(merge), 0);
@@ -161,7 +161,7 @@ TEST_F(Program, SumsBeyond64BitsAreExactAndWhatIsTooLargeLeavesThem) {
   std::string merge = "rows --merge";
   for (int i = 0; i < 50; ++i) {
     all += loans + "30000000000000,2\n";
-    merge += " '" + Path("hundred") + "'";
+    merge.append(" '").append(Path("hundred")).append("'");
   }
   ASSERT_EQ(Run(sum, all), kRowsFailed + 50);
   const std::string sums = Read("out");
