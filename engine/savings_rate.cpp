@@ -51,8 +51,14 @@ class SavingsTrials {
     if (AfterTaxFraction(save) == 0) TakeLinesOnce();
   }
 
-  /// False when all interest goes in taxes, so that no rate changes the balance.
-  bool DependOnRate() const { return AfterTaxFraction(save_) != 0 || periods_.days != 0; }
+  /// False when no rate raises the balance above the one without interest: all interest goes in taxes, or
+  /// it is simple interest on a debt that is still one without it.
+  bool CanRiseAbove(const Point& still) const {
+    const double kept = AfterTaxFraction(save_);
+    const bool isDebt = CompoundingMode(save_) == exactDaysMode && save_.startingBalance < 0 && kept > 0 &&
+                        still.balance <= 0;
+    return !isDebt && (kept != 0 || periods_.days != 0);
+  }
 
   double AnnualPercent(double factor) const { return (factor - 1) * scale_; }
 
@@ -192,7 +198,7 @@ SavingsRate FindSavingsRate(const tSavingsDesc& save) {
     return trials.Passes(lost) ? SavingsRate{} : SearchBetween(trials, lost, still, goal);
   }
   const double first = trials.FirstDistance();
-  if (!trials.DependOnRate()) return {};
+  if (!trials.CanRiseAbove(still)) return {};
   for (double distance = first;; distance *= 2) {
     const double factor = 1 + distance;
     if (!std::isfinite(trials.AnnualPercent(factor))) return {};
