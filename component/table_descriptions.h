@@ -9,9 +9,12 @@ namespace amortix2::describing {
 // ---- Schedules: a row for each payment or deposit, row 0 the state at the start.
 
 inline constexpr HeadingInfo kLoanColumns[] = {
-    {"Date", Unit::Date, Yearly::Last},         {"Payment", Unit::Currency, Yearly::Sum},
-    {"Principal", Unit::Currency, Yearly::Sum}, {"Interest", Unit::Currency, Yearly::Sum, Better::Neither, true},
-    {"Balance", Unit::Currency, Yearly::Last},  {"Rate", Unit::AnnualPercent, Yearly::Last},
+    {"Date", Unit::Date, Yearly::Last},
+    {"Payment", Unit::Currency, Yearly::Sum},
+    {"Principal", Unit::Currency, Yearly::Sum},
+    {"Interest", Unit::Currency, Yearly::Sum, Better::Neither, true},
+    {"Balance", Unit::Currency, Yearly::Last},
+    {"Rate", Unit::AnnualPercent, Yearly::Last},
 };
 constexpr TableInfo Schedule(std::span<const HeadingInfo> columns) {
   return {.title = "Schedule", .columns = columns, .opensWithRowZero = true};
@@ -29,15 +32,19 @@ inline constexpr HeadingInfo kRentColumns[] = {
 inline constexpr TableInfo kRentSchedule = Schedule(kRentColumns);
 
 inline constexpr HeadingInfo kSavingsColumns[] = {
-    {"Date", Unit::Date, Yearly::Last},        {"Deposit", Unit::Currency, Yearly::Sum},
-    {"Interest", Unit::Currency, Yearly::Sum, Better::Neither, true}, {"Growth", Unit::Currency, Yearly::Sum},
+    {"Date", Unit::Date, Yearly::Last},
+    {"Deposit", Unit::Currency, Yearly::Sum},
+    {"Interest", Unit::Currency, Yearly::Sum, Better::Neither, true},
+    {"Growth", Unit::Currency, Yearly::Sum},
     {"Balance", Unit::Currency, Yearly::Last},
 };
 inline constexpr TableInfo kSavingsSchedule = Schedule(kSavingsColumns);
 
 inline constexpr HeadingInfo kSpendingColumns[] = {
-    {"Date", Unit::Date, Yearly::Last},        {"Withdrawal (negative)", Unit::Currency, Yearly::Sum},
-    {"Interest", Unit::Currency, Yearly::Sum, Better::Neither, true}, {"Growth", Unit::Currency, Yearly::Sum},
+    {"Date", Unit::Date, Yearly::Last},
+    {"Withdrawal (negative)", Unit::Currency, Yearly::Sum},
+    {"Interest", Unit::Currency, Yearly::Sum, Better::Neither, true},
+    {"Growth", Unit::Currency, Yearly::Sum},
     {"Balance", Unit::Currency, Yearly::Last},
 };
 inline constexpr TableInfo kSpendingSchedule = Schedule(kSpendingColumns);
