@@ -35,6 +35,15 @@ ParsedTree ParseTree(std::string_view text);
 void TakeApart(Tree& tree) noexcept;
 void TakeApart(Fields& fields) noexcept;
 
+/// Fields that end so.
+class OwnFields : public Fields {
+ public:
+  OwnFields() = default;
+  OwnFields(const OwnFields&) = delete;
+  OwnFields& operator=(const OwnFields&) = delete;
+  ~OwnFields() { TakeApart(*this); }
+};
+
 // What a value holds; null when it is of another kind.
 inline const bool* BooleanOf(const Tree& tree) { return tree.get_ptr<const bool*>(); }
 inline const std::int64_t* IntegerOf(const Tree& tree) { return tree.get_ptr<const std::int64_t*>(); }

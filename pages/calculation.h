@@ -62,7 +62,7 @@ class Calculation {
 
   ClassMember member_;
   const FindInfo* find_ = nullptr;
-  json::Fields arguments_;
+  json::OwnFields arguments_;
   std::vector<FieldError> errors_;
   std::optional<json::Execution> execution_;
 };

@@ -51,14 +51,13 @@ class TerminalWriter {
   }
   void operator()(const Grid& grid) {
     Separate();
-    std::vector<std::vector<TextCell>> rows;
-    for (const auto& cells : grid.rows) {
-      std::vector<TextCell>& row = rows.emplace_back();
-      row.push_back({"  "});
-      for (const std::string& cell : cells)
-        row.push_back({cell, row.size() == 1 ? Align::Left : Align::Right});
-    }
-    AppendRows(out_, rows);
+    AppendRows(out_, grid.rows.size(), [&](std::size_t row) {
+      std::vector<TextCell> cells{{"  "}};
+      for (const std::string& cell : grid.rows[row]) {
+        cells.push_back({cell, cells.size() == 1 ? Align::Left : Align::Right});
+      }
+      return cells;
+    });
   }
   std::string Take() { return std::move(out_); }
 

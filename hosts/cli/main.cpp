@@ -39,18 +39,9 @@ json::Options ReplyOptions(const CommandLine& line) {
 }
 
 /// The arguments and the settings of a call, as a person gave them.
-class Given {
- public:
-  Given() = default;
-  Given(const Given&) = delete;
-  Given& operator=(const Given&) = delete;
-  ~Given() {
-    json::TakeApart(arguments);
-    json::TakeApart(settings);
-  }
-
-  json::Fields arguments{};
-  json::Fields settings{};
+struct Given {
+  json::OwnFields arguments;
+  json::OwnFields settings;
 };
 
 void ReadGiven(const CommandLine& line, const json::Target& target, Given& given) {

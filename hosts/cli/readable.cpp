@@ -42,18 +42,14 @@ std::string About(const Line& line) {
 
 /// A text may be long and is its own meaning, so that nothing stands behind it.
 void AppendLines(std::string& out, const std::vector<Line>& lines) {
-  std::vector<std::vector<TextCell>> rows;
-  for (const Line& line : lines) {
-    auto& row = rows.emplace_back();
-    row.push_back({std::string(line.name)});
+  AppendRows(out, lines.size(), [&](std::size_t row) {
+    const Line& line = lines[row];
+    const TextCell name{std::string(line.name)};
     if (line.value.Type() == VariantType::String) {
-      row.push_back({json::PlainText(line.value), Align::Free});
-    } else {
-      row.push_back({json::PlainText(line.value, line.unit), Align::Right});
-      row.push_back({About(line)});
+      return std::vector<TextCell>{name, {json::PlainText(line.value), Align::Free}};
     }
-  }
-  AppendRows(out, rows);
+    return std::vector<TextCell>{name, {json::PlainText(line.value, line.unit), Align::Right}, {About(line)}};
+  });
 }
 
 /// What a block shows: a name, and what that is.
@@ -150,18 +146,17 @@ class Answer {
     lines_.push_back({info.name, std::move(single), info.unit, info.title, value.Type().enumeration});
   }
 
-  std::string Text(const std::string& sentence) const {
+  /// Leaves nothing behind.
+  std::string Take(const std::string& sentence) {
     std::string out = sentence.empty() ? "" : sentence + "\n";
     const auto separate = [&] { out += out.empty() ? "" : "\n"; };
     if (!lines_.empty()) {
       separate();
       AppendLines(out, lines_);
     }
-    if (!blocks_.empty()) {
-      separate();
-      out += blocks_;
-    }
-    return out;
+    if (!blocks_.empty()) separate();
+    // The blocks may be large: they are moved, and what stands before them is put there.
+    return std::move(blocks_.insert(0, out));
   }
 
  private:
@@ -205,7 +200,7 @@ std::string ReadableAnswer(const json::Execution& execution, const Shown& shown)
   if (call.Result() && execution.Wants("return")) answer.Add(result, *call.Result());
 
   const bool isWhole = shown.sentence;
-  std::string out = answer.Text(
+  std::string out = answer.Take(
       isWhole ? AnswerSentence(*execution.Given(), Results(call.Member(), call.Arguments())) : std::string());
   const std::size_t bytes = execution.Response().size();
   if (bytes > 0 && execution.Wants("response") && shown.elsewhere != "response") {

@@ -40,41 +40,64 @@ std::vector<std::optional<std::int64_t>> ShownRows(Bounds bounds, Rows rows) {
 
 using ShownRow = std::optional<std::int64_t>;
 
-/// Appends a cell to each row, the first of which is the header.
-void AddColumn(std::vector<std::vector<TextCell>>& lines, const json::ResultTable& table, std::size_t column,
-               const std::vector<ShownRow>& shown) {
-  std::size_t decimals = 0;
+/// How a column's cells stand.
+struct Column {
   Align align = Align::Right;
+  std::size_t decimals = 0;
+};
+
+Column LookAt(const json::ResultTable& table, std::size_t column, const std::vector<ShownRow>& shown) {
+  Column look;
   for (const ShownRow& row : shown) {
     if (!row) continue;
     const Variant value = table.cell(*row, column);
-    decimals = std::max(decimals, Decimals(value));
-    if (!json::IsNumber(value.Type()) && IsGiven(value)) align = Align::Left;
+    look.decimals = std::max(look.decimals, Decimals(value));
+    if (!json::IsNumber(value.Type()) && IsGiven(value)) look.align = Align::Left;
   }
-  lines.front().push_back({table.columns[column], align});
-  for (std::size_t i = 0; i < shown.size(); ++i) {
-    if (!shown[i]) continue;
-    const Unit unit = table.unit(*shown[i], column);
+  return look;
+}
+
+TextCell Head(const json::ResultTable& table, std::int64_t row) {
+  if (table.rowTitles.empty()) return {std::to_string(row), Align::Right};
+  return {table.rowTitles[static_cast<std::size_t>(row - table.rows.lower)]};
+}
+
+std::vector<TextCell> TextsOf(const json::ResultTable& table, const std::vector<Column>& columns,
+                              const ShownRow& row) {
+  if (!row) return {{"..."}};
+  std::vector<TextCell> cells{Head(table, *row)};
+  for (std::size_t column = 0; column < columns.size(); ++column) {
+    const Unit unit = table.unit(*row, column);
     // Where units differ by the row, each number has the decimals of its own.
-    const bool isPlain = unit == Unit::None;
-    lines[i + 1].push_back(
-        {json::PlainText(table.cell(*shown[i], column), unit, isPlain ? decimals : 0), align});
+    const std::size_t decimals = unit == Unit::None ? columns[column].decimals : 0;
+    cells.push_back({json::PlainText(table.cell(*row, column), unit, decimals), columns[column].align});
   }
+  return cells;
+}
+
+std::vector<TextCell> TitlesOf(const json::ResultTable& table, const std::vector<Column>& columns) {
+  std::vector<TextCell> cells(1);
+  for (std::size_t column = 0; column < columns.size(); ++column) {
+    cells.push_back({table.columns[column], columns[column].align});
+  }
+  return cells;
 }
 
 }  // namespace
 
-void AppendRows(std::string& out, const std::vector<std::vector<TextCell>>& rows) {
+void AppendRows(std::string& out, std::size_t count, const RowAt& rowAt) {
   std::vector<std::size_t> widths;
-  for (const auto& row : rows) {
-    widths.resize(std::max(widths.size(), row.size()));
-    for (std::size_t i = 0; i < row.size(); ++i) {
-      if (row[i].align != Align::Free) widths[i] = std::max(widths[i], Width(row[i].text));
+  for (std::size_t row = 0; row < count; ++row) {
+    const std::vector<TextCell> cells = rowAt(row);
+    widths.resize(std::max(widths.size(), cells.size()));
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+      if (cells[i].align != Align::Free) widths[i] = std::max(widths[i], Width(cells[i].text));
     }
   }
-  for (const auto& row : rows) {
-    for (std::size_t i = 0; i < row.size(); ++i) {
-      const auto& [text, align] = row[i];
+  for (std::size_t row = 0; row < count; ++row) {
+    const std::vector<TextCell> cells = rowAt(row);
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+      const auto& [text, align] = cells[i];
       const std::size_t blanks = widths[i] - std::min(widths[i], Width(text));
       if (i > 0) out += "  ";
       if (align == Align::Right) out.append(blanks, ' ');
@@ -88,21 +111,14 @@ void AppendRows(std::string& out, const std::vector<std::vector<TextCell>>& rows
 
 void AppendTable(std::string& out, const json::ResultTable& table, Rows rows) {
   const std::vector<ShownRow> shown = ShownRows(table.rows, rows);
-  std::vector<std::vector<TextCell>> lines{{{}}};
-  for (const ShownRow& row : shown) {
-    if (!row) {
-      lines.push_back({{"..."}});
-    } else if (table.rowTitles.empty()) {
-      lines.push_back({{std::to_string(*row), Align::Right}});
-    } else {
-      lines.push_back({{table.rowTitles[static_cast<std::size_t>(*row - table.rows.lower)]}});
-    }
-  }
+  std::vector<Column> columns;
   for (std::size_t column = 0; column < table.columns.size(); ++column) {
-    AddColumn(lines, table, column, shown);
+    columns.push_back(LookAt(table, column, shown));
   }
-  if (std::ranges::all_of(table.columns, &std::string::empty)) lines.erase(lines.begin());
-  AppendRows(out, lines);
+  const std::size_t titles = std::ranges::all_of(table.columns, &std::string::empty) ? 0 : 1;
+  AppendRows(out, titles + shown.size(), [&](std::size_t row) {
+    return row < titles ? TitlesOf(table, columns) : TextsOf(table, columns, shown[row - titles]);
+  });
 }
 
 }  // namespace amortix2::cli

@@ -2,6 +2,8 @@
 
 // Tables for a person to read, aligned by blanks.
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,8 +22,12 @@ struct TextCell {
   Align align = Align::Left;
 };
 
+/// A row's cells. It is asked twice for each row, once for the columns' widths, so that no large table stands
+/// in memory as texts.
+using RowAt = std::function<std::vector<TextCell>(std::size_t row)>;
+
 /// Appends rows, one a line, in columns that stand two blanks apart.
-void AppendRows(std::string& out, const std::vector<std::vector<TextCell>>& rows);
+void AppendRows(std::string& out, std::size_t count, const RowAt& rowAt);
 
 enum class Rows {
   All,
