@@ -4,7 +4,7 @@ in the numbers that the guide promises.
 
   server_test.py PROGRAM
 """
-import os, re, resource, signal, socket, subprocess, sys, threading, time
+import os, re, resource, select, signal, socket, subprocess, sys, threading, time
 
 ALL = os.environ.get("AMORTIX2_ALL") == "1"
 IDLE, DRIPPING, MIXED = (10000, 600, 100000) if ALL else (300, 60, 0)
@@ -204,6 +204,13 @@ def keeps_to_its_other_limits():
     check([read_all(client) for client in clients] == [b""] * 3, "idle clients are answered")
     check(server.ask(b"GET / HTTP/1.0\r\n\r\n")[9:12] == b"503", "more bytes than may wait")
     check(server.serves() and server.stop() == 0, "after all limits")
+    server = Server("--write-time", "1")
+    with server.connect() as client:
+        client.sendall((b"GET /loan HTTP/1.1\r\n" + HOST + b"\r\n") * 400)
+        ended = select.poll()
+        ended.register(client, 0)
+        check(ended.poll(30000), "a client that takes no answer is kept")
+    check(server.serves() and server.stop() == 0, "after a client that took no answer")
 
 
 def stays_small(server):
