@@ -13,7 +13,7 @@ namespace amortix2 {
 namespace {
 
 /// 128 bits: room for the product of an amount and all bits of a double.
-__extension__ typedef __int128 WideInteger;  // NOLINT(modernize-use-using): only thus -Wpedantic lets it pass
+__extension__ typedef __int128 WideInteger;  // only thus -Wpedantic lets it pass
 
 /// floor(scale * x + 1/2) / scale from the bits of x, in whole numbers.
 double RoundExactly(double x, int scale) {
