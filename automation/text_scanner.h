@@ -15,6 +15,13 @@ constexpr char ToLower(char c) noexcept {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
+/// Without blanks at either end.
+constexpr std::string_view Trimmed(std::string_view text) noexcept {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
 class TextScanner {
  public:
   explicit constexpr TextScanner(std::string_view text) noexcept : rest_(text) {}

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 
 #include "amortix2/automation/array.h"
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/text_scanner.h"
 #include "amortix2/charts/page_text.h"
 
 namespace amortix2 {
@@ -31,8 +33,7 @@ constexpr Scheme kDark{
     "#a8b1bb", "#353b43",
     "#a8b1bb", {"#60a3f6", "#fecdb3", "#0b9169", "#feabf6", "#dd6e68", "#a1fafe", "#7260bd", "#b7b941"}};
 
-bool IsHexDigit(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool IsHexDigit(char c) { return IsDigit(c) || (ToLower(c) >= 'a' && ToLower(c) <= 'f'); }
 
 std::string HexByte(int value) {
   constexpr std::string_view kDigits = "0123456789abcdef";
@@ -127,7 +128,15 @@ std::string StyleSheet(std::string_view id, const GivenColours& given, std::size
   return rules.Release();
 }
 
-std::string_view SeriesColour(std::size_t series) { return kLight.series[series % kSeriesColours]; }
+Rgb SeriesColour(std::size_t series) {
+  const Colour colour = kLight.series[series % kSeriesColours];  // "#08529e"
+  Rgb parts{};
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    const char* const digits = colour.data() + 1 + 2 * i;
+    std::from_chars(digits, digits + 2, parts[i], 16);
+  }
+  return parts;
+}
 
 std::string SeriesClass(std::size_t series) { return "chart-series" + std::to_string(series + 1); }
 

@@ -5,7 +5,9 @@
 // neighbouring series differ in lightness, so that they stay apart in grey. A reader's preference chooses
 // between the sets. Colours that a page gives are used in both.
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -39,8 +41,10 @@ GivenColours ReadPaletteColours(const Variant& palette, std::size_t series);
 /// The style sheet of one chart, whose rules reach only the element `id`.
 std::string StyleSheet(std::string_view id, const GivenColours& given, std::size_t series);
 
-/// A series' own colour, from 0, on white paper ("#08529e").
-std::string_view SeriesColour(std::size_t series);
+using Rgb = std::array<std::uint8_t, 3>;  ///< red, green, blue
+
+/// A series' own colour, from 0, on white paper.
+Rgb SeriesColour(std::size_t series);
 
 /// The class of a series, from 0, in that style sheet ("chart-series1").
 std::string SeriesClass(std::size_t series);

@@ -47,6 +47,12 @@ constexpr bool IsNumber(Unit unit) {
          unit != Unit::List;
 }
 
+constexpr bool IsMoney(Unit unit) { return unit == Unit::Currency || unit == Unit::MonthlyCurrency; }
+
+constexpr bool IsPercent(Unit unit) {
+  return unit == Unit::Percent || unit == Unit::AnnualPercent || unit == Unit::PercentagePoints;
+}
+
 /// What a member is about, in the order in which a person looks through them.
 enum class Group : std::uint8_t {
   Loans,
@@ -177,8 +183,8 @@ struct TableInfo {
   std::span<const HeadingInfo> columns{};  ///< from firstColumn on; none: a list of one dimension, or an axis
   std::span<const HeadingInfo> rows{};     ///< from firstRow on; none: a row for each line, or an axis
   Unit unit = Unit::None;
-  bool opensWithRowZero = false;  ///< row 0 is the state at the start, before the first line
-  bool repeats = false;  ///< the columns stand again for each further item of the member's list of inputs
+  bool isSchedule = false;  ///< a line each period; row 0 is the state at the start, before the first one
+  bool repeats = false;     ///< the columns stand again for each further item of the member's list of inputs
   const AxisInfo* rowAxis = nullptr;
   const AxisInfo* columnAxis = nullptr;
 };

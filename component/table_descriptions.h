@@ -17,13 +17,13 @@ inline constexpr HeadingInfo kLoanColumns[] = {
     {"Rate", Unit::AnnualPercent, Yearly::Last},
 };
 constexpr TableInfo Schedule(std::span<const HeadingInfo> columns) {
-  return {.title = "Schedule", .columns = columns, .opensWithRowZero = true};
+  return {.title = "Schedule", .columns = columns, .isSchedule = true};
 }
 inline constexpr TableInfo kLoanSchedule = Schedule(std::span(kLoanColumns).first(5));
 inline constexpr TableInfo kLoanScheduleWithRate = Schedule(kLoanColumns);
 /// The schedules of several loans side by side, each with its rate.
 inline constexpr TableInfo kSchedulesSideBySide{
-    .title = "Schedules", .columns = kLoanColumns, .opensWithRowZero = true, .repeats = true};
+    .title = "Schedules", .columns = kLoanColumns, .isSchedule = true, .repeats = true};
 
 inline constexpr HeadingInfo kRentColumns[] = {
     {"Date", Unit::Date, Yearly::Last}, {"Rent", Unit::Currency, Yearly::Sum}, {"Principal", Unit::Currency},

@@ -104,7 +104,7 @@ std::string Reply(const Execution& execution, const Tree* id, const Options& opt
   return reply;
 }
 
-std::string_view Trimmed(std::string_view text) noexcept {
+std::string_view WithoutLineEnd(std::string_view text) noexcept {
   const std::size_t last = text.find_last_not_of(" \t\r");
   return text.substr(0, last == std::string_view::npos ? 0 : last + 1);
 }
@@ -125,7 +125,7 @@ Tree ParseRequest(std::string_view text, std::size_t longest) {
   if (text.size() > longest) {
     throw RequestError("the line is longer than " + std::to_string(longest) + " bytes");
   }
-  text = Trimmed(text);
+  text = WithoutLineEnd(text);
   if (text.empty()) throw RequestError("the line is empty");
   auto [tree, badByte] = ParseTree(text);
   if (!tree) throw RequestError("the line is no JSON: byte " + std::to_string(badByte) + " does not fit");

@@ -1,6 +1,6 @@
 #include "amortix2/pages/answer_charts.h"
 
-#include <charconv>
+#include <cstdint>
 #include <memory>
 
 #include "amortix2/automation/array.h"
@@ -10,6 +10,7 @@
 #include "amortix2/json/captured_page.h"
 #include "amortix2/json/request_error.h"
 #include "amortix2/pages/chart_numbers.h"
+#include "amortix2/pages/frame.h"
 
 namespace amortix2::pages {
 namespace {
@@ -18,18 +19,14 @@ namespace {
 constexpr double kHeight = 230;
 constexpr double kWidth = 360;
 
-bool IsPercent(Unit unit) {
-  return unit == Unit::Percent || unit == Unit::AnnualPercent || unit == Unit::PercentagePoints;
-}
-
 std::string_view FormatOf(Unit unit) {
   if (IsPercent(unit)) return "0.00";
-  return unit == Unit::Currency || unit == Unit::MonthlyCurrency ? "$#,##0.00" : "#,##0.##";
+  return IsMoney(unit) ? "$#,##0.00" : "#,##0.##";
 }
 
 std::string_view CaptionOf(Unit unit) {
   if (IsPercent(unit)) return "Percent";
-  return unit == Unit::Currency || unit == Unit::MonthlyCurrency ? "Dollars" : "";
+  return IsMoney(unit) ? "Dollars" : "";
 }
 
 std::int32_t SeriesIn(const ChartNumbers& numbers) { return numbers.table.GetArray().Dimension(2).upper; }
@@ -67,19 +64,10 @@ std::string GifAddress(const Query& query, std::size_t number) {
   return "?" + gif.Text();
 }
 
-void AppendFigure(EscapedMarkup& out, const ChartInfo& chart, const Drawing& drawing,
-                  const std::string& gifAddress) {
+void AppendDrawing(EscapedMarkup& out, const ChartInfo& chart, const Drawing& drawing,
+                   const std::string& gifAddress) {
   out.Open("figure", {{"class", "chart"}});
-  out.TextElement("figcaption", {}, chart.title);
-  out.Open("div", {{"aria-hidden", "true"}});
-  out.AppendMarkup(drawing.picture.GetString());
-  out.Close();
-  out.Open("details");
-  out.TextElement("summary", {}, "The chart's numbers");
-  out.Open("div", {{"class", "scroll"}, {"tabindex", 0}, {"role", "region"}, {"aria-label", chart.title}});
-  out.AppendMarkup(drawing.table.GetString());
-  out.Close();
-  out.Close();
+  AppendFigure(out, chart.title, drawing.picture.GetString(), drawing.table.GetString());
   out.Open("p", {{"class", "download"}});
   const std::string name = "GIF image of \"" + std::string(chart.title) + "\"";
   out.TextElement("a", {{"href", gifAddress}, {"download", "chart.gif"}, {"aria-label", name}}, "GIF image");
@@ -93,12 +81,9 @@ Variant GifPalette(std::int32_t series) {
   Array palette({0, kColours - 1}, {0, 2});
   for (Variant& component : palette.Cells()) component = std::int32_t{255};
   for (std::int32_t line = 1; line <= series; ++line) {
-    const std::string_view colour = SeriesColour(static_cast<std::size_t>(line) - 1);  // "#08529e"
-    for (std::int32_t i = 0; i < 3; ++i) {
-      const std::string_view digits = colour.substr(1 + 2 * static_cast<std::size_t>(i), 2);
-      std::int32_t component = 0;
-      std::from_chars(digits.data(), digits.data() + digits.size(), component, 16);
-      palette.At(line, i) = component;
+    std::int32_t column = 0;
+    for (const std::uint8_t part : SeriesColour(static_cast<std::size_t>(line) - 1)) {
+      palette.At(line, column++) = std::int32_t{part};
     }
   }
   return palette;
@@ -115,7 +100,7 @@ void AppendCharts(EscapedMarkup& out, const Calculation& calculation, const Quer
     // Amounts too large to draw leave the figures and the schedule as they are.
     std::optional<Drawing> drawing;
     if (!json::Try([&] { drawing = Draw(chart, numbers); })) {
-      AppendFigure(out, chart, *drawing, GifAddress(query, number));
+      AppendDrawing(out, chart, *drawing, GifAddress(query, number));
     }
   }
 }

@@ -8,6 +8,8 @@
 #include "amortix2/pages/answer_charts.h"
 #include "amortix2/pages/downloads.h"
 #include "amortix2/pages/figure_text.h"
+#include "amortix2/pages/figures.h"
+#include "amortix2/pages/frame.h"
 #include "amortix2/pages/horizons.h"
 #include "amortix2/pages/schedule.h"
 #include "amortix2/pages/two_answers.h"
@@ -30,8 +32,6 @@ std::vector<ResultArray> Arrays(const Calculation& calculation) {
   }
   return arrays;
 }
-
-bool IsSchedule(const ParameterInfo& parameter) { return parameter.table->opensWithRowZero; }
 
 /// The inputs, for paper, where there is no form.
 void AppendAsked(EscapedMarkup& out, const Calculation& calculation) {
@@ -88,7 +88,7 @@ void AppendNotes(EscapedMarkup& out, const std::vector<Note>& notes) {
 void AppendGrids(EscapedMarkup& out, const Calculation& calculation, const std::vector<ResultArray>& arrays,
                  Marks marks) {
   for (const auto& [parameter, array] : arrays) {
-    if (IsSchedule(parameter) || array.Rank() == 1) continue;
+    if (parameter.table->isSchedule || array.Rank() == 1) continue;
     AppendGrid(out, calculation.In(), parameter, array, marks);
   }
 }
@@ -97,9 +97,9 @@ void AppendGrids(EscapedMarkup& out, const Calculation& calculation, const std::
 void AppendSchedules(EscapedMarkup& out, const Calculation& calculation,
                      const std::vector<ResultArray>& arrays) {
   std::size_t count = 0;
-  for (const auto& [parameter, array] : arrays) count += IsSchedule(parameter) ? 1 : 0;
+  for (const auto& [parameter, array] : arrays) count += parameter.table->isSchedule ? 1 : 0;
   for (const auto& [parameter, array] : arrays) {
-    if (!IsSchedule(parameter)) continue;
+    if (!parameter.table->isSchedule) continue;
     out.Open("details", {{"class", "card schedule"}, Attribute::If(count == 1, {"open", ""})});
     out.Open("summary");
     out.TextElement("h2", {}, parameter.title);
@@ -128,7 +128,7 @@ void AppendTakeAlong(EscapedMarkup& out, const Calculation& calculation, const Q
   out.Open("ul", {{"class", "along"}});
   const auto link = [&](const std::string& address, std::string_view text) {
     out.Open("li");
-    out.TextElement("a", {{"href", address}}, text);
+    AppendLink(out, address, text);
     out.Close();
   };
   link(path + own.Text() + "#answer", "Link to this answer");

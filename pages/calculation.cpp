@@ -25,8 +25,7 @@ bool IsZero(const json::Fields& arguments, std::string_view name) {
 /// As a person would type an example's value: an amount with its thousands parted.
 std::string TypedText(const ParameterInfo& parameter, std::string_view value) {
   static const NumberPattern kMoney("#,##0.##");
-  const bool isMoney = parameter.unit == Unit::Currency || parameter.unit == Unit::MonthlyCurrency;
-  const auto number = isMoney ? ParseNumber(value) : std::nullopt;
+  const auto number = IsMoney(parameter.unit) ? ParseNumber(value) : std::nullopt;
   if (!number) return std::string(value);
   std::string text = kMoney.Format(*number);
   if (text.ends_with('.')) text.pop_back();

@@ -2,19 +2,14 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
+#include "amortix2/pages/form_field.h"
+#include "amortix2/pages/frame.h"
 #include "amortix2/pages/typed_input.h"
 
 namespace amortix2::pages {
 namespace {
-
-/// A field's place on the page.
-struct Field {
-  const ParameterInfo& parameter;
-  std::string id;
-  std::string_view text;  ///< as it was typed
-  std::size_t item = 0;
-};
 
 std::string_view UnitSign(Unit unit) {
   switch (unit) {
@@ -93,15 +88,8 @@ class FormWriter {
     out_.Open("fieldset", {{"class", "find"}});
     out_.TextElement("legend", {}, "What do you want to find?");
     for (const FindInfo& find : calculation_.Member().finds) {
-      const std::string id = "find-" + std::string(find.input);
-      out_.Open("label", {{"for", id}});
-      out_.Leaf("input", {{"type", "radio"},
-                          {"name", "find"},
-                          {"id", id},
-                          {"value", find.input},
-                          Attribute::If(&find == calculation_.Find(), {"checked", ""})});
-      out_.TextElement("span", {}, FindParameter(calculation_.Member(), find.input)->title);
-      out_.Close();
+      AppendRadio("find", "find-", find.input, FindParameter(calculation_.Member(), find.input)->title,
+                  &find == calculation_.Find());
     }
     out_.Close();
   }
@@ -111,44 +99,44 @@ class FormWriter {
     for (std::size_t i = 0; i < parameter.questions.size(); ++i) {
       const QuestionInfo& question = parameter.questions[i];
       const std::string id = std::string(parameter.name) + "." + std::to_string(i + 1);
-      const Field field{parameter, id, query_.Get(id), i};
-      const std::string error = ErrorOf(field) ? id + "-error" : std::string();
+      const std::string_view error = ErrorOf(parameter, i);
+      const std::string errorId = id + "-error";
       out_.Open("fieldset", {{"class", "find"},
                              {"id", id},
                              {"tabindex", -1},
-                             Attribute::If(!error.empty(), {"aria-describedby", error})});
+                             Attribute::If(!error.empty(), {"aria-describedby", errorId})});
       out_.TextElement("legend", {}, question.text);
-      for (const ChoiceInfo& answer : question.answers) AppendAnswer(field, answer);
-      AppendError(field);
+      const std::string_view chosen = query_.Get(id);
+      for (const ChoiceInfo& answer : question.answers) {
+        AppendRadio(id, id + ".", answer.text, answer.title, answer.text == chosen);
+      }
+      if (!error.empty()) out_.TextElement("p", {{"class", "error"}, {"id", errorId}}, error);
       out_.Close();
     }
   }
 
-  void AppendAnswer(const Field& field, const ChoiceInfo& answer) {
-    const std::string id = field.id + "." + std::string(answer.text);
+  /// One of the choices of a name, whose id is `before` and its value.
+  void AppendRadio(std::string_view name, const std::string& before, std::string_view value,
+                   std::string_view title, bool isChosen) {
+    const std::string id = before + std::string(value);
     out_.Open("label", {{"for", id}});
     out_.Leaf("input", {{"type", "radio"},
-                        {"name", field.id},
+                        {"name", name},
                         {"id", id},
-                        {"value", answer.text},
-                        Attribute::If(field.text == answer.text, {"checked", ""})});
-    out_.TextElement("span", {}, answer.title);
+                        {"value", value},
+                        Attribute::If(isChosen, {"checked", ""})});
+    out_.TextElement("span", {}, title);
     out_.Close();
   }
 
   void AppendSingle(const ParameterInfo& parameter) {
+    FormField field = FieldOf(parameter, 0);
+    field.id = parameter.name;
+    field.hint = Hint(parameter);
     const auto& finds = calculation_.Member().finds;
     const auto find = std::ranges::find(finds, parameter.name, &FindInfo::input);
-    const std::string style =
-        find == finds.end() ? "field" : "field findable-" + std::to_string(find - finds.begin() + 1);
-    const Field field{parameter, std::string(parameter.name), query_.Get(parameter.name)};
-    out_.Open("div", {{"class", style}});
-    out_.TextElement("label", {{"for", field.id}}, parameter.title);
-    AppendControl(field);
-    const std::string hint = Hint(parameter);
-    if (!hint.empty()) out_.TextElement("p", {{"class", "hint"}, {"id", field.id + "-hint"}}, hint);
-    AppendError(field);
-    out_.Close();
+    if (find != finds.end()) field.style += " findable-" + std::to_string(find - finds.begin() + 1);
+    Append(parameter, field);
   }
 
   /// A row of fields for each item, and a few empty ones.
@@ -160,100 +148,51 @@ class FormWriter {
     for (std::size_t item = 0; item < std::max(shown, items); ++item) {
       out_.Open("fieldset", {{"class", "item"}});
       out_.TextElement("legend", {}, std::string(list.title) + " " + std::to_string(item + 1));
-      for (const std::string_view name : list.inputs)
-        AppendItem(*FindParameter(calculation_.Member(), name), item);
+      for (const std::string_view name : list.inputs) {
+        const ParameterInfo& parameter = *FindParameter(calculation_.Member(), name);
+        Append(parameter, FieldOf(parameter, item));
+      }
       out_.Close();
     }
     out_.TextElement("p", {{"class", "hint"}},
                      "Rows that stay empty are left out; there are new ones after each answer.");
   }
 
-  void AppendItem(const ParameterInfo& parameter, std::size_t item) {
+  FormField FieldOf(const ParameterInfo& parameter, std::size_t item) const {
     const auto all = query_.All(parameter.name);
-    const Field field{parameter, std::string(parameter.name) + "." + std::to_string(item + 1),
-                      item < all.size() ? all[item] : std::string_view(), item};
-    out_.Open("div", {{"class", "field"}});
-    out_.TextElement("label", {{"for", field.id}}, parameter.title);
-    AppendControl(field);
-    AppendError(field);
-    out_.Close();
+    return {.id = std::string(parameter.name) + "." + std::to_string(item + 1),
+            .name = parameter.name,
+            .label = parameter.title,
+            .value = item < all.size() ? all[item] : std::string_view(),
+            .unit = UnitSign(parameter.unit),
+            .error = ErrorOf(parameter, item)};
   }
 
-  void AppendControl(const Field& field) {
-    const std::string_view sign = UnitSign(field.parameter.unit);
-    out_.Open("div", {{"class", sign.starts_with('$') ? "control money" : "control"}});
-    if (sign.starts_with('$')) out_.TextElement("span", {{"class", "unit"}, {"aria-hidden", "true"}}, "$");
-    if (field.parameter.choices) {
-      AppendSelect(field);
+  void Append(const ParameterInfo& parameter, const FormField& field) {
+    OpenField(out_, field);
+    if (parameter.choices) {
+      AppendSelect(out_, field, *parameter.choices);
+    } else if (parameter.unit == Unit::Date) {
+      AppendDate(parameter, field);
     } else {
-      AppendInput(field);
+      AppendInput(out_, field, "text", IsNumber(parameter.unit) && parameter.unit != Unit::Months);
     }
-    const std::string_view behind =
-        sign.starts_with('$') ? sign.substr(std::min<std::size_t>(2, sign.size())) : sign;
-    if (!behind.empty()) out_.TextElement("span", {{"class", "unit"}, {"id", field.id + "-unit"}}, behind);
-    out_.Close();
+    CloseField(out_, field);
   }
 
-  void AppendInput(const Field& field) {
-    const Unit unit = field.parameter.unit;
-    std::string text(field.text);
-    bool isDate = unit == Unit::Date;
-    if (isDate && !text.empty()) {
-      // A browser empties a date's field of what is none, and what was typed would be gone.
-      const Typed typed = ReadTyped(field.parameter, text);
-      isDate = typed.error.empty();
-      const json::Tree* iso = json::FieldNamed(typed.value, "value");
-      if (iso) text = *json::TextOf(*iso);
-    }
-    const bool isDecimal = IsNumber(unit) && unit != Unit::Months;
-    const std::string described = DescribedBy(field);
-    out_.Leaf("input", {{"type", isDate ? "date" : "text"},
-                        {"id", field.id},
-                        {"name", field.parameter.name},
-                        {"value", text},
-                        Attribute::If(isDecimal, {"inputmode", "decimal"}),
-                        {"autocomplete", "off"},
-                        Attribute::If(!described.empty(), {"aria-describedby", described}),
-                        Attribute::If(ErrorOf(field) != nullptr, {"aria-invalid", "true"})});
+  /// A browser empties a date's field of what is none, and what was typed would be gone.
+  void AppendDate(const ParameterInfo& parameter, FormField field) {
+    const Typed typed = ReadTyped(parameter, field.value);
+    if (const json::Tree* iso = json::FieldNamed(typed.value, "value")) field.value = *json::TextOf(*iso);
+    AppendInput(out_, field, typed.error.empty() ? "date" : "text");
   }
 
-  void AppendSelect(const Field& field) {
-    const std::string described = DescribedBy(field);
-    out_.Open("select", {{"id", field.id},
-                         {"name", field.parameter.name},
-                         Attribute::If(!described.empty(), {"aria-describedby", described}),
-                         Attribute::If(ErrorOf(field) != nullptr, {"aria-invalid", "true"})});
-    const ChoiceInfo* chosen =
-        field.text.empty() ? nullptr : FindChoice(*field.parameter.choices, field.text);
-    for (const ChoiceInfo& choice : field.parameter.choices->choices) {
-      out_.TextElement("option", {{"value", choice.text}, Attribute::If(&choice == chosen, {"selected", ""})},
-                       choice.title);
-    }
-    out_.Close();
-  }
-
-  const FieldError* ErrorOf(const Field& field) const {
+  /// The sentence of what was wrong; empty when nothing was.
+  std::string_view ErrorOf(const ParameterInfo& parameter, std::size_t item) const {
     const auto error = std::ranges::find_if(calculation_.Errors(), [&](const FieldError& candidate) {
-      return candidate.parameter == &field.parameter && candidate.item == field.item;
+      return candidate.parameter == &parameter && candidate.item == item;
     });
-    return error == calculation_.Errors().end() ? nullptr : &*error;
-  }
-
-  std::string DescribedBy(const Field& field) const {
-    std::string ids;
-    const auto add = [&](bool isThere, const char* what) {
-      if (isThere) ids += (ids.empty() ? "" : " ") + field.id + what;
-    };
-    add(ErrorOf(field) != nullptr, "-error");
-    const std::string_view sign = UnitSign(field.parameter.unit);
-    add(!sign.empty() && sign != "$", "-unit");
-    add(!ListOf(calculation_.Member(), field.parameter) && !Hint(field.parameter).empty(), "-hint");
-    return ids;
-  }
-
-  void AppendError(const Field& field) {
-    const FieldError* error = ErrorOf(field);
-    if (error) out_.TextElement("p", {{"class", "error"}, {"id", field.id + "-error"}}, error->sentence);
+    return error == calculation_.Errors().end() ? std::string_view() : error->sentence;
   }
 
   EscapedMarkup& out_;
@@ -277,24 +216,17 @@ void AppendForm(EscapedMarkup& out, const Calculation& calculation, const Query&
 }
 
 void AppendErrors(EscapedMarkup& out, const Calculation& calculation) {
-  out.Open("section", {{"class", "card problems"}, {"id", "answer"}, {"role", "alert"}, {"tabindex", "-1"}});
-  out.TextElement("h2", {}, "Please look at this again");
-  out.Open("ul");
+  std::vector<Problem> problems;
   for (const FieldError& error : calculation.Errors()) {
-    out.Open("li");
-    if (error.parameter) {
-      const bool isItem =
-          ListOf(calculation.Member(), *error.parameter) || !error.parameter->questions.empty();
-      const std::string place = isItem ? "." + std::to_string(error.item + 1) : std::string();
-      out.TextElement("a", {{"href", "#" + std::string(error.parameter->name) + place}},
-                      error.parameter->title);
-      out.Text(": ");
-    }
-    out.Text(error.sentence);
-    out.Close();
+    const ParameterInfo* const parameter = error.parameter;
+    Problem& problem = problems.emplace_back(Problem{{}, {}, error.sentence});
+    if (!parameter) continue;
+    const bool isItem = ListOf(calculation.Member(), *parameter) || !parameter->questions.empty();
+    problem.field =
+        std::string(parameter->name) + (isItem ? "." + std::to_string(error.item + 1) : std::string());
+    problem.title = parameter->title;
   }
-  out.Close();
-  out.Close();
+  AppendProblems(out, problems);
 }
 
 }  // namespace amortix2::pages

@@ -86,7 +86,7 @@ class Points {
   void AddYears(std::size_t index) {
     const auto& [series, table, lines] = sources_[index];
     const auto start = DayOf(*table, *lines, table->firstRow);
-    if (IsLine() && table->opensWithRowZero && sources_[index].Fold() == Yearly::Last && start) {
+    if (IsLine() && table->isSchedule && sources_[index].Fold() == Yearly::Last && start) {
       Add(index, kStart, *start, lines->At(table->firstRow, series->column));
     }
     for (const YearOfLines& year : YearsOf(*table, *lines)) {
@@ -98,7 +98,7 @@ class Points {
 
   void AddLines(std::size_t index) {
     const auto& [series, table, lines] = sources_[index];
-    const bool skipsStart = table->opensWithRowZero && sources_[index].Fold() == Yearly::Sum;
+    const bool skipsStart = table->isSchedule && sources_[index].Fold() == Yearly::Sum;
     const std::int32_t first = table->firstRow + (skipsStart ? 1 : 0);
     for (std::int32_t line = first; line <= lines->Dimension(1).upper; ++line) {
       if (series->row >= 0 && series->row != line) continue;

@@ -1,6 +1,5 @@
 #include "amortix2/pages/chart_page.h"
 
-#include <charconv>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -14,6 +13,7 @@
 #include "amortix2/component/description.h"
 #include "amortix2/json/json_text.h"
 #include "amortix2/json/request_error.h"
+#include "amortix2/pages/form_field.h"
 #include "amortix2/pages/frame.h"
 #include "amortix2/pages/pasted_table.h"
 
@@ -23,6 +23,7 @@ namespace {
 constexpr std::string_view kExample =
     "Year\tPrincipal\tInterest\n2027\t2,235\t12,934\n2028\t2,385\t12,784\n2029\t2,545\t12,625\n";
 constexpr std::string_view kLines = "LINE";
+constexpr std::string_view kSecondNameOfOverlapped = "OR";
 constexpr std::string_view kTooLarge = "These numbers are too large to draw.";
 constexpr std::string_view kNoChoice = "This is none of the choices.";
 
@@ -93,19 +94,12 @@ void DrawPicture(const Wish& wish, Drawn& drawn) {
   drawn.table = picture.GetString();
 }
 
-/// An image of one pixel of a colour ("#08529e") as an address, so that a chart needs no files; transparent
-/// without one.
-std::string PixelAddress(std::string_view colour) {
+/// An image of one pixel of a colour as an address, so that a chart needs no files; transparent without one.
+std::string PixelAddress(std::optional<Rgb> colour) {
   std::string gif("GIF89a\1\0\1\0\x80\0\0", 13);
-  std::string components(3, '\0');
-  for (std::size_t i = 0; i < 3 && !colour.empty(); ++i) {
-    const std::string_view digits = colour.substr(1 + 2 * i, 2);
-    unsigned component = 0;
-    std::from_chars(digits.data(), digits.data() + digits.size(), component, 16);
-    components[i] = static_cast<char>(component);
-  }
-  (gif += components) += components;
-  if (colour.empty()) gif += std::string("\x21\xF9\4\1\0\0\0\0", 8);
+  const Rgb parts = colour.value_or(Rgb{});
+  for (int i = 0; i < 2; ++i) gif.append(parts.begin(), parts.end());
+  if (!colour) gif += std::string("\x21\xF9\4\1\0\0\0\0", 8);
   gif += std::string(",\0\0\0\0\1\0\1\0\0\2\2\x44\1\0;", 16);
   std::string quoted;
   json::AppendBase64(quoted, std::vector<std::uint8_t>(gif.begin(), gif.end()));
@@ -121,7 +115,7 @@ void DrawHtml(const Wish& wish, Drawn& drawn) {
     if (cell.Type() == VariantType::String) cell = Text(Escaped(cell.GetString()));
   }
   std::vector<Variant> names{""};
-  std::vector<Variant> images{Text(PixelAddress("#ffffff"))};
+  std::vector<Variant> images{Text(PixelAddress(Rgb{255, 255, 255}))};
   for (std::int32_t series = 1; series <= data.Dimension(2).upper; ++series) {
     const Variant& name = data.At(0, series);
     const bool isNamed = name.Type() == VariantType::String && !name.GetString().empty();
@@ -138,7 +132,7 @@ void DrawHtml(const Wish& wish, Drawn& drawn) {
   Variant markup;
   BarChart chart;
   chart.NegativeBars(true);
-  chart.SetAxisGif(Text(PixelAddress("#000000")));
+  chart.SetAxisGif(Text(PixelAddress(Rgb{})));
   chart.SetSpaceGif(blank);
   chart.MakeChart(table, blank, colours, legend, titles, below, left, markup, Text(wish.style));
   for (const Variant& line : markup.GetArray().Cells()) {
@@ -161,97 +155,42 @@ std::optional<Drawn> Draw(const Wish& wish, Errors& errors) {
   return failure ? std::nullopt : std::optional(std::move(drawn));
 }
 
-/// A field of the form with its label, hint and error.
-class Field {
- public:
-  Field(EscapedMarkup& out, std::string_view name, std::string_view label, std::string_view hint,
-        const std::string& error)
-      : out_(out), name_(name), hint_(hint), error_(error) {
-    out_.Open("div", {{"class", "field"}});
-    out_.TextElement("label", {{"for", name}}, label);
-    describedBy_ = (hint_.empty() ? "" : name_ + "-hint") + (error_.empty() ? "" : " " + name_ + "-error");
-    out_.Open("div", {{"class", "control"}});
-  }
-  ~Field() {
-    out_.Close();
-    if (!hint_.empty()) out_.TextElement("p", {{"class", "hint"}, {"id", name_ + "-hint"}}, hint_);
-    if (!error_.empty()) out_.TextElement("p", {{"class", "error"}, {"id", name_ + "-error"}}, error_);
-    out_.Close();
-  }
-  Field(const Field&) = delete;
-  Field& operator=(const Field&) = delete;
-  Field(Field&&) = delete;
-  Field& operator=(Field&&) = delete;
-
-  void Text(std::string_view value) {
-    out_.Leaf("input", {{"type", "text"},
-                        {"id", name_},
-                        {"name", name_},
-                        {"value", value},
-                        {"maxlength", 120},
-                        {"autocomplete", "off"},
-                        DescribedBy()});
-  }
-
-  void Area(std::string_view value) {
-    out_.Open("textarea", {{"id", name_},
-                           {"name", name_},
-                           {"rows", 9},
-                           {"spellcheck", "false"},
-                           DescribedBy(),
-                           Attribute::If(!error_.empty(), {"aria-invalid", "true"})});
-    out_.Text("\n");  // browsers drop the first line end
-    out_.Text(value);
-    out_.Close();
-  }
-
-  void Select(const ChoicesInfo& choices, std::string_view value) {
-    out_.Open("select", {{"id", name_},
-                         {"name", name_},
-                         DescribedBy(),
-                         Attribute::If(!error_.empty(), {"aria-invalid", "true"})});
-    for (const ChoiceInfo& choice : choices.choices) {
-      if (choice.text == "OR") continue;  // another name of overlapped columns
-      out_.TextElement("option",
-                       {{"value", choice.text}, Attribute::If(choice.text == value, {"selected", ""})},
-                       choice.title);
-    }
-    out_.Close();
-  }
-
- private:
-  Attribute DescribedBy() const {
-    return Attribute::If(!describedBy_.empty(), {"aria-describedby", describedBy_});
-  }
-
-  EscapedMarkup& out_;
-  std::string name_;
-  std::string_view hint_;
-  const std::string& error_;
-  std::string describedBy_;
-};
-
 void AppendForm(EscapedMarkup& out, const Wish& wish, const Errors& errors) {
-  const std::string none;
   out.Open("form", {{"class", "card inputs"}, {"action", "/chart#answer"}, {"aria-label", "Inputs"}});
-  Field(out, "table", "Table",
-        "A line for each row, its label first; a first line may name the series. From a spreadsheet, as CSV, "
-        "or in columns.",
-        errors.table)
-      .Area(wish.table);
-  Field(out, "style", Styles().title, "", errors.style).Select(Styles(), wish.style);
-  Field(out, "axis", Axes().title, "What the labels of the rows are", errors.axis).Select(Axes(), wish.axis);
-  Field(out, "title", "Title", "", none).Text(wish.title);
-  Field(out, "below", "Caption below", "", none).Text(wish.below);
-  Field(out, "left", "Caption at the left", "", none).Text(wish.left);
+  const auto append = [&](FormField field, const auto& appendControl) {
+    field.name = field.id;
+    OpenField(out, field);
+    appendControl(field);
+    CloseField(out, field);
+  };
+  const auto area = [&](const FormField& field) { AppendArea(out, field); };
+  const auto line = [&](const FormField& field) { AppendInput(out, field); };
+  append({.id = "table",
+          .label = "Table",
+          .value = wish.table,
+          .hint = "A line for each row, its label first; a first line may name the series. From a "
+                  "spreadsheet, as CSV, or in columns.",
+          .error = errors.table},
+         area);
+  append({.id = "style", .label = Styles().title, .value = wish.style, .error = errors.style},
+         [&](const FormField& field) { AppendSelect(out, field, Styles(), kSecondNameOfOverlapped); });
+  append({.id = "axis",
+          .label = Axes().title,
+          .value = wish.axis,
+          .hint = "What the labels of the rows are",
+          .error = errors.axis},
+         [&](const FormField& field) { AppendSelect(out, field, Axes()); });
+  append({.id = "title", .label = "Title", .value = wish.title}, line);
+  append({.id = "below", .label = "Caption below", .value = wish.below}, line);
+  append({.id = "left", .label = "Caption at the left", .value = wish.left}, line);
   out.Open("div", {{"class", "actions"}});
   out.TextElement("button", {{"type", "submit"}}, "Draw");
   out.Close();
   out.Close();
 }
 
-void AppendMarkup(EscapedMarkup& out, std::string_view id, std::string_view title, std::string_view hint,
-                  std::string_view markup) {
+void AppendCopyField(EscapedMarkup& out, std::string_view id, std::string_view title, std::string_view hint,
+                     std::string_view markup) {
   out.Open("div", {{"class", "field"}});
   out.TextElement("label", {{"for", id}}, title);
   out.TextElement("p", {{"class", "hint"}}, hint);
@@ -266,16 +205,8 @@ void AppendChart(EscapedMarkup& out, const Drawn& drawn, const Query& query) {
   out.Open("section", {{"class", "card answer"}, {"id", "answer"}, {"aria-labelledby", "answer-title"}});
   out.TextElement("h2", {{"id", "answer-title"}}, "The chart");
   out.Open("figure", {{"class", "chart"}});
-  out.TextElement("figcaption", {}, "As it will stand in a page");
-  out.Open("div", {{"aria-hidden", "true"}});
-  out.AppendMarkup(drawn.svg);
+  AppendFigure(out, "As it will stand in a page", drawn.svg, drawn.table);
   out.Close();
-  out.Open("details");
-  out.TextElement("summary", {}, "The chart's numbers");
-  out.Open("div",
-           {{"class", "scroll"}, {"tabindex", 0}, {"role", "region"}, {"aria-label", "The chart's numbers"}});
-  out.AppendMarkup(drawn.table);
-  for (int i = 0; i < 3; ++i) out.Close();
   Query picture = query;
   picture.Set("format", "svg");
   out.Open("ul", {{"class", "along"}});
@@ -285,8 +216,8 @@ void AppendChart(EscapedMarkup& out, const Drawn& drawn, const Query& query) {
   for (int i = 0; i < 3; ++i) out.Close();
   out.Open("section", {{"class", "card inputs"}, {"aria-labelledby", "markup-title"}});
   out.TextElement("h2", {{"id", "markup-title"}}, "Markup to copy");
-  AppendMarkup(out, "svg", "Picture (SVG)", "Put it into a page as it is.", drawn.svg);
-  AppendMarkup(
+  AppendCopyField(out, "svg", "Picture (SVG)", "Put it into a page as it is.", drawn.svg);
+  AppendCopyField(
       out, "html", "HTML bar chart",
       "Tables and stretched images, for pages that show no pictures of their own. It needs no files.",
       drawn.html);
@@ -294,21 +225,14 @@ void AppendChart(EscapedMarkup& out, const Drawn& drawn, const Query& query) {
 }
 
 void AppendErrors(EscapedMarkup& out, const Errors& errors) {
-  out.Open("section", {{"class", "card problems"}, {"id", "answer"}, {"role", "alert"}, {"tabindex", "-1"}});
-  out.TextElement("h2", {}, "Please look at this again");
-  out.Open("ul");
-  const auto append = [&](const char* address, std::string_view title, const std::string& error) {
-    if (error.empty()) return;
-    out.Open("li");
-    AppendLink(out, address, title);
-    out.Text(": " + error);
-    out.Close();
+  std::vector<Problem> problems;
+  const auto add = [&](const char* field, std::string_view title, const std::string& error) {
+    if (!error.empty()) problems.push_back({field, title, error});
   };
-  append("#table", "Table", errors.table);
-  append("#style", Styles().title, errors.style);
-  append("#axis", Axes().title, errors.axis);
-  out.Close();
-  out.Close();
+  add("table", "Table", errors.table);
+  add("style", Styles().title, errors.style);
+  add("axis", Axes().title, errors.axis);
+  AppendProblems(out, problems);
 }
 
 }  // namespace

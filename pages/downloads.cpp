@@ -12,6 +12,7 @@
 #include "amortix2/json/reply.h"
 #include "amortix2/json/result_table.h"
 #include "amortix2/pages/answer_charts.h"
+#include "amortix2/pages/frame.h"
 
 namespace amortix2::pages {
 namespace {
@@ -44,16 +45,12 @@ std::string FiguresAsCsv(const Calculation& calculation) {
   return out;
 }
 
-bool IsSchedule(const ParameterInfo* parameter) {
-  const TableInfo* table = parameter->table;
-  return table && !table->columns.empty() && table->columns.front().unit == Unit::Date;
-}
-
 /// The first schedule, else the first table, else the single figures.
 std::string_view FirstTable(const Calculation& calculation) {
   const auto tables = TablesOf(calculation);
   if (tables.empty()) return kFigures;
-  const auto schedule = std::ranges::find_if(tables, IsSchedule);
+  const auto schedule = std::ranges::find_if(
+      tables, [](const ParameterInfo* result) { return result->table && result->table->isSchedule; });
   return (schedule == tables.end() ? tables.front() : *schedule)->name;
 }
 
@@ -107,14 +104,14 @@ std::optional<Page> Gif(const Calculation& calculation, std::string_view chart) 
   return Page{.contentType = "image/gif", .bytes = std::move(*bytes), .fileName = "chart.gif"};
 }
 
-void AppendLink(EscapedMarkup& out, Query query, std::string_view format, std::string_view table,
-                const std::string& text) {
+void AppendDownload(EscapedMarkup& out, Query query, std::string_view format, std::string_view table,
+                    const std::string& text) {
   query.Remove("chart");
   query.Remove("table");
   query.Set("format", format);
   if (format == "csv") query.Set("table", table);
   out.Open("li");
-  out.TextElement("a", {{"href", "?" + query.Text()}}, text);
+  AppendLink(out, "?" + query.Text(), text);
   out.Close();
 }
 
@@ -131,10 +128,10 @@ std::optional<Page> Download(const Calculation& calculation, const Query& query)
 void AppendDownloads(EscapedMarkup& out, const Calculation& calculation, const Query& query) {
   out.Open("ul", {{"class", "downloads"}});
   for (const ParameterInfo* table : TablesOf(calculation)) {
-    AppendLink(out, query, "csv", table->name, std::string(table->title) + " (CSV)");
+    AppendDownload(out, query, "csv", table->name, std::string(table->title) + " (CSV)");
   }
-  AppendLink(out, query, "csv", kFigures, "Figures (CSV)");
-  AppendLink(out, query, "json", {}, "The whole answer (JSON)");
+  AppendDownload(out, query, "csv", kFigures, "Figures (CSV)");
+  AppendDownload(out, query, "json", {}, "The whole answer (JSON)");
   out.Close();
 }
 

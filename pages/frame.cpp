@@ -1,7 +1,5 @@
 #include "amortix2/pages/frame.h"
 
-#include <string>
-
 namespace amortix2::pages {
 namespace {
 
@@ -53,6 +51,37 @@ void AppendFooter(EscapedMarkup& out) {
 
 void AppendLink(EscapedMarkup& out, std::string_view address, std::string_view text) {
   out.TextElement("a", {{"href", address}}, text);
+}
+
+void AppendFigure(EscapedMarkup& out, std::string_view caption, std::string_view picture,
+                  std::string_view table) {
+  out.TextElement("figcaption", {}, caption);
+  out.Open("div", {{"aria-hidden", "true"}});
+  out.AppendMarkup(picture);
+  out.Close();
+  out.Open("details");
+  out.TextElement("summary", {}, "The chart's numbers");
+  out.Open("div", {{"class", "scroll"}, {"tabindex", 0}, {"role", "region"}, {"aria-label", caption}});
+  out.AppendMarkup(table);
+  out.Close();
+  out.Close();
+}
+
+void AppendProblems(EscapedMarkup& out, const std::vector<Problem>& problems) {
+  out.Open("section", {{"class", "card problems"}, {"id", "answer"}, {"role", "alert"}, {"tabindex", "-1"}});
+  out.TextElement("h2", {}, "Please look at this again");
+  out.Open("ul");
+  for (const Problem& problem : problems) {
+    out.Open("li");
+    if (!problem.field.empty()) {
+      AppendLink(out, "#" + problem.field, problem.title);
+      out.Text(": ");
+    }
+    out.Text(problem.sentence);
+    out.Close();
+  }
+  out.Close();
+  out.Close();
 }
 
 Page Framed(std::string_view title, std::string_view path, EscapedMarkup& main, int status) {

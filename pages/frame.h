@@ -2,7 +2,9 @@
 
 // What all pages of the site share: head, navigation and foot around a page's own part.
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "amortix2/charts/escaped_markup.h"
 #include "amortix2/pages/site.h"
@@ -15,5 +17,19 @@ Page Framed(std::string_view title, std::string_view path, EscapedMarkup& main, 
 
 /// A link.
 void AppendLink(EscapedMarkup& out, std::string_view address, std::string_view text);
+
+/// Into an open figure: its caption, a picture and, on demand, the table of its numbers, both markup.
+void AppendFigure(EscapedMarkup& out, std::string_view caption, std::string_view picture,
+                  std::string_view table);
+
+/// What was wrong with a form.
+struct Problem {
+  std::string field;       ///< its id; empty: the question as a whole
+  std::string_view title;  ///< of the field
+  std::string_view sentence;
+};
+
+/// The place of an answer where there is none: every problem with a link to its field. The page opens here.
+void AppendProblems(EscapedMarkup& out, const std::vector<Problem>& problems);
 
 }  // namespace amortix2::pages

@@ -15,12 +15,6 @@ namespace {
 
 using Cells = std::vector<std::string>;
 
-std::string_view Trimmed(std::string_view text) {
-  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-  return text;
-}
-
 /// Lines that are not blank. Blanks around columns of text are not part of them; tabs stand for cells.
 std::vector<std::string_view> LinesOf(std::string_view text) {
   std::vector<std::string_view> lines;

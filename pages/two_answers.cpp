@@ -4,38 +4,12 @@
 
 #include "amortix2/automation/conversion.h"
 #include "amortix2/component/answer.h"
-#include "amortix2/json/result_table.h"
 #include "amortix2/pages/figure_text.h"
+#include "amortix2/pages/figures.h"
 #include "amortix2/pages/schedule.h"
 
 namespace amortix2::pages {
 namespace {
-
-/// The cells of a small table that has titles on both sides.
-void AddCells(std::vector<NamedFigure>& figures, const json::ResultTable& table, bool isList) {
-  for (std::int64_t row = table.rows.lower; row <= table.rows.upper && !table.rowTitles.empty(); ++row) {
-    const std::string& title = table.rowTitles[static_cast<std::size_t>(row - table.rows.lower)];
-    for (std::size_t column = 0; column < table.columns.size(); ++column) {
-      figures.push_back({isList ? title : title + ", " + table.columns[column], table.cell(row, column),
-                         table.unit(row, column), false, false, !isList});
-    }
-  }
-}
-
-void AddFigure(std::vector<NamedFigure>& figures, const Calculation& calculation,
-               const ParameterInfo& parameter) {
-  const FindInfo* found = FoundBy(calculation.In());
-  const bool isFound = found && found->figure == parameter.name;
-  const Variant* value = calculation.Out().Find({.parameter = parameter.name});
-  if (!value || !IsGiven(*value)) return;
-  if (value->Type() != VariantType::Array) {
-    const bool isEcho = !parameter.echoes.empty() && !isFound;
-    figures.push_back({std::string(parameter.title), *value, parameter.unit, isFound, isEcho});
-  } else if (parameter.table && !parameter.table->rows.empty()) {
-    const Array& array = value->GetArray();
-    AddCells(figures, json::TableOf(calculation.In(), parameter, array), array.Rank() == 1);
-  }
-}
 
 /// A figure of both answers.
 struct Pair {
@@ -80,17 +54,6 @@ void AppendRow(EscapedMarkup& out, const Calculation& calculation, const Pair& p
 }
 
 }  // namespace
-
-std::vector<NamedFigure> FiguresOf(const Calculation& calculation) {
-  std::vector<NamedFigure> figures;
-  for (const ParameterInfo& parameter : calculation.Member().parameters) {
-    if (parameter.role == Role::Result) AddFigure(figures, calculation, parameter);
-  }
-  // What was asked for stands first.
-  std::stable_partition(figures.begin(), figures.end(),
-                        [](const NamedFigure& figure) { return figure.isFound; });
-  return figures;
-}
 
 void AppendTwoAnswers(EscapedMarkup& out, const Calculation& first, const Calculation& second) {
   OpenTable(out, "Beside the first answer");

@@ -46,14 +46,6 @@ std::span<const UnitWord> WordsOf(Unit unit) {
   }
 }
 
-bool IsMoney(Unit unit) { return unit == Unit::Currency || unit == Unit::MonthlyCurrency; }
-
-std::string_view Trimmed(std::string_view text) {
-  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-  return text;
-}
-
 void SkipBlanks(TextScanner& scanner) { scanner.TakeWhile(IsBlank); }
 
 /// The digits of an unsigned number, whose commas part thousands: "1,5" is no number of anybody's.

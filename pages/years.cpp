@@ -27,7 +27,7 @@ std::optional<Date> DayOf(const TableInfo& table, const Array& lines, std::int32
 
 std::vector<YearOfLines> YearsOf(const TableInfo& table, const Array& lines) {
   std::vector<YearOfLines> years;
-  const std::int32_t first = table.firstRow + (table.opensWithRowZero ? 1 : 0);
+  const std::int32_t first = table.firstRow + (table.isSchedule ? 1 : 0);
   for (std::int32_t line = first; line <= lines.Dimension(1).upper; ++line) {
     const auto day = DayOf(table, lines, line);
     if (!day) continue;

@@ -108,7 +108,7 @@ std::vector<std::string> TableText(const TableInfo& table) {
     AppendHeadings(columns, table.columns, table.unit);
     columns += table.repeats ? "; and again for each further item." : ".";
   }
-  if (table.opensWithRowZero) sentences.emplace_back("Row 0 is the start.");
+  if (table.isSchedule) sentences.emplace_back("Row 0 is the start.");
   if (table.rowAxis) sentences.push_back(AxisText("Rows", *table.rowAxis));
   if (table.columnAxis) sentences.push_back(AxisText("Columns", *table.columnAxis));
   return sentences;
