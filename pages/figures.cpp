@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "amortix2/automation/conversion.h"
 #include "amortix2/component/answer.h"
 #include "amortix2/json/result_table.h"
 
@@ -21,6 +22,12 @@ void AddCells(std::vector<NamedFigure>& figures, const json::ResultTable& table,
   }
 }
 
+/// Whether a result is its input as it was given. Rounding may have left something of it, which is told.
+bool ComesBack(const Calculation& calculation, const ParameterInfo& result, const Variant& value) {
+  const Variant& given = calculation.In().At(result.echoes);
+  return !IsNumber(result.unit) || NumericOrZero(given) == NumericOrZero(value);
+}
+
 void AddFigure(std::vector<NamedFigure>& figures, const Calculation& calculation,
                const ParameterInfo& parameter) {
   const FindInfo* found = FoundBy(calculation.In());
@@ -28,7 +35,7 @@ void AddFigure(std::vector<NamedFigure>& figures, const Calculation& calculation
   const Variant* value = calculation.Out().Find({.parameter = parameter.name});
   if (!value || !IsGiven(*value)) return;
   if (value->Type() != VariantType::Array) {
-    const bool isEcho = !parameter.echoes.empty() && !isFound;
+    const bool isEcho = !parameter.echoes.empty() && !isFound && ComesBack(calculation, parameter, *value);
     figures.push_back({.title = std::string(parameter.title),
                        .value = *value,
                        .unit = parameter.unit,
