@@ -45,8 +45,7 @@ std::vector<ShownColumn> ShownColumns(const Schedule& schedule) {
   const auto& titles = schedule.table.columns;
   for (std::size_t column = 0; column < titles.size(); ++column) {
     shown.push_back({column, false, titles[column]});
-    const bool runs = schedule.HeadingOf(column).runs && !schedule.info.repeats;
-    if (runs) shown.push_back({column, true, titles[column] + " so far"});
+    if (schedule.HeadingOf(column).runs) shown.push_back({column, true, titles[column] + " so far"});
   }
   return shown;
 }
@@ -134,6 +133,36 @@ void AppendMonths(EscapedMarkup& out, const std::string& title, const Schedule& 
   out.Close();
 }
 
+/// `width` columns from one on, moved to where the first schedule stands.
+Array ColumnsOf(const Array& array, std::int32_t from, std::int32_t to, std::int32_t width) {
+  const Bounds rows = array.Dimension(1);
+  Array columns(rows, {to, to + width - 1});
+  for (std::int32_t row = rows.lower; row <= rows.upper; ++row) {
+    for (std::int32_t i = 0; i < width; ++i) columns.At(row, to + i) = array.At(row, from + i);
+  }
+  return columns;
+}
+
+/// A single schedule, of one of `lines` on the page.
+void AppendOne(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter, const Array& array,
+               const std::string& title, std::int64_t lines) {
+  const Schedule schedule{*parameter.table, array, json::TableOf(inputs, parameter, array)};
+  const std::vector<YearOfLines> years = YearsOf(schedule.info, array);
+  OpenTable(out, title + " by year");
+  ScheduleRows rows(out, schedule);
+  rows.Head(true);
+  out.Open("tbody");
+  for (const YearOfLines& year : years) rows.YearRow(year);
+  out.Close();
+  CloseTable(out);
+  const std::int64_t cells = lines * std::ssize(ShownColumns(schedule));
+  const bool fits = cells + kCellsOfYear * std::ssize(years) <= kMostCells;
+  out.TextElement("p", {{"class", "hint"}},
+                  fits ? "Open a year to see each payment."
+                       : "The single payments are too many for a page; the CSV file has them all.");
+  if (fits) AppendMonths(out, title, schedule, years);
+}
+
 /// The side of a comparison in one grid that is better in a row; nothing where both are equal, and elsewhere.
 std::optional<std::size_t> BetterColumn(const MemberInfo& member, const ParameterInfo& parameter,
                                         const json::ResultTable& table, std::int64_t row) {
@@ -183,22 +212,21 @@ void CloseTable(EscapedMarkup& out) {
 
 void AppendSchedule(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter,
                     const Array& array) {
-  const Schedule schedule{*parameter.table, array, json::TableOf(inputs, parameter, array)};
-  const std::vector<YearOfLines> years = YearsOf(schedule.info, array);
-  const std::string title(parameter.title);
-  OpenTable(out, title + " by year");
-  ScheduleRows rows(out, schedule);
-  rows.Head(true);
-  out.Open("tbody");
-  for (const YearOfLines& year : years) rows.YearRow(year);
-  out.Close();
-  CloseTable(out);
-  const std::int64_t cells = schedule.lines.Dimension(1).Count() * std::ssize(ShownColumns(schedule));
-  const bool fits = cells + kCellsOfYear * std::ssize(years) <= kMostCells;
-  out.TextElement("p", {{"class", "hint"}},
-                  fits ? "Open a year to see each payment."
-                       : "The single payments are too many for a page; the CSV file has them all.");
-  if (fits) AppendMonths(out, title, schedule, years);
+  const std::int64_t lines = array.Dimension(1).Count();
+  if (!parameter.table->repeats) {
+    return AppendOne(out, inputs, parameter, array, std::string(parameter.title), lines);
+  }
+  TableInfo table = *parameter.table;
+  table.repeats = false;
+  ParameterInfo one = parameter;
+  one.table = &table;
+  const auto width = static_cast<std::int32_t>(table.columns.size());
+  const std::int64_t count = (std::int64_t{array.Dimension(2).upper} - table.firstColumn + 1) / width;
+  for (std::int32_t i = 0; i < count; ++i) {
+    const std::string title = std::string(inputs.Member().lists.front().title) + " " + std::to_string(i + 1);
+    AppendOne(out, inputs, one, ColumnsOf(array, table.firstColumn + i * width, table.firstColumn, width),
+              title, count * lines);
+  }
 }
 
 void AppendGrid(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter, const Array& array,

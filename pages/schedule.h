@@ -16,7 +16,7 @@ namespace amortix2::pages {
 void OpenTable(EscapedMarkup& out, std::string_view caption);
 void CloseTable(EscapedMarkup& out);
 
-/// A schedule: its years, and below them each year's lines.
+/// A schedule: its years, and below them each year's lines. Of schedules side by side one after the other.
 void AppendSchedule(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter,
                     const Array& array);
 

@@ -7,8 +7,7 @@ namespace amortix2::pages {
 
 const HeadingInfo* ColumnHeading(const TableInfo& table, std::int32_t column) {
   const std::int64_t count = std::ssize(table.columns);
-  std::int64_t place = std::int64_t{column} - table.firstColumn;
-  if (table.repeats && count > 0 && place >= count) place %= count;
+  const std::int64_t place = std::int64_t{column} - table.firstColumn;
   return place >= 0 && place < count ? &table.columns[static_cast<std::size_t>(place)] : nullptr;
 }
 

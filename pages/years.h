@@ -29,11 +29,10 @@ std::vector<YearOfLines> YearsOf(const TableInfo& table, const Array& lines);
 /// nothing, and where the year has no cell.
 Variant CellOfYear(const TableInfo& table, const Array& lines, const YearOfLines& year, std::int32_t column);
 
-/// The heading of a column, also where the headings stand again for each further item; null when there is
-/// none.
+/// The heading of a column; null when there is none.
 const HeadingInfo* ColumnHeading(const TableInfo& table, std::int32_t column);
 
-/// The day of a line, the first where several schedules stand side by side; nothing when it has none.
+/// The day of a line; nothing when it has none.
 std::optional<Date> DayOf(const TableInfo& table, const Array& lines, std::int32_t line);
 
 }  // namespace amortix2::pages
