@@ -19,6 +19,7 @@
 #include <boost/beast/http/read.hpp>
 #include <boost/beast/http/string_body.hpp>
 #include <boost/beast/http/write.hpp>
+#include <cerrno>
 #include <charconv>
 #include <chrono>
 #include <csignal>
@@ -374,6 +375,8 @@ class Server {
   }
 
   void Run() {
+    // Made at the first request and kept: without memory its trees could not even end, so make it now.
+    pages::Answer({"GET", "/openapi.json"}, hall_.clock);
     const Tcp::endpoint endpoint = acceptor_.local_endpoint();
     const std::string address = endpoint.address().to_string();
     hall_.listeners.listening("http://" + (endpoint.address().is_v6() ? "[" + address + "]" : address) + ":" +
@@ -389,17 +392,19 @@ class Server {
 
  private:
   void Listen(const Tcp::endpoint& endpoint) {
-    using ReusePort = asio::detail::socket_option::boolean<SOL_SOCKET, SO_REUSEPORT>;
+    const auto raise = [&](int error) {
+      throw std::system_error(error, std::generic_category(), "cannot listen on " + hall_.serving.listen);
+    };
     try {
       acceptor_.open(endpoint.protocol());
       acceptor_.set_option(Acceptor::reuse_address(true));
-      acceptor_.set_option(ReusePort(true));
+      const int on = 1;
+      if (setsockopt(acceptor_.native_handle(), SOL_SOCKET, SO_REUSEPORT, &on, sizeof on) != 0) raise(errno);
       acceptor_.bind(endpoint);
       acceptor_.listen();
       acceptor_.non_blocking(true);
     } catch (const boost::system::system_error& error) {
-      throw std::system_error(error.code().value(), std::generic_category(),
-                              "cannot listen on " + hall_.serving.listen);
+      raise(error.code().value());
     }
   }
 
