@@ -5,12 +5,9 @@
 //     node bars.mjs AMORTIX2 CHROMIUM      with playwright-core in ./node_modules of the working directory
 
 import { existsSync, readFileSync, readdirSync } from "node:fs";
-import { createRequire } from "node:module";
 import { chart } from "../../examples/gallery/charts.mjs";
 import { page as pageOf, render } from "../../examples/gallery/gallery.mjs";
-
-const { chromium } = createRequire(`${process.cwd()}/`)("playwright-core");
-const [amortix2, executablePath] = process.argv.slice(2);
+import { amortix2, expect, withBrowser } from "./support.mjs";
 
 const table = (rows, cell, series, label = (row) => `L${row}`) => [
   ["", ...Array(series).fill(0)],
@@ -38,8 +35,6 @@ const cases = [
   ...[1, 3, 11].map((YLabelMode) => ({ typ: "HZ", data: table(5, (row) => 4e6 * row, 1, date), top: 2e7, YLabelMode })),
 ];
 
-const failures = [];
-const expect = (holds, what) => holds || failures.push(what);
 const near = (a, b, tolerance = 1) => Math.abs(a - b) <= tolerance + 1e-9;
 
 /** Of every chart: axes, images as their attributes say and as they are, bars with their values, labels, as boxes. */
@@ -157,13 +152,8 @@ for (const file of readdirSync(examples).filter((name) => name.endsWith(".asp"))
   for (const name of [...named, ...own]) expect(existsSync(new URL(name, examples)), `${file}: there is no ${name}`);
 }
 
-const browser = await chromium.launch({
-  executablePath,
-  args: ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
-         "--disable-background-networking", "--disable-component-update", "--disable-sync"],
-});
 let body;
-try {
+await withBrowser(async (browser) => {
   const page = await browser.newPage();
   await page.route("http://charts.test/", (route) => route.fulfill({ contentType: "text/html", body }));
   for (const one of pages) {
@@ -180,8 +170,4 @@ try {
     });
     if (process.env.CHARTS_SHOTS) await page.screenshot({ path: `${process.env.CHARTS_SHOTS}/${pages.indexOf(one)}.png` });
   }
-} finally {
-  await browser.close();
-}
-console.log(failures.length ? failures.slice(0, 20).join("\n") : `${pages.length * cases.length} charts stand as they should`);
-process.exitCode = failures.length ? 1 : 0;
+}, `${pages.length * cases.length} charts stand as they should`);

@@ -4,18 +4,12 @@
 //     node pages.mjs AMORTIX2 CHROMIUM      with the packages in ./node_modules of the working directory
 
 import { spawn, spawnSync } from "node:child_process";
-import { createRequire } from "node:module";
 import { createInterface } from "node:readline";
+import { amortix2, expect, failures, require, withBrowser } from "./support.mjs";
 
-const require = createRequire(`${process.cwd()}/`);
-const { chromium } = require("playwright-core");
 const { source: axe } = require("axe-core");
 const { Validator } = await import(require.resolve("@seriousme/openapi-schema-validator"));
-const [amortix2, executablePath] = process.argv.slice(2);
 const today = ["--today", "2026-11-21"];
-
-const failures = [];
-const expect = (holds, what) => holds || failures.push(what);
 
 const server = spawn(amortix2, ["serve", "--listen", "127.0.0.1:0", ...today], { stdio: ["ignore", "pipe", "inherit"] });
 const site = await new Promise((found) => createInterface(server.stdout).on("line", (line) => {
@@ -119,14 +113,15 @@ async function ask(page, [words, address, typed, find]) {
   await calculate(page);
   const numbers = Object.entries(typed).map(([name, text]) => [name, Number(text.replaceAll(/[^\d.]/g, ""))]);
   const results = resultsOf(member, { ...Object.fromEntries(numbers), ...(find && { [find]: 0 }) });
-  const { sentence, text } = await readAnswer(page);
+  const answer = await readAnswer(page);
   const { figure } = member.finds.find(({ input }) => !find || input === find);
   const [result, ...indices] = figure.split(/[(,)]/).filter(Boolean);
-  const value = indices.reduce((array, index) => array[index < 0 ? array.length - 1 : index], results[result]);
-  const { unit, table } = member.parameters.find(({ name }) => name === result);
-  const shown = written(value, table?.rows?.[indices[0] - table.firstRow]?.unit ?? unit);
-  expect(sentence, `"${words}" has no sentence`);
-  expect(!shown || text.includes(shown), `"${words}": ${shown} is not in "${text.slice(0, 200)}"`);
+  const value = indices.reduce((array, index) => array.at(index), results[result]);
+  const { table } = member.parameters.find(({ name }) => name === result);
+  const shown = written(value, table?.rows?.[indices[0] - table.firstRow]?.unit);
+  expect(answer.sentence, `"${words}" has no sentence`);
+  expect(!shown || answer.text.includes(shown), `"${words}": ${shown} is not in "${answer.text.slice(0, 200)}"`);
+  checkAnswer(member, results, answer, words);
 }
 
 /** Goes by the Tab key alone. */
@@ -221,12 +216,7 @@ async function lookAround(page, paths) {
   }
 }
 
-const browser = await chromium.launch({
-  executablePath,
-  args: ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
-         "--disable-background-networking", "--disable-component-update", "--disable-sync"],
-});
-try {
+await withBrowser(async (browser) => {
   const { valid, errors } = await new Validator().validate(await json("/openapi.json"));
   expect(valid, `/openapi.json: ${JSON.stringify(errors)}`);
   const page = await browser.newPage();
@@ -249,9 +239,4 @@ try {
   const survey = "/invest?vInvAmount=10000&" + [..."DCDCC"].map((answer, i) => `vSurvey.${i + 1}=${answer}`).join("&");
   const paths = process.env.AMORTIX2_ALL ? ["/", "/?q=loan", "/method", "/invest", "/invest?vInvAmount=5", ...members.map(({ address }) => `/${address}`)] : ["/", "/refinance"];
   await lookAround(page, ["/chart", survey, ...paths]);
-} finally {
-  await browser.close();
-  server.kill();
-}
-console.log(failures.length ? failures.slice(0, 30).join("\n") : `${members.length} calculators answer as they should`);
-process.exitCode = failures.length ? 1 : 0;
+}, `${members.length} calculators answer as they should`).finally(() => server.kill());

@@ -3,19 +3,11 @@
 //
 //     node svg.mjs AMORTIX2 CHROMIUM      with playwright-core in ./node_modules of the working directory
 
-import { createRequire } from "node:module";
-import { spawnSync } from "node:child_process";
+import { render } from "../../examples/gallery/gallery.mjs";
 import { charts } from "../../examples/gallery/svg_charts.mjs";
+import { amortix2, expect, withBrowser } from "./support.mjs";
 
-const { chromium } = createRequire(`${process.cwd()}/`)("playwright-core");
-const [amortix2, executablePath] = process.argv.slice(2);
-
-const failures = [];
-const expect = (holds, what) => holds || failures.push(what);
-
-const input = charts.map((chart) => JSON.stringify(chart)).join("\n") + "\n";
-const run = spawnSync(amortix2, ["batch"], { input, encoding: "utf8", maxBuffer: 1 << 28 });
-const pictures = run.stdout.trim().split("\n").map((line) => JSON.parse(line).results.vRes);
+const pictures = render(amortix2, charts);
 
 /** Pairs of texts that meet, texts outside the picture, and the colours in use. */
 function measure() {
@@ -54,12 +46,7 @@ const resets = {
   none: "",
   reset: "*{margin:0;padding:0;box-sizing:border-box;line-height:3;letter-spacing:normal} img,svg{display:block;max-width:100%;height:auto} text{font-weight:300} .title,.grid,.legend,.muted,.paper{display:none} body{letter-spacing:4px}",
 };
-const browser = await chromium.launch({
-  executablePath,
-  args: ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
-         "--disable-background-networking", "--disable-component-update", "--disable-sync"],
-});
-try {
+await withBrowser(async (browser) => {
   const page = await browser.newPage();
   const show = async (width, scheme, style, attributes = "") => {
     await page.setViewportSize({ width, height: 900 });
@@ -107,8 +94,4 @@ try {
     return ids.length - new Set(ids).size;
   });
   expect(repeated === 0, `${repeated} identifiers stand twice in a page`);
-} finally {
-  await browser.close();
-}
-console.log(failures.length ? failures.slice(0, 20).join("\n") : `${charts.length} pictures look as they should`);
-process.exitCode = failures.length ? 1 : 0;
+}, `${charts.length} pictures look as they should`);

@@ -321,6 +321,9 @@ TEST(SvgScale, RoundValuesAndDays) {
     int decimals = 0;
     EXPECT_EQ(RoundValues(c.low, c.high, c.most, decimals), c.values) << c.low;
   }
+  EXPECT_EQ(AxisNumber(1e15, 0), "1E+15");
+  EXPECT_EQ(AxisNumber(-999999999999999, 0) + " " + AxisNumber(1234.5, 2), "-999,999,999,999,999 1,234.50");
+  EXPECT_EQ(AxisNumber(0.5, 12) + " " + AxisNumber(0.5, 13), "0.500000000000 0.5");
   const auto names = [](const Date& from, const Date& to) {
     std::string text;
     for (const AxisTick& tick : DateTicks(from.serial, to.serial, 6)) text += tick.text + " ";
@@ -331,6 +334,14 @@ TEST(SvgScale, RoundValuesAndDays) {
   EXPECT_EQ(names(MakeDate(2001, 2, 2), MakeDate(2002, 1, 1)),
             "Mar 2001 May 2001 Jul 2001 Sep 2001 Nov 2001 Jan 2002 ");
   EXPECT_EQ(names(MakeDate(1999, 6, 1), MakeDate(2021, 1, 1)), "2000 2005 2010 2015 2020 ");
+}
+
+TEST(TextWidth, WhatIsNoCharacterCountsByItsBytes) {
+  using namespace std::literals;
+  for (const auto text : {"\xE2\x82\xAC"sv.substr(0, 2), "\x80"sv, "\xC1\x80"sv, "\xF5\x80\x80\x80"sv,
+                          "\xE0\x80\x80"sv, "\xED\xA0\x80"sv, "\xF4\x90\x80\x80"sv, "\xC3z"sv})
+    EXPECT_EQ(FirstCodePoint(text).length, 1U) << text;
+  EXPECT_EQ(FirstCodePoint("\xE2\x82\xAC").value, U'\u20AC');
 }
 
 TEST(EscapedMarkup, NumbersHaveTwoDecimals) {

@@ -206,7 +206,17 @@ vDetArray: Schedule (rows 0 to 2)
       {"call loan AMOUNT=1000 term=2 --only vTotPay --only vResPayment", 0,
        "vResPayment   500.00  Monthly payment\nvTotPay      1000.00  Total of payments\n", "vIntRate: "},
       {"call loan rate=6.5", 2, "", "did you mean vIntRate (Interest rate)?"},
-      {"call credit", 2, "", "what comes near: loan (Loan)\n"},
+      {"call card", 2, "", "what comes near: loan (Loan)\n"},
+      // 1200 without interest, at 100 and at 150 a month.
+      {"call prepay vCurrBal=1200 vCurrPay=100 vCurrRate=0 vExtraPayment=50 --only vGrid", 0,
+       R"(vGrid: Comparison (rows 1 to 4)
+                       Current loan  With extra payments  Difference
+Monthly payment              100.00               150.00      -50.00
+Paid up front                  0.00                 0.00        0.00
+Months                           12                    8           4
+Cost in today's money       1200.00              1200.00        0.00
+)",
+       ""},
       // 600 and 1200 over a year without interest.
       {"call consolidate vCurrBal=600,1200 vCurrPay=50,100 vCurrRate=0,0 vNewRate=0 vNewTerm=12 --csv "
        "vCurrGrid",
