@@ -127,7 +127,8 @@ struct Debts {
   double other = 0;
 };
 
-/// The largest loan that an income qualifies for: housing takes at most 28 % of it, housing and debts 36 %.
+/// The largest loan that an income qualifies for: housing takes at most 28 % of the income, and at most 36 % of
+/// what debts leave of it.
 struct QualificationQuestion {
   double annualIncome = 0;
   Debts debts = {};
