@@ -292,6 +292,21 @@ TEST(SvgChart, SettingsAndTheirLimits) {
     EXPECT_FALSE(isColour(text)) << text;
 }
 
+// 1 to 6, or ten, a hundred, ... times that.
+TEST(SvgChart, RowsAreLabelledAtFamiliarIntervals) {
+  static const std::regex kLabel("<text x=\"[^\"]*\" y=\"[^\"]*\" text-anchor=\"middle\">([0-9]+)</text>");
+  for (const std::int32_t rows : {9, 40, 90, 300, 900, 3000}) {
+    Array table = Numbers(rows, 1, [](int row, int) { return 1.0 * row; });
+    for (std::int32_t row = 1; row <= rows; ++row) table.At(row, 0) = row;
+    const std::string svg = Bars(SvgChart(), table, "");
+    const std::sregex_iterator first(svg.begin(), svg.end(), kLabel);
+    ASSERT_NE(first, std::sregex_iterator()) << rows;
+    int apart = std::stoi((*std::next(first))[1]) - std::stoi((*first)[1]);
+    while (apart % 10 == 0 && apart != 0) apart /= 10;
+    EXPECT_TRUE(apart >= 1 && apart <= 6) << rows << " " << apart;
+  }
+}
+
 // Steps of 1, 2 or 5, of which eight reach across; worked out on paper.
 TEST(SvgScale, AxisCloseAroundValues) {
   const double rows[][4] = {{203, 297, 200, 300}, {-3, 17, -5, 20},         {5, 5, 4.4, 5.6},

@@ -84,56 +84,43 @@ TEST(Description, BrokenDescriptionsAreRefused) {
   const Param asked = input.Find();
   const Param result = Result("vOut", "Out", Unit::Currency, "A result");
   const Param table = Result("vTable", "Table", Unit::Table, "A table").Of(kSmallTable);
-  const FindInfo find{.figure = "vOut", .sentences = {{"It is {vOut}."}}};
-  const auto with = [](FindInfo changed, auto change) {
-    change(changed);
-    return changed;
-  };
+  const std::string_view usual = "It is {vOut}.";
   struct Row {
     std::vector<Param> parameters;
-    FindInfo find;
-    std::string_view refusal;
+    std::string_view figure, sentence, refusal;
   };
   const ChoiceInfo twice[] = {{"A", "One", {}}, {"a", "Two", {}}};
   const ChoicesInfo doubled{.title = "Letters", .choices = twice, .otherwise = {}, .enumeration = nullptr};
   const Row rows[] = {
-      {{input, result}, find, ""},
-      {{input, result, table}, with(find, [](FindInfo& f) { f.figure = "vTable(1,1)"; }), ""},
-      {{input.Titled(""), result}, find, "a parameter has no title"},
-      {{input.NoExample(), result}, find, "a required input has no example"},
-      {{input.Example("11"), result}, find, "an example lies outside its range"},
-      {{input.Example("5x"), result}, find, "the example of a number is no plain number"},
-      {{input.In(Unit::Date), result}, find, "the example of a date is no ISO date"},
-      {{input.Span(10, 0), result}, find, "the least of a range lies above its most"},
-      {{input.Limit(2, 20), result}, find, "a range leaves its limit"},
-      {{input.Of(doubled), result}, find, "a choice stands twice"},
-      {{input.In(Unit::Code), result}, find, "a code names no choices"},
-      {{input, result.Echoes("vOther")}, find, "a name is that of no input"},
-      {{input.Of(kSmallTable), result}, find, "a single value has a table's description"},
-      {{asked, result}, find, "an input that may be found is found by nothing"},
-      {{input, result}, with(find, [](FindInfo& f) { f.figure = "vIn"; }), "a figure is no result"},
-      {{input, result},
-       with(find, [](FindInfo& f) { f.sentences = {{"It is {vIn}."}}; }),
-       "a figure is no result"},
-      {{input, result},
-       with(find, [](FindInfo& f) { f.sentences = {{"It is {vOut."}}; }),
-       "a sentence's place is not closed"},
-      {{input, result},
-       with(find, [](FindInfo& f) { f.sentences = {}; }),
-       "a quantity that can be found has no sentence"},
-      {{input, result, table},
-       with(find, [](FindInfo& f) { f.figure = "vTable(1,3)"; }),
-       "a table has no such column"},
-      {{input, result, table},
-       with(find, [](FindInfo& f) { f.figure = "vTable(one,1)"; }),
-       "a figure's index is no number"},
+      {{input, result}, "vOut", usual, ""},
+      {{input, result, table}, "vTable(1,1)", usual, ""},
+      {{input.Titled(""), result}, "vOut", usual, "a parameter has no title"},
+      {{input.NoExample(), result}, "vOut", usual, "a required input has no example"},
+      {{input.Example("11"), result}, "vOut", usual, "an example lies outside its range"},
+      {{input.Example("5x"), result}, "vOut", usual, "the example of a number is no plain number"},
+      {{input.In(Unit::Date), result}, "vOut", usual, "the example of a date is no ISO date"},
+      {{input.Span(10, 0), result}, "vOut", usual, "the least of a range lies above its most"},
+      {{input.Limit(2, 20), result}, "vOut", usual, "a range leaves its limit"},
+      {{input.Of(doubled), result}, "vOut", usual, "a choice stands twice"},
+      {{input.In(Unit::Code), result}, "vOut", usual, "a code names no choices"},
+      {{input, result.Echoes("vOther")}, "vOut", usual, "a name is that of no input"},
+      {{input.Of(kSmallTable), result}, "vOut", usual, "a single value has a table's description"},
+      {{asked, result}, "vOut", usual, "an input that may be found is found by nothing"},
+      {{input, result}, "vIn", usual, "a figure is no result"},
+      {{input, result}, "vOut", "It is {vIn}.", "a figure is no result"},
+      {{input, result}, "vOut", "It is {vOut.", "a sentence's place is not closed"},
+      {{input, result}, "vOut", "", "a quantity that can be found has no sentence"},
+      {{input, result, table}, "vTable(1,3)", usual, "a table has no such column"},
+      {{input, result, table}, "vTable(one,1)", usual, "a figure's index is no number"},
   };
   for (const Row& row : rows) {
     std::vector<ParameterInfo> parameters(row.parameters.begin(), row.parameters.end());
     for (ParameterInfo& parameter : parameters) parameter.byReference = parameter.role == Role::Result;
+    FindInfo find{.figure = row.figure, .sentences = {}};
+    if (!row.sentence.empty()) find.sentences = {{row.sentence}};
     MemberInfo member{};
     member.title = member.help = "A member";
-    member.finds = {&row.find, 1};
+    member.finds = {&find, 1};
     std::string refusal;
     try {
       MemberChecks(parameters).Run(member);

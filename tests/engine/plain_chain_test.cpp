@@ -15,6 +15,7 @@
 #include "amortix2/engine/payment_factors.h"
 #include "amortix2/engine/running_savings.h"
 #include "amortix2/engine/savings_schedule.h"
+#include "engine/random_savings.h"
 #include "property.h"
 #include "support.h"
 
@@ -203,17 +204,11 @@ TEST(PlainChain, TermsAgree) {
 }
 
 tSavingsDesc RandomPlan(Random& random) {
-  tSavingsDesc plan;
-  plan.startDate = Date{static_cast<std::int32_t>(36000 + random.Below(20000))};
-  plan.paymentMode = enumFrequencyType{static_cast<std::int32_t>(random.Below(11))};
-  plan.compoundingMode = enumFrequencyType{static_cast<std::int32_t>(random.Below(2) * random.Below(11))};
-  plan.endDate = AdvanceDate(plan.startDate, plan.paymentMode, static_cast<std::int32_t>(random.Below(200)));
-  if (random.Below(4) == 0) plan.endDate.serial += 5;
+  tSavingsDesc plan = RandomSavings(random).OfEveryModeAndSpan();
   plan.startingBalance = Money(random, random.Below(4) == 0 ? 1e15 : 1e6) * (random.Below(20) == 0 ? -1 : 1);
   plan.deposit = Money(random, 1e4);
   plan.withdrawal = random.Below(2) == 0 ? Money(random, 1e4) : 0;
   plan.intRate = Rate(random, PeriodsPerYear(CompoundingMode(plan)));
-  plan.taxRate = random.Below(3) == 0 ? static_cast<double>(random.Below(60)) : 0;
   return plan;
 }
 

@@ -1,11 +1,7 @@
 // The executable as other programs run it.
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <unistd.h>
-
-#include <array>
 
 #include "program.h"
 
@@ -48,44 +44,6 @@ TEST_F(Program, AnswersEveryLineInOrderAndInConstantMemory) {
     ASSERT_TRUE(line.starts_with(expected)) << i << ": " << line.substr(0, 200);
     ASSERT_TRUE(i % 10 == 9 || line.find("\"vResPayment\":1264.14,") != std::string::npos) << i;
   }
-}
-
-TEST_F(Program, AnswersAsSoonAsNoCompleteLineWaits) {
-  int in[2];
-  int out[2];
-  ASSERT_EQ(pipe(in) + pipe(out), 0);
-  const pid_t child = fork();
-  if (child == 0) {
-    dup2(in[0], 0);
-    dup2(out[1], 1);
-    for (const int end : {in[0], in[1], out[0], out[1]}) close(end);
-    execl(AMORTIX2_PROGRAM, "amortix2", "batch", nullptr);
-    _exit(127);
-  }
-  close(in[0]);
-  close(out[1]);
-  const auto receive = [&] {
-    std::string line;
-    for (char c; read(out[0], &c, 1) == 1 && c != '\n';) line += c;
-    return line;
-  };
-  const auto send = [&](std::string_view text) {
-    ASSERT_EQ(write(in[1], text.data(), text.size()), std::ssize(text));
-  };
-  send("{}\n[]\n{\"id\"");
-  EXPECT_NE(receive().find("BadRequest"), std::string::npos);
-  EXPECT_NE(receive().find("BadRequest"), std::string::npos);
-  send(":1," + std::string(kLoan) + "\n");
-  EXPECT_TRUE(receive().starts_with("{\"id\":1,\"results\""));
-  // The last line needs no end.
-  send("{\"id\":2," + std::string(kLoan));
-  close(in[1]);
-  EXPECT_TRUE(receive().starts_with("{\"id\":2,\"results\""));
-  EXPECT_EQ(receive(), "");
-  close(out[0]);
-  int status = -1;
-  waitpid(child, &status, 0);
-  EXPECT_EQ(status, 0);
 }
 
 TEST_F(Program, ALineThatIsTooLongIsReadOver) {
@@ -172,6 +130,21 @@ TEST_F(Program, ExitStatusesOutputsAndErrorLines) {
        "9 SubscriptOutOfRange"},
       // Chart lines are text; what the caller gave and nobody changed is not repeated.
       {chart, 0, "vRes: ...", ""},
+      {"call BarChart.MakeChart typ=SR 'vColDat=[[\"\",1,2],[\"a\",3,4]]' 'Colgif=[\"\",5,6]' "
+       "'Colleg=[0,0,0]' "
+       "'Ttl=[0,0,0]'",
+       0,
+       R"(vColDat: Data (rows 0 to 1)
+   0  1  2
+0     2  1
+1  a  4  3
+
+Colgif: Images (elements 0 to 2)
+0
+1  6
+2  5
+...)",
+       ""},
       // 1000 at 6.5/12 % a month: 5.42 and 2.72 of interest, so two payments of 504.07.
       {"call Calculator.SimpleLoanCalculator vPurchaseAmt=1000 vPeriod=2 vIntRate=6.5 --today 2001-01-31", 0,
        R"(The loan costs 504.07 a month for 2 months; interest comes to 8.14.

@@ -1,12 +1,8 @@
 // The executable when the machine fails: memory, files, pipes and signals.
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <array>
 
 #include "program.h"
 #include "support.h"
@@ -111,35 +107,6 @@ TEST_F(Program, FaultsOfFilesAndPipes) {
     EXPECT_EQ(WEXITSTATUS(std::system(whole.c_str())), fault.status);
     EXPECT_EQ(Read("err"), fault.said);
   }
-}
-
-TEST_F(Program, APipeThatDoesNotBlockIsWaitedFor) {
-  std::string requests;
-  for (int i = 0; i < 200; ++i) requests.append("{").append(kLoan).append("\n");
-  std::ofstream(Path("in"), std::ios::binary) << requests;
-  const std::string batch = " '" AMORTIX2_PROGRAM "' batch <'" + Path("in") + "' 2>/dev/null ";
-  ASSERT_EQ(std::system((batch + ">'" + Path("all") + "'").c_str()), 0);
-  int out[2];
-  ASSERT_EQ(pipe2(out, O_NONBLOCK), 0);
-  const pid_t child = fork();
-  if (child == 0) {
-    dup2(out[1], 1);
-    execl("/bin/sh", "sh", "-c", batch.c_str(), nullptr);
-    _exit(127);
-  }
-  close(out[1]);
-  fcntl(out[0], F_SETFL, 0);
-  usleep(100'000);  // until the pipe is full
-  std::string all;
-  std::array<char, 4096> piece;
-  for (ssize_t count; (count = read(out[0], piece.data(), piece.size())) > 0;) {
-    all.append(piece.data(), static_cast<std::size_t>(count));
-  }
-  close(out[0]);
-  int status = -1;
-  waitpid(child, &status, 0);
-  EXPECT_EQ(status, 0);
-  EXPECT_EQ(all, Read("all"));
 }
 
 }  // namespace

@@ -133,15 +133,16 @@ TEST(Json, StrangersAreKeptWithinLimits) {
     EXPECT_EQ(Answer(row[0], {.notes = true, .strangers = true}, kClock), row[1]) << row[0];
     EXPECT_NE(Answer(row[0], {.notes = true}, kClock), row[1]);
   }
-  // A text of 1000 characters in 525 cells has more than 2^19; the same in half of them is drawn.
+  // A text of 1002 characters may stand in 523 cells, which have not more than 2^19: two a line, and five
+  // beside.
   const auto chart = [](std::size_t lines) {
-    std::string request = R"({"call":"SvgChart.AxisRange","with":{"Title":")" + std::string(1000, 'x');
+    std::string request = R"({"call":"SvgChart.AxisRange","with":{"Title":")" + std::string(1002, 'x');
     request += R"("},"args":{"vColDat":[["","a"])";
     for (std::size_t i = 1; i < lines; ++i) request += R"(,["",1])";
     return Answer(request + "]}}", {.strangers = true}, kClock);
   };
-  EXPECT_NE(chart(263).find("a text is too long for so many cells"), std::string::npos);
-  EXPECT_TRUE(chart(130).starts_with(R"({"results":{"vTop":)")) << chart(130);
+  EXPECT_NE(chart(260).find("a text is too long for so many cells"), std::string::npos);
+  EXPECT_TRUE(chart(259).starts_with(R"({"results":{"vTop":)")) << chart(259);
 }
 
 TEST(Json, WhatAnAmortizationReturnsCanBeGivenAgain) {

@@ -38,16 +38,6 @@ HRESULT CalculateEarly(_Calculator& calculator, double amount, Loan& loan) {
                                          place(1), place(2), place(3), place(4), place(5), place(6));
 }
 
-template <class Interface>
-concept TakesMisspeltCalls = requires {
-  &Interface::SimpleLoanCalculater;
-};
-template <class Interface>
-concept TakesCalls = requires {
-  &Interface::SimpleLoanCalculator;
-};
-static_assert(TakesCalls<_Calculator> && !TakesMisspeltCalls<_Calculator>);
-
 constexpr HRESULT kOverflow = ResultCode(ErrorNumber::Overflow);
 
 void EarlyBoundAnswersAsLateBound() {
