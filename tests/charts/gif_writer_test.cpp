@@ -102,9 +102,10 @@ TEST(GifLzw, EveryLengthOfTheLastBlock) {
 
 TEST(GifWriter, BytesOfTwoPixels) {
   Palette palette(2, 3);
+  palette.Set(0, {4, 5, 6});
   palette.Set(1, {10, 20, 30});
   const Bytes expected{'G', 'I', 'F',  '8',  '7',  'a',  2,    0, 1,  0, 0xF7, 0, 0,  // header
-                       0,   0,   0,    10,   20,   30,                                // the palette as it is
+                       4,   5,   6,    10,   20,   30,                                // the palette as it is
                        ',', 0,   0,    0,    0,    2,    0,    1, 0,  0,              // image
                        8,   5,   0x00, 0x03, 0x08, 0x08, 0x08, 0, ';'};  // 256, 1, 2, 257 in 9 bits each
   EXPECT_EQ(EncodeGif(Paint(2, 1, [](int x, int) { return x + 1; }), palette), expected);

@@ -164,6 +164,37 @@ TEST(SvgChart, TextsAreEscapedEverywhere) {
   EXPECT_EQ(std::ranges::count(drawn, '<'), std::ranges::count(draw(std::string(evil.size(), 'x')), '<'));
 }
 
+using Point = std::pair<double, double>;
+
+/// The points of the first line.
+std::vector<Point> PointsOf(const std::string& svg) {
+  const std::size_t start = svg.find(" d=\"M") + 4;
+  const std::string path = svg.substr(start, svg.find('"', start) - start);
+  const std::regex point("[ML]([^,]*),([^MLh]*)");
+  std::vector<Point> points;
+  for (std::sregex_iterator at(path.begin(), path.end(), point), none; at != none; ++at) {
+    points.emplace_back(std::stod((*at)[1]), std::stod((*at)[2]));
+  }
+  return points;
+}
+
+TEST(SvgChart, RowsStandAtTheirNumbersAndDates) {
+  const std::pair<const char*, Array> cases[] = {
+      {"number", Table({{"", ""}, {0, 1}, {10, 2}, {40, 4}, {20, 3}})},
+      {"date",
+       Table({{"", ""}, {"2001-01-01", 1}, {"2001-01-11", 2}, {"2001-02-10", 4}, {"2001-01-21", 3}})}};
+  for (const auto& [kind, table] : cases) {
+    SvgChart chart;
+    chart.RowAxisKind(kind);
+    const auto points = PointsOf(Lines(chart, table));
+    ASSERT_EQ(points.size(), 4U) << kind;
+    const auto [start, end] = std::pair(points.front(), points.back());
+    EXPECT_NEAR((points[1].first - start.first) / (end.first - start.first), 0.25, 1e-3);
+    EXPECT_NEAR((points[2].first - start.first) / (end.first - start.first), 0.5, 1e-3);
+    EXPECT_NEAR((points[2].second - start.second) / (end.second - start.second), 2.0 / 3, 1e-3);
+  }
+}
+
 // A spike among ten thousand points is drawn at its full height, in a picture of bounded size.
 TEST(SvgChart, ThinningKeepsExtremes) {
   Array table = Numbers(10000, 1, [](int row, int) { return std::round(100 * std::sin(row * 0.1)) + 200; });
@@ -183,16 +214,9 @@ TEST(SvgChart, ThinningKeepsExtremes) {
   EXPECT_EQ(std::ranges::max(bars, {}, value).title, "r4321: 900");
   EXPECT_EQ(std::ranges::min(bars, {}, value).title, "r8765: -100");
 
-  const std::string svg = Lines(chart, table);
-  const std::string path = svg.substr(svg.find(" d=\"M") + 4);
-  const std::regex point("[ML]([^,]*),([^MLh\"]*)");
-  double highest = 1e9, lowest = 0;
-  const std::string points = path.substr(0, path.find('"'));
-  for (std::sregex_iterator at(points.begin(), points.end(), point), none; at != none; ++at) {
-    highest = std::min(highest, std::stod((*at)[2]));
-    lowest = std::max(lowest, std::stod((*at)[2]));
-  }
-  EXPECT_NEAR(lowest - highest, 1000 / (ToDouble(top) - ToDouble(bottom)) * 300, 0.02);
+  const auto points = PointsOf(Lines(chart, table));
+  const auto [highest, lowest] = std::ranges::minmax(points, {}, &Point::second);
+  EXPECT_NEAR(lowest.second - highest.second, 1000 / (ToDouble(top) - ToDouble(bottom)) * 300, 0.02);
 }
 
 TEST(SvgChart, TableAndWordsSayWhatThePictureShows) {
@@ -348,6 +372,7 @@ TEST(SvgScale, RoundValuesAndDays) {
             "2001-01-30 2001-01-31 2001-02-01 2001-02-02 2001-02-03 ");
   EXPECT_EQ(names(MakeDate(2001, 2, 2), MakeDate(2002, 1, 1)),
             "Mar 2001 May 2001 Jul 2001 Sep 2001 Nov 2001 Jan 2002 ");
+  EXPECT_EQ(names(MakeDate(2001, 1, 1), MakeDate(2001, 7, 4)), "Jan 2001 Mar 2001 May 2001 Jul 2001 ");
   EXPECT_EQ(names(MakeDate(1999, 6, 1), MakeDate(2021, 1, 1)), "2000 2005 2010 2015 2020 ");
 }
 
