@@ -195,6 +195,46 @@ TEST(SvgChart, RowsStandAtTheirNumbersAndDates) {
   }
 }
 
+Point PlaceOf(const std::string& text, const std::string& svg) {
+  const std::regex element("<text[^>]* x=\"([^\"]*)\" y=\"([^\"]*)\"[^>]*>" + text + "</text>");
+  std::smatch found;
+  return std::regex_search(svg, found, element) ? Point{std::stod(found[1]), std::stod(found[2])} : Point{};
+}
+
+// In the middle of its bar, a value just above it or below one below zero.
+TEST(SvgChart, LabelsStandByTheirBars) {
+  SvgChart chart;
+  chart.AltFormatStr("0!");
+  chart.ValueLabelMode("on");
+  chart.NegativeBars(1);
+  const std::string svg =
+      Bars(chart, Table({{"", "s"}, {"a", 30}, {"b", -20}, {"c", 5}, {"d", -90}}), kMissing);
+  for (const SvgBar& bar : BarsOf(svg)) {
+    const Point row = PlaceOf(bar.title.substr(0, 1), svg);
+    EXPECT_NEAR(row.first, bar.x + bar.width / 2, 0.02) << bar.title;
+    if (row == PlaceOf("d", svg)) continue;  // it reaches the end of the axis, with no room below
+    const Point value = PlaceOf(bar.title.substr(3), svg);
+    EXPECT_NEAR(value.first, bar.x + bar.width / 2, 0.02) << bar.title;
+    const bool isBelow = bar.Value() < 0;
+    const double away = isBelow ? value.second - bar.y - bar.height : bar.y - value.second;
+    EXPECT_TRUE(away > (isBelow ? 9 : 2) && away < (isBelow ? 16 : 9)) << bar.title << " " << away;
+  }
+}
+
+TEST(SvgChart, LinesHaveMarkersOfFourShapesAndDotsForSinglePoints) {
+  const std::string svg =
+      Lines(SvgChart(), Table({{"", 1, 1, 1, 1, 1}, {"a", 1, 2, 3, 4, 5}, {"b", 5, kNull, 3, 2, 1}}));
+  const auto count = [&](const char* part) {
+    const std::regex pattern(part);
+    return std::distance(std::sregex_iterator(svg.begin(), svg.end(), pattern), std::sregex_iterator());
+  };
+  EXPECT_EQ(count("<circle[^>]*/><title>"), 4);  // of two points each, the second series' one
+  EXPECT_EQ(count("<rect[^>]*/><title>"), 1);
+  EXPECT_EQ(count(" d=\"M[^LZ\"]*L[^LZ\"]*L[^LZ\"]*Z\"/><title>"), 2);
+  EXPECT_EQ(count(" d=\"M[^LZ\"]*L[^LZ\"]*L[^LZ\"]*L[^LZ\"]*Z\"/><title>"), 2);
+  EXPECT_EQ(count("h0\""), 1);
+}
+
 // A spike among ten thousand points is drawn at its full height, in a picture of bounded size.
 TEST(SvgChart, ThinningKeepsExtremes) {
   Array table = Numbers(10000, 1, [](int row, int) { return std::round(100 * std::sin(row * 0.1)) + 200; });
