@@ -130,14 +130,14 @@ TEST_F(Program, ExitStatusesOutputsAndErrorLines) {
        "9 SubscriptOutOfRange"},
       // Chart lines are text; what the caller gave and nobody changed is not repeated.
       {chart, 0, "vRes: ...", ""},
-      {"call BarChart.MakeChart typ=SR 'vColDat=[[\"\",1,2],[\"a\",3,4]]' 'Colgif=[\"\",5,6]' "
+      {"call BarChart.MakeChart typ=SR 'vColDat=[[\"\",0.0012345678,2],[\"a\",3,4]]' 'Colgif=[\"\",5,6]' "
        "'Colleg=[0,0,0]' "
        "'Ttl=[0,0,0]'",
        0,
        R"(vColDat: Data (rows 0 to 1)
-   0  1  2
-0     2  1
-1  a  4  3
+   0  1         2
+0     2  0.001235
+1  a  4  3.000000
 
 Colgif: Images (elements 0 to 2)
 0
@@ -249,7 +249,7 @@ TEST_F(Program, OutKeepsTheOldFileUntilTheNewOneIsComplete) {
 
 TEST_F(Program, ValuesComeFromFilesAndStandardInput) {
   std::ofstream(Path("table.csv"), std::ios::binary)
-      << "\xEF\xBB\xBF,\"A, \"\"B\"\"\"\r\n2001-01-31,1.5\n\nx,2";
+      << "\xEF\xBB\xBF,\"A,\n\"\"B\"\"\"\r\n2001-01-31,1.5\n\nx,2";
   std::ofstream(Path("list.csv"), std::ios::binary) << "1\n2e3\n";
   std::ofstream(Path("bad.csv"), std::ios::binary) << "1,2\n\n3\n";
   std::ofstream(Path("value.json"), std::ios::binary) << " [[1, null]] \n";
@@ -259,7 +259,7 @@ TEST_F(Program, ValuesComeFromFilesAndStandardInput) {
     const std::size_t at = out.find("\"detArray\":");
     return std::to_string(status) + " " + (at == std::string::npos ? Read("err") : out.substr(at + 11));
   };
-  EXPECT_EQ(reply("@" + Path("table.csv")), R"(1 [["","A, \"B\""],["2001-01-31",1.5],["x",2]]}})"
+  EXPECT_EQ(reply("@" + Path("table.csv")), R"(1 [["","A,\n\"B\""],["2001-01-31",1.5],["x",2]]}})"
                                             "\n");
   EXPECT_EQ(reply("@" + Path("list.csv")), "1 [[1],[2000]]}}\n");
   EXPECT_EQ(reply("@" + Path("value.json")), "1 [[1,null]]}}\n");
