@@ -69,8 +69,8 @@ Array ComparisonGrid(const ComparedLoan& first, const ComparedLoan& second, Diff
   return grid;
 }
 
-Array TermTable(const ComparedLoan& loan, std::int32_t lastColumn) {
-  return LoanTable(loan.schedule, ToLong(loan.months), lastColumn);
+Variant TermTable(const Variant& result, const ComparedLoan& loan, std::int32_t lastColumn) {
+  return LoanTable(result, loan.schedule, ToLong(loan.months), lastColumn);
 }
 
 }  // namespace amortix2::calculators

@@ -35,6 +35,6 @@ Array ComparisonGrid(const ComparedLoan& first, const ComparedLoan& second, Diff
                      bool hasRates);
 
 /// One row for each month of the loan's term, and the opening row.
-Array TermTable(const ComparedLoan& loan, std::int32_t lastColumn = kDetailColumns);
+Variant TermTable(const Variant& result, const ComparedLoan& loan, std::int32_t lastColumn = kDetailColumns);
 
 }  // namespace amortix2::calculators

@@ -37,8 +37,9 @@ struct Results {
     const auto& [current, proposed] = answer;
     Array table = ComparisonGrid(current, proposed, Difference::FirstLessSecond, false);
     // A bi-weekly schedule has more lines than its term has months.
-    Array newDetail = LoanTable(proposed.schedule, static_cast<std::int32_t>(proposed.schedule.size()) - 1);
-    Array currentDetail = TermTable(current);
+    Variant newDetail =
+        LoanTable(newDet, proposed.schedule, static_cast<std::int32_t>(proposed.schedule.size()) - 1);
+    Variant currentDetail = TermTable(currDet, current);
     grid = std::move(table);
     currDet = std::move(currentDetail);
     newDet = std::move(newDetail);

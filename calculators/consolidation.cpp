@@ -118,7 +118,7 @@ void Calculator::LoanConsolidationCalculator(const Variant& vCurrBal, const Vari
   for (const ComparedLoan& loan : answer.current) WriteColumn(currentGrid, column++, loan);
   WriteColumn(currentGrid, column, answer.together);
   Array currentDetail = TableOf(answer.current, answer.together.months);
-  Array newDetail = TermTable(answer.proposed);
+  Variant newDetail = TermTable(vNewDet, answer.proposed);
 
   vGrid = std::move(grid);
   vCurrGrid = std::move(currentGrid);

@@ -166,7 +166,7 @@ void Calculator::MonthlyLeaseCalculator(const Variant& vDummy, Number vPrincipal
     return;
   }
   const LeaseAnswer answer = Solve(question);
-  Array detail = LoanTable(answer.schedule, static_cast<std::int32_t>(answer.schedule.size()) - 1);
+  Variant detail = LoanTable(vDetArr, answer.schedule, static_cast<std::int32_t>(answer.schedule.size()) - 1);
   vResPrincipal = answer.amount;
   vResPayment = answer.payment;
   vResPeriod = answer.payments;
@@ -188,9 +188,11 @@ void Calculator::SimpleLeaseCalculator(const Variant& vDummy, Number vPrincipal,
   const Date startDate = DateOrToday(vStartDate, clock_);
   const enumFrequencyType payments{ToLong(vPayMode)};
   const double rate = RatePerPayment(vIntRate, payments, enumFrequencyType{ToLong(vIntMode)});
+  Variant detail;  // made in any case: its dates change
   MonthlyLeaseCalculator(vDummy, vPrincipal, vPayment, vPeriod, rate, vPrepays, vEndingBal, startDate,
                          vResPrincipal, vResPayment, vResPeriod, vResIntRate, vResPrepays, vResEndingBal,
-                         vResTotPayments, vResTotInterest, vDetArr);
+                         vResTotPayments, vResTotInterest, detail);
+  vDetArr = std::move(detail);
 
   // The results stand when the dates fail.
   const PaymentDates dates(startDate, enumFrequencyType{ToInteger(payments)}, vResPeriod.GetDouble());

@@ -25,6 +25,12 @@ class Filling {
   bool isFinished_ = false;
 };
 
+bool IsTable(const Variant& value, Bounds rows, Bounds columns) {
+  if (value.Type() != VariantType::Array) return false;
+  const Array& array = value.GetArray();
+  return array.Dimension(1) == rows && array.Dimension(2) == columns;
+}
+
 }  // namespace
 
 LoanAnswer AnswerOf(tLoanDesc loan) {
@@ -44,7 +50,7 @@ LoanAnswer SolveRecord(tLoanDesc loan) {
 }
 
 void LoanResults::Echo(double amount, double pay, double months, double rate, std::int32_t lastColumn) const {
-  Array detail = Table(ToLong(months), lastColumn);
+  Variant detail = EmptyTable(detArray, ToLong(months), lastColumn);
   purchaseAmt = amount;
   payment = pay;
   period = months;
@@ -56,10 +62,10 @@ void LoanResults::Echo(double amount, double pay, double months, double rate, st
 
 Variant LoanResults::TakeTable(const LoanAnswer& answer, std::optional<Date> opening) const {
   const std::int32_t lastRow = ToLong(answer.months);
-  Array& echoed = detArray.GetArray();
-  if (echoed.Dimension(1) != Bounds{0, lastRow} || echoed.Dimension(2) != Bounds{0, kDetailColumns}) {
-    return LoanTable(answer.schedule, lastRow, kDetailColumns, opening);
+  if (!IsTable(detArray, {0, lastRow}, {0, kDetailColumns})) {
+    return LoanTable(detArray, answer.schedule, lastRow, kDetailColumns, opening);
   }
+  Array& echoed = detArray.GetArray();
   Filling filling(echoed);
   LoadLoanTable(answer.schedule, opening, echoed);
   filling.Finish();

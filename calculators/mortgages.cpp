@@ -39,7 +39,7 @@ void WriteMortgage(const MortgageAnswer& answer, Variant& vNewPrincipal, Variant
   vNewPayment = answer.loan.payment;
   vNewTaxes = answer.propertyTax;
   vNewFees = answer.fees;
-  vNewDet = LoanTable(answer.loan.schedule, ToLong(answer.loan.months));
+  vNewDet = LoanTable(vNewDet, answer.loan.schedule, ToLong(answer.loan.months));
 }
 
 }  // namespace

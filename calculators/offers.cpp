@@ -27,8 +27,8 @@ ComparedLoan Solved(const PurchaseLoan& offer, const OfferQuestion& question) {
 void Write(const OfferComparison& answer, Difference difference, std::int32_t lastColumn, Variant& vGrid,
            Variant& vCurrDet, Variant& vNewDet) {
   Array grid = ComparisonGrid(answer.first, answer.second, difference, true);
-  Array firstDetail = TermTable(answer.first, lastColumn);
-  Array secondDetail = TermTable(answer.second, lastColumn);
+  Variant firstDetail = TermTable(vNewDet, answer.first, lastColumn);
+  Variant secondDetail = TermTable(vCurrDet, answer.second, lastColumn);
   vGrid = std::move(grid);
   vCurrDet = std::move(secondDetail);
   vNewDet = std::move(firstDetail);

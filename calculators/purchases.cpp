@@ -144,7 +144,8 @@ void Calculator::BalloonLoanPaymentCalculator(Number vPurchaseAmt, Number vDownP
                                                      .paymentsBefore = vBalloonAtPeriod,
                                                      .startDate = DateOrToday(vStartDate, clock_)});
   const auto lastRow = static_cast<std::int32_t>(answer.schedule.size()) - 1;
-  Array detail = LoanTable(answer.schedule, lastRow);
+  Array detail = Table(lastRow);
+  LoadLoanTable(answer.schedule, {}, detail);
   detail.At(lastRow, 3) = answer.lastPrincipal;
   detail.At(lastRow, 5) = std::int16_t{0};
   vPrincipal = answer.amount;

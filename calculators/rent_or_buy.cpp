@@ -131,8 +131,8 @@ void Calculator::RentVsBuyComparison(Number vRent, Number vRentInc, Number vRent
       .outlook = {.taxPercent = vIncTaxRate, .growthPercent = vInvGrowthRate, .monthsKept = vSellByDate},
       .startDate = clock_.Today()});
   Array grid = GridOf(answer);
-  Array rentDetail = LoanTable(answer.rent.schedule, ToInteger(answer.months));
-  Array buyDetail = LoanTable(answer.buy.schedule, ToInteger(answer.loanMonths));
+  Variant rentDetail = LoanTable(vRentDet, answer.rent.schedule, ToInteger(answer.months));
+  Variant buyDetail = LoanTable(vBuyDet, answer.buy.schedule, ToInteger(answer.loanMonths));
   vGrid = std::move(grid);
   vRentDet = std::move(rentDetail);
   vBuyDet = std::move(buyDetail);

@@ -104,8 +104,8 @@ void Calculator::SimpleSavingsCalculator(const Variant& vStartDate, Number vCurr
   vResIntRate = answer.annualPercent;
   vResEndingBal = answer.endingBalance;
   vResEndDate = answer.endDate;
-  vDetArray =
-      SavingsTable(answer.schedule, RowsWithLeftover(answer.startDate, question.frequency, answer.endDate));
+  vDetArray = SavingsTable(vDetArray, answer.schedule,
+                           RowsWithLeftover(answer.startDate, question.frequency, answer.endDate));
 }
 
 }  // namespace amortix2

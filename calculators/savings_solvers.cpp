@@ -22,7 +22,7 @@ void AnswerYears(SavingsQuestion question, const Variant& vStartDate, double fre
   const std::int32_t rows =
       CountWholePeriods(question.startDate, question.frequency, *question.endDate).periods;
   const SavingsAnswer answer = Solve(question);
-  Array detail = SavingsTable(answer.schedule, rows);
+  Variant detail = SavingsTable(vDetArray, answer.schedule, rows);
   result = answer.*found;
   vDetArray = std::move(detail);
 }
@@ -39,7 +39,7 @@ SavingsQuestion SingleSum(const Variant& vStartDate, const Variant& vEndingDate,
 SavingsAnswer AnswerSum(const SavingsQuestion& question, Variant& vDetArray) {
   const std::int32_t rows = RowsWithLeftover(question.startDate, question.frequency, *question.endDate);
   SavingsAnswer answer = Solve(question);
-  vDetArray = SavingsTable(answer.schedule, rows);
+  vDetArray = SavingsTable(vDetArray, answer.schedule, rows);
   return answer;
 }
 

@@ -71,7 +71,7 @@ void Calculator::SpendingCalculator(const Variant& vStartDate, Number vCurrBal, 
   vResIntRate = answer.annualPercent;
   const WholePeriods lasting = CountWholePeriods(answer.startDate, question.frequency, answer.endDate);
   vResPeriod = answer.lastsForEver ? std::int16_t{-1} : ToInteger(lasting.periods);
-  vDetArray = SavingsTable(answer.schedule, lasting.periods + (lasting.days != 0 ? 1 : 0));
+  vDetArray = SavingsTable(vDetArray, answer.schedule, lasting.periods + (lasting.days != 0 ? 1 : 0));
 }
 
 }  // namespace amortix2

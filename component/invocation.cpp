@@ -20,6 +20,7 @@ void Invocation::Call(Object& object) {
   for (Value& argument : arguments_) places.push_back(argument.Get());
   std::optional<Value> result;
   if (member_->result != nullptr) result.emplace(*member_->result);
+  const calculators::LeavingOut leavingOut(leftOut_);
   member_->call(object.Get(), places, result ? result->Get() : nullptr);
   result_ = std::move(result);
 }

@@ -4,12 +4,14 @@
 // leaves it out would have, then the call, then the values as they stand. And ways to walk through records,
 // and to read values without copying them. Nothing here knows where values come from or go to.
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <type_traits>
 #include <vector>
 
+#include "amortix2/calculators/left_out_tables.h"
 #include "amortix2/component/description.h"
 
 namespace amortix2 {
@@ -26,6 +28,12 @@ class Invocation {
   std::span<Value> Arguments() noexcept { return arguments_; }
   std::span<const Value> Arguments() const noexcept { return arguments_; }
 
+  /// The table that comes back in this argument, a result, will not be read and need not be made: it may stay
+  /// Empty. `lines`, which must outlive the call, gets a loan's then, before the call has succeeded.
+  void LeaveOut(std::size_t argument, const calculators::LinesTaker* lines = nullptr) {
+    leftOut_.push_back({arguments_[argument].Get(), lines});
+  }
+
   /// Calls the member of `object`, which is of the member's class. Raises what the member raises;
   /// by-reference arguments then hold what had been written.
   void Call(Object& object);
@@ -36,6 +44,7 @@ class Invocation {
  private:
   const MemberInfo* member_;
   std::vector<Value> arguments_;
+  std::vector<calculators::LeftOutTable> leftOut_;
   std::optional<Value> result_;
 };
 

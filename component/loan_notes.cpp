@@ -78,9 +78,7 @@ void NoPositiveRate(NoteWriter& notes) {
 void LastBalance(NoteWriter& notes) {
   if (notes.Member().group == Group::Leases) return;
   for (const ParameterInfo& parameter : notes.Member().parameters) {
-    const bool isLoan = parameter.table == &describing::kLoanSchedule ||
-                        parameter.table == &describing::kLoanScheduleWithRate;
-    if (!isLoan || parameter.role != Role::Result) continue;
+    if (!describing::IsLoanSchedule(parameter.table) || parameter.role != Role::Result) continue;
     const Variant* table = notes.Out().Find({.parameter = parameter.name});
     if (!table || table->Type() != VariantType::Array || table->GetArray().Rank() != 2) continue;
     const std::int32_t last = table->GetArray().Dimension(1).upper;

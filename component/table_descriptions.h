@@ -21,6 +21,9 @@ constexpr TableInfo Schedule(std::span<const HeadingInfo> columns) {
 }
 inline constexpr TableInfo kLoanSchedule = Schedule(std::span(kLoanColumns).first(5));
 inline constexpr TableInfo kLoanScheduleWithRate = Schedule(kLoanColumns);
+constexpr bool IsLoanSchedule(const TableInfo* table) {
+  return table == &kLoanSchedule || table == &kLoanScheduleWithRate;
+}
 /// The schedules of several loans side by side, each with its rate.
 inline constexpr TableInfo kSchedulesSideBySide{
     .title = "Schedules", .columns = kLoanColumns, .isSchedule = true, .repeats = true};

@@ -11,6 +11,9 @@
 
 namespace amortix2 {
 
+/// Raises what LoadSaveDetArray raises for lines 1 to lastRow of such a table.
+void CheckSavingsLines(std::span<const tSchedule> lines, std::int32_t lastRow);
+
 /// Writes the start date and the opening balance into row 0, leaving its other cells as they are, and lines 1
 /// to lastRow into the rows of the same number. Raises SubscriptOutOfRange at the first row, column or line
 /// that is not there, Overflow for a growth beyond doubles; what was written before it stays.

@@ -18,9 +18,9 @@ namespace amortix2::cli {
 namespace {
 
 /// A line that goes out in large pieces.
-class Piece {
+class BufferedLine {
  public:
-  explicit Piece(int descriptor) : descriptor_(descriptor) {}
+  explicit BufferedLine(int descriptor) : descriptor_(descriptor) {}
   void Add(std::string_view text) {
     while (!text.empty()) {
       if (used_ == bytes_.size()) Flush();
@@ -42,11 +42,11 @@ class Piece {
 
 void WriteLine(int descriptor, std::string_view start, std::span<const std::string_view> parts) noexcept {
   try {
-    Piece piece(descriptor);
-    piece.Add(start);
-    for (const std::string_view part : parts) piece.Add(part);
-    piece.Add("\n");
-    piece.Flush();
+    BufferedLine line(descriptor);
+    line.Add(start);
+    for (const std::string_view part : parts) line.Add(part);
+    line.Add("\n");
+    line.Flush();
   } catch (...) {  // there is nobody to tell
     return;
   }

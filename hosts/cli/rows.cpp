@@ -70,8 +70,8 @@ class Worker {
     const auto failure = json::Try([&] {
       ReadCells(record, job_.names, cells_, job_.from);
       isRead = true;
-      call_.Run(cells_);
       if (job_.sum) return AddUp();
+      call_.Run(cells_);
       RecordWriter row = BeginRow(done.out);
       for (const ParameterInfo* result : job_.plan.Results()) {
         row.AddValue(ResultName(result), call_.Result(result));
@@ -89,8 +89,17 @@ class Worker {
   }
 
   void AddUp() {
-    const Value& schedule = call_.Result(job_.sum);
-    WithVariant(schedule.Type(), schedule.Get(), [&](const Variant& table) { sums_.Add(table); });
+    bool isTaken = false;
+    const calculators::LinesTaker take = [&](std::span<const tSchedule> lines, Date opening) {
+      schedule_.Read(lines, opening);
+      isTaken = true;
+    };
+    call_.Run(cells_, job_.sum, &take);
+    if (!isTaken) {
+      const Value& result = call_.Result(job_.sum);
+      WithVariant(result.Type(), result.Get(), [&](const Variant& table) { schedule_.Read(table); });
+    }
+    sums_.Add(schedule_);
   }
 
   /// A row with what passes through.
@@ -114,6 +123,7 @@ class Worker {
   const Job& job_;
   RowCall call_;
   json::CsvRecord cells_;
+  CentSchedule schedule_;
   MonthSums sums_;
 };
 

@@ -83,6 +83,10 @@ bool RowPlan::IsGiven(const ParameterInfo& input) const {
          std::ranges::any_of(constants_, [&](const auto& constant) { return constant.first == input.name; });
 }
 
+bool RowPlan::Wants(const ParameterInfo& result) const {
+  return std::ranges::find(results_, &result) != results_.end();
+}
+
 std::vector<std::string> RowPlan::Doubts(const json::CsvRecord& names) const {
   std::vector<std::string> doubts;
   std::vector<std::string_view> open;
@@ -107,7 +111,8 @@ std::vector<std::string> RowPlan::Doubts(const json::CsvRecord& names) const {
 
 RowCall::RowCall(const RowPlan& plan, const Clock& clock) : plan_(plan), clock_(clock) {}
 
-void RowCall::Run(const json::CsvRecord& cells) {
+void RowCall::Run(const json::CsvRecord& cells, const ParameterInfo* schedule,
+                  const calculators::LinesTaker* lines) {
   if (!object_ || plan_.Method().changesObject) object_.emplace(plan_.Class(), clock_);
   call_.emplace(plan_.Method());
   const ParameterInfo* const first = plan_.Method().parameters.data();
@@ -126,6 +131,15 @@ void RowCall::Run(const json::CsvRecord& cells) {
       argument.Type().write(argument.Get(), *value);
     } else {
       json::ReadArgument(ReadPlainValue(cell, plan_.Method(), *parameter), argument);
+    }
+  }
+  for (std::size_t i = 0; i < call_->Arguments().size(); ++i) {
+    const ParameterInfo& result = first[i];
+    if (!result.table || result.role != Role::Result) continue;
+    if (&result == schedule) {
+      call_->LeaveOut(i, lines);
+    } else if (schedule || !plan_.Wants(result)) {
+      call_->LeaveOut(i);
     }
   }
   call_->Call(*object_);

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "amortix2/calculators/left_out_tables.h"
 #include "amortix2/component/invocation.h"
 #include "amortix2/json/csv.h"
 #include "amortix2/json/lookup.h"
@@ -44,6 +45,8 @@ class RowPlan {
   /// Parameters that came back, or null for what the method returns.
   const std::vector<const ParameterInfo*>& Results() const noexcept { return results_; }
 
+  bool Wants(const ParameterInfo& result) const;
+
   /// A word on each column that is probably meant as an input.
   std::vector<std::string> Doubts(const json::CsvRecord& names) const;
 
@@ -65,8 +68,11 @@ class RowCall {
   /// Both must outlive it.
   RowCall(const RowPlan& plan, const Clock& clock);
 
-  /// Calls with a row's cells. Raises what reading and calling raise.
-  void Run(const json::CsvRecord& cells);
+  /// Calls with a row's cells for the plan's results. Raises what reading and calling raise.
+  void Run(const json::CsvRecord& cells) { Run(cells, nullptr, nullptr); }
+
+  /// Calls for one schedule: `lines` gets its lines, or else it is in the result `schedule` as a table.
+  void Run(const json::CsvRecord& cells, const ParameterInfo* schedule, const calculators::LinesTaker* lines);
 
   /// Of the last call that raised nothing.
   const Value& Result(const ParameterInfo* result) const;

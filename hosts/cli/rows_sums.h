@@ -9,26 +9,21 @@
 // payments add up and the last balance counts.
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "amortix2/automation/array.h"
-#include "amortix2/component/description.h"
+#include "amortix2/cli/rows_schedule.h"
 
 namespace amortix2::cli {
 
-/// Raises RequestError for a result that is no schedule of one loan.
-void NeedLoanSchedule(const ParameterInfo& result);
-
 class MonthSums {
  public:
-  /// Adds a loan's schedule, each cell rounded to whole cents. Raises RequestError for a table without
-  /// lines or dates and for an amount beyond 22 million million; nothing is added then.
-  void Add(const Variant& schedule);
+  /// Raises RequestError for a schedule without lines and for an amount beyond 22 million million; nothing is
+  /// added then.
+  void Add(const CentSchedule& schedule);
   void Add(MonthSums other);
 
   /// Adds sums that AppendTo wrote. Raises RequestError for anything else, when some may be added.
@@ -39,14 +34,10 @@ class MonthSums {
 
  private:
   __extension__ using Cents = __int128;  // room for 2^76 of the largest amount
-  static constexpr std::size_t kAmounts = 4;
-  static constexpr std::size_t kBalance = 3;
   using Amounts = std::array<Cents, kAmounts>;
-  using OpenAmounts = std::array<std::uint64_t, kAmounts>;  // modulo 2^64, so that all can be taken off again
+  using OpenAmounts = std::array<std::int64_t, kAmounts>;
 
-  void ReadMonths(const Array& schedule);
-  template <class Operation>
-  double Book(const Operation& operation);
+  void Book(std::span<const CentLine> lines);
   void Close();
   void Cover(std::int32_t first, std::int32_t last);
   Amounts& At(std::int32_t month) { return months_[static_cast<std::size_t>(month - first_)]; }
@@ -56,11 +47,6 @@ class MonthSums {
   std::vector<Amounts> months_;
   std::vector<OpenAmounts> openMonths_;  // what is not in months_ yet
   double open_ = 0;                      // the most that may be in one of them
-
-  // Of the schedule that is being added: its lines' months, and the cells from the first one's date on.
-  std::vector<std::int32_t> lineMonths_;
-  std::span<const Variant> cells_;
-  std::size_t width_ = 0;
 };
 
 }  // namespace amortix2::cli

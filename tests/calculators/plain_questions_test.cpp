@@ -9,6 +9,7 @@
 
 #include "amortix2/calculators/comparisons.h"
 #include "amortix2/calculators/leases.h"
+#include "amortix2/calculators/left_out_tables.h"
 #include "amortix2/calculators/savings.h"
 #include "amortix2/calculators/tables.h"
 #include "component/described_request.h"
@@ -23,6 +24,8 @@ using Values = std::vector<Variant>;
 
 std::int32_t Last(const Schedule& lines) { return static_cast<std::int32_t>(lines.size()) - 1; }
 
+const Variant kResult;  // what tables are made for
+
 // An answer's members as the method hands them back.
 
 Values ResultsOf(const LeaseAnswer& a) {
@@ -34,17 +37,18 @@ Values ResultsOf(const LeaseAnswer& a) {
           a.residual,
           a.totalPayments,
           a.totalInterest,
-          LoanTable(a.schedule, Last(a.schedule))};
+          LoanTable(kResult, a.schedule, Last(a.schedule))};
 }
 
 Values ResultsOf(const SavingsAnswer& a) {
   return {a.balance, a.deposit,       a.endingBalance,
-          a.endDate, a.annualPercent, SavingsTable(a.schedule, Last(a.schedule))};
+          a.endDate, a.annualPercent, SavingsTable(kResult, a.schedule, Last(a.schedule))};
 }
 
 Values ResultsOf(const SpendingAnswer& a) {
   const auto periods = static_cast<std::int16_t>(a.lastsForEver ? -1 : Last(a.schedule));
-  return {a.balance, a.withdrawal, a.annualPercent, periods, SavingsTable(a.schedule, Last(a.schedule))};
+  return {a.balance, a.withdrawal, a.annualPercent, periods,
+          SavingsTable(kResult, a.schedule, Last(a.schedule))};
 }
 
 /// Random questions. No value is 0, which would stand for the unknown.
@@ -205,6 +209,28 @@ TEST(PlainQuestion, NamesTheSecondQuantityLeftOut) {
   EXPECT_EQ(argumentOf(LeaseQuestion{.payment = 400, .residual = 1}), "annualPercent");
   EXPECT_EQ(argumentOf(SavingsQuestion{.balance = 0, .deposit = 1, .endingBalance = 9}), "periods");
   EXPECT_EQ(argumentOf(SpendingQuestion{.balance = 1, .withdrawal = 1, .periods = -1}), "periods");
+}
+
+TEST(LeftOutTables, RaiseWhatMadeOnesRaise) {
+  const tSchedule plain;
+  const tSchedule wide{.lineDate = {},
+                       .startingBalance = 1e308,
+                       .payment = 1e308,
+                       .intCredited = 1e308,
+                       .endingBalance = -1e308};
+  for (const Schedule& lines : {Schedule{}, {plain, plain}, {plain, wide}, {wide}}) {
+    for (const std::int32_t lastRow : {-1, 0, 1, 2, 40000}) {
+      const auto errors = [&] {
+        return std::vector{ErrorOf([&] { EmptyTable(kResult, lastRow, kDetailColumns); }),
+                           ErrorOf([&] { LoanTable(kResult, lines, lastRow); }),
+                           ErrorOf([&] { SavingsTable(kResult, lines, lastRow); })};
+      };
+      const auto made = errors();
+      const LeftOutTable leftOut{&kResult};
+      const LeavingOut leavingOut({&leftOut, 1});
+      EXPECT_EQ(errors(), made) << lines.size() << " lines, last row " << lastRow;
+    }
+  }
 }
 
 }  // namespace

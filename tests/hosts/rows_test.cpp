@@ -61,6 +61,21 @@ TEST_F(Program, RowsAreAnsweredInTheirPlaces) {
        "2027-01,500.00,500.00,0.00,800.00\r\n2027-02,600.00,600.00,0.00,200.00\r\n"
        "2027-03,100.00,100.00,0.00,100.00\r\n2027-04,100.00,100.00,0.00,0.00\r\n",
        "amortix2: line 4: 6 FixedPayment: vPeriod=40000 is too large\namortix2: 1 of 3 rows failed\n"},
+      // Tables of which cells change after the schedule: 100 a month, and 900 at the balloon; 200 a quarter,
+      // and the car for 600.
+      {"balloon vIntRate=0 --sum vDetArray",
+       "vPurchaseAmt,vPeriod,vBalloonAtPeriod,vStartDate\n1000,10,1,2026-12-01\n", 0,
+       "month,payments,principal,interest,balance\r\n2026-12,0.00,0.00,0.00,1000.00\r\n"
+       "2027-01,100.00,100.00,0.00,900.00\r\n2027-02,900.00,900.00,0.00,0.00\r\n",
+       ""},
+      {"lease-frequency vIntRate=0 vPayMode=quarterly vIntMode=monthly --sum vDetArr",
+       "vPrincipal,vPeriod,vEndingBal,vStartDate\n1000,2,600,2026-12-15\n", 0,
+       "month,payments,principal,interest,balance\r\n2026-12,0.00,0.00,0.00,1000.00\r\n"
+       "2027-01,0.00,0.00,0.00,1000.00\r\n2027-02,0.00,0.00,0.00,1000.00\r\n2027-03,200.00,200.00,0.00,800."
+       "00\r\n"
+       "2027-04,0.00,0.00,0.00,800.00\r\n2027-05,0.00,0.00,0.00,800.00\r\n2027-06,800.00,800.00,0.00,0."
+       "00\r\n",
+       ""},
       {"fixed", "", 2, "", "amortix2: the input has no header"},
       {"fixed --from jsonl", "", 0, "", ""},
       {"fixed", "vPeriod,TERM\n", 2, "", "amortix2: vPeriod is given twice"},
