@@ -221,6 +221,28 @@ TEST(SvgChart, LabelsStandByTheirBars) {
   }
 }
 
+// Of two series: a bar is a column wide, 80 pixels at most, of which one part of `count` stands free.
+TEST(SvgChart, BarsOverlapByTheirCountAndAreThinnedToFiftyBands) {
+  const Array pair = Table({{"", 0, 0}, {"A", 10, 20}});
+  for (const double count : {1, 2, 3}) {
+    SvgChart chart;
+    chart.MinimumOverlapCount(count);
+    const auto bars = BarsOf(Bars(chart, pair, "OV"));
+    EXPECT_NEAR(bars.at(0).width, 80, 0.02);
+    EXPECT_NEAR(bars.at(1).x - bars.at(0).x, 80 / count, 0.02);
+  }
+  SvgChart narrow;
+  narrow.SetGraphDimensions(100, 60);
+  EXPECT_EQ(BarsOf(Bars(narrow, Numbers(60, 3, [](int row, int) { return 1.0 * row; }), "")).size(), 180U);
+  SvgChart stacks;
+  stacks.ValueLabelMode("on");
+  stacks.NegativeBars(1);
+  const std::string svg =
+      Bars(stacks, Table({{"", 0, 0}, {"A", 10, 20}, {"B", -4, -5}, {"C", -40, 0}}), "ST");
+  EXPECT_NE(PlaceOf("\\$30", svg), Point());
+  EXPECT_NE(PlaceOf("-\\$9", svg), Point());
+}
+
 TEST(SvgChart, LinesHaveMarkersOfFourShapesAndDotsForSinglePoints) {
   const std::string svg =
       Lines(SvgChart(), Table({{"", 1, 1, 1, 1, 1}, {"a", 1, 2, 3, 4, 5}, {"b", 5, kNull, 3, 2, 1}}));
@@ -349,6 +371,11 @@ TEST(SvgChart, SettingsAndTheirLimits) {
   const SvgBar bar = BarsOf(Bars(small, one, kMissing)).front();
   EXPECT_EQ(bar.height, 40);
   EXPECT_EQ(BarsOf(Bars(small, one, "HZ")).front().width, 60);
+  const auto names = [](int count) {
+    return Bars(SvgChart(), Numbers(1, count, [](int, int) { return 1.0; }), "");
+  };
+  EXPECT_NE(names(41).find(">and 2 more<"), std::string::npos);
+  EXPECT_EQ(names(40).find(" more<"), std::string::npos);
   const auto isColour = [](const std::string& text) { return ReadColour(text).has_value(); };
   for (const char* text : {"red", "#1aF", "#09afAF", "abcdefghijklmnopqrstuvwx"})
     EXPECT_TRUE(isColour(text)) << text;
