@@ -48,13 +48,14 @@ bool Agree(const Tree& actual, const Tree& expected) {
   });
 }
 
-/// What a request without its tables is answered: the same but for them, which are not made then.
-void ExpectTheRest(std::string request, Tree whole) {
+/// A request for the tables alone, or for all but them, is answered alike; what it leaves out may not be
+/// made.
+void ExpectPart(std::string request, Tree whole, bool tables) {
   Tree only = Tree::array();
   if (whole.contains("return")) only.push_back("return");
   const Tree results = whole.value("results", Tree::object());
   for (const auto& [name, value] : results.items()) {
-    value.is_array() ? static_cast<void>(whole["results"].erase(name)) : only.push_back(name);
+    value.is_array() != tables ? static_cast<void>(whole["results"].erase(name)) : only.push_back(name);
   }
   request.insert(request.size() - 1, R"(,"only":)" + only.dump());
   EXPECT_EQ(Tree::parse(Answer(request, {}, kClock)), whole) << request;
@@ -75,7 +76,7 @@ TEST_P(Rows, HaveTheirAnswers) {
     Tree actual = Summary(reply.value("results", Tree::object()));
     if (reply.contains("error")) actual["error"] = reply["error"]["name"];
     EXPECT_TRUE(Agree(actual, Tree::parse(line.substr(results + 3)))) << line << "\nis " << actual;
-    if (GetParam() != std::string_view("engine")) ExpectTheRest(request, reply);
+    if (GetParam() != std::string_view("engine")) ExpectPart(request, reply, rows % 2 == 0);
   }
   EXPECT_GT(rows, 0);
 }
