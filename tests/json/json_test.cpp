@@ -14,6 +14,7 @@
 #include "amortix2/json/json_text.h"
 #include "amortix2/json/reply.h"
 #include "amortix2/json/request_error.h"
+#include "amortix2/json/strangers.h"
 #include "amortix2/json/variant_reader.h"
 #include "json/random_values.h"
 #include "property.h"
@@ -133,6 +134,11 @@ TEST(Json, StrangersAreKeptWithinLimits) {
     EXPECT_EQ(Answer(row[0], {.notes = true, .strangers = true}, kClock), row[1]) << row[0];
     EXPECT_NE(Answer(row[0], {.notes = true}, kClock), row[1]);
   }
+  std::string longest = R"({"call":"Calculator.SimpleLoanCalculator","only":["vTotPay"]})";
+  longest.resize(kLongestStrangersRequest, ' ');
+  EXPECT_EQ(Answer(longest, {.strangers = true}, kClock), R"({"results":{"vTotPay":0}})");
+  EXPECT_NE(Answer(longest + " ", {.strangers = true}, kClock).find("longer than 262144 bytes"),
+            std::string::npos);
   // A text of 1002 characters may stand in 523 cells, which have not more than 2^19: two a line, and five
   // beside.
   const auto chart = [](std::size_t lines) {

@@ -1,6 +1,7 @@
-// Whole answers of Calculator, row by row: "METHOD {arguments} | {results}" in a file of rows. A row names
-// every result that is not zero, an error by its name; of a table longer than 12 lines it has the number of
-// lines, the first, the middle and the last. Numbers may differ by 5e-7, the noise of sums of money.
+// Whole answers of Calculator, and of others by "CLASS.METHOD", row by row: "METHOD {arguments} | {results}"
+// in a file of rows. A row names every result that is not zero, an error by its name; of a table longer than
+// 12 lines it has the number of lines, the first, the middle and the last. Numbers may differ by 5e-7, the
+// noise of sums of money.
 
 #include <gtest/gtest.h>
 
@@ -70,8 +71,10 @@ TEST_P(Rows, HaveTheirAnswers) {
     const std::size_t arguments = line.find(' '), results = line.find(" | ");
     if (line.starts_with('#') || results == std::string::npos) continue;
     ++rows;
-    const std::string request = R"({"call":"Calculator.)" + line.substr(0, arguments) + R"(","args":)" +
-                                line.substr(arguments + 1, results - arguments - 1) + "}";
+    const std::string name = line.substr(0, arguments);
+    const std::string call = name.find('.') == std::string::npos ? "Calculator." + name : name;
+    const std::string request =
+        R"({"call":")" + call + R"(","args":)" + line.substr(arguments + 1, results - arguments - 1) + "}";
     const Tree reply = Tree::parse(Answer(request, {}, kClock));
     Tree actual = Summary(reply.value("results", Tree::object()));
     if (reply.contains("error")) actual["error"] = reply["error"]["name"];
@@ -82,7 +85,8 @@ TEST_P(Rows, HaveTheirAnswers) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Calculator, Rows,
-                         testing::Values("loans", "comparisons", "households", "savings", "engine"),
+                         testing::Values("loans", "comparisons", "households", "savings", "engine",
+                                         "strategy"),
                          [](const auto& file) { return file.param; });
 
 }  // namespace
