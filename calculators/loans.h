@@ -127,8 +127,8 @@ struct Debts {
   double other = 0;
 };
 
-/// The largest loan that an income qualifies for: housing takes at most 28 % of the income, and at most 36 % of
-/// what debts leave of it.
+/// The largest loan that an income qualifies for: housing takes at most 28 % of the income, and at most 36 %
+/// of what debts leave of it.
 struct QualificationQuestion {
   double annualIncome = 0;
   Debts debts = {};

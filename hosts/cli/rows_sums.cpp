@@ -95,8 +95,6 @@ void MonthSums::Add(const CentSchedule& schedule) {
   if (lines.empty()) {
     throw json::RequestError(ErrorNumber::TypeMismatch, "there is no schedule: the inputs determine no loan");
   }
-  const auto [first, last] = std::ranges::minmax(lines, {}, &CentLine::month);
-  Cover(first.month, last.month);
   // No month gets more than each line's amount, and a balance that stands.
   const double most = schedule.Largest() * static_cast<double>(lines.size() + 1);
   constexpr double kRoom = 0x1p62;
@@ -104,6 +102,8 @@ void MonthSums::Add(const CentSchedule& schedule) {
     throw json::RequestError(ErrorNumber::Overflow, "an amount is too large to be added up in cents");
   }
   if (open_ + most > kRoom) Close();
+  const auto [first, last] = std::ranges::minmax(lines, {}, &CentLine::month);
+  Cover(first.month, last.month);
   Book(lines);
   open_ += most;
 }
