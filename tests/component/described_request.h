@@ -20,11 +20,6 @@
 
 namespace amortix2 {
 
-class FixedDay final : public Clock {
- public:
-  Date Today() const override { return MakeDate(2026, 11, 21); }
-};
-
 inline Variant FromJson(std::string_view text) { return json::ToVariant(*json::ParseTree(text).tree); }
 
 /// One call of a described member: its inputs, what came back, and the error if there was one.
@@ -93,7 +88,7 @@ class DescribedRequest {
     throw std::runtime_error("no member is called " + address);
   }
 
-  FixedDay clock_;
+  FixedClock clock_{MakeDate(2026, 11, 21)};
   const ClassInfo* type_;
   Invocation call_;
   std::optional<Inputs> inputs_;
