@@ -216,6 +216,40 @@ TEST(SvgChart, LabelsStandByTheirBars) {
   }
 }
 
+// A name is a legend's, a setting's, a head's or a number; a colour is the page's where it is one.
+TEST(SvgChart, SeriesHaveTheirNamesAndColours) {
+  SvgChart chart;
+  chart.SeriesNames(List({"", "", "", "Given"}));
+  const Array table = Table({{"", "Head", 3, 4, 5}, {"a", 1, 2, 3, 4}});
+  Variant html, bars, lines;
+  chart.DataTable(table, List({"", "", "Legend"}), "", html);
+  chart.MakeChart(table, "", List({"", "red", "no colour", "#1a2b3c", "#ABC"}), "", "", "", "", bars);
+  chart.LineChart(table, Table({{0, 0, 0}, {1, 2.9, 300}, {255, 16, -5}, {0, 0, 0}, {9, 10, 11}}), "", lines);
+  const std::pair<const Variant*, const char*> cases[] = {
+      {&html,
+       "Head</th><th scope=\"col\">Legend</th><th scope=\"col\">Given</th><th scope=\"col\">Series 4</th>"},
+      {&bars, ".chart-series1{color:red}"},
+      {&bars, ".chart-series3{color:#1a2b3c}"},
+      {&bars, ".chart-series4{color:#ABC}"},
+      {&lines, ".chart-series1{color:#0102ff}"},
+      {&lines, ".chart-series2{color:#ff1000}"},
+      {&lines, ".chart-series4{color:#090a0b}"}};
+  for (const auto& [made, part] : cases) EXPECT_NE(made->GetString().find(part), std::string::npos) << part;
+}
+
+TEST(SvgChart, WordsNameSeriesWhereThereAreSeveral) {
+  const auto words = [](int series) {
+    Variant text;
+    SvgChart().AlternativeText(Numbers(1, series, [](int, int j) { return 1.0 * j; }), "", "", text);
+    return std::string(text.GetString());
+  };
+  EXPECT_EQ(words(8).find("more series"), std::string::npos);
+  EXPECT_TRUE(words(9).ends_with(" And 1 more series.")) << words(9);
+  EXPECT_NE(Bars(SvgChart(), Table({{"", "R"}, {"a", 3}}), "").find("Data: a: $3."), std::string::npos);
+  EXPECT_NE(Bars(SvgChart(), Table({{"", "R", "S"}, {"a", 3, 4}}), "").find("Data: a: R $3, S $4."),
+            std::string::npos);
+}
+
 // Of two series: a bar is a column wide, 80 pixels at most, of which one part of `count` stands free.
 TEST(SvgChart, BarsOverlapByTheirCountAndAreThinnedToFiftyBands) {
   const Array pair = Table({{"", 0, 0}, {"A", 10, 20}});
@@ -444,6 +478,13 @@ TEST(TextWidth, WhatIsNoCharacterCountsByItsBytes) {
                           "\xE0\x80\x80"sv, "\xED\xA0\x80"sv, "\xF4\x90\x80\x80"sv, "\xC3z"sv})
     EXPECT_EQ(FirstCodePoint(text).length, 1U) << text;
   EXPECT_EQ(FirstCodePoint("\xE2\x82\xAC").value, U'\u20AC');
+}
+
+TEST(EscapedMarkup, WhatMayNotStandInXmlIsReplaced) {
+  const std::string replaced = "\xEF\xBF\xBD";
+  std::string text;
+  AppendEscaped(text, "\t\x01\x7F\xC2\x80\xC2\x9F\xC2\xA0\xEF\xBF\xBE<");
+  EXPECT_EQ(text, "\t" + replaced + replaced + replaced + replaced + "\xC2\xA0" + replaced + "&lt;");
 }
 
 TEST(EscapedMarkup, NumbersHaveTwoDecimals) {
