@@ -209,6 +209,34 @@ TEST(BarChart, Settings) {
   EXPECT_EQ(ErrorOf([&] { chart.TotalGraphFrameWidth(40000); }), ErrorNumber::Overflow);
 }
 
+TEST(BarChart, OnlyReversedHorizontalBarsReverseTheRows) {
+  for (const std::string_view style : kStyles) {
+    BarPage page;
+    page.table = Table({{"", 0, 0, 0}, {"first", 1, 2, 3}, {"last", 4, 5, 6}});
+    const std::string text = page.Draw(style);
+    EXPECT_EQ(text.find("first") < text.find("last"), style != "HR") << style;
+  }
+}
+
+// Labels stand 10 pixels apart at least, and lines lower than 20 do not grow with their text: a row takes two
+// bars of 42, 5 and 3 pixels.
+TEST(BarChart, LabelsOfHorizontalBarsKeepApart) {
+  const struct {
+    std::int32_t rows;
+    int labels;
+  } cases[] = {{3, 3}, {29, 29}, {100, 50}};
+  for (const auto& [rows, labels] : cases) {
+    Array table({0, rows}, {0, 1});
+    for (Variant& cell : table.Cells()) cell = 1;
+    for (std::int32_t row = 0; row <= rows; ++row) table.At(row, 0) = "L";
+    BarPage page;
+    page.table = table;
+    const std::string text = page.Draw("HZ");
+    EXPECT_EQ(Count(text, "&nbsp;L&nbsp;"), labels) << rows;
+    EXPECT_EQ(Count(text, "line-height:1px") > 0, rows != 3) << rows;
+  }
+}
+
 TEST(BarChart, ReversedStacksReverseTheCallersArrays) {
   BarPage page;
   page.table = Table({{"", 1, 2, 3}, {"A", 4, 5, 6}});
