@@ -98,7 +98,11 @@ inline constexpr auto kMembers = std::tuple{
     method<&Calculator::SavingsRateCalculator>(
         Plan(19, "Rate for a goal", "savings-rate",
              "The interest rate that a savings plan needs to reach its goal.",
-             {.figure = "vIntRate", .sentences = {{"A rate of {vIntRate} reaches the goal."}}}),
+             {.figure = "vIntRate",
+              .sentences = {{.text = "No interest is needed, or no rate reaches the goal.",
+                             .when = SentenceInfo::When::Equal,
+                             .figure = "vIntRate"},
+                            {"A rate of {vIntRate} reaches the goal."}}}),
         {kStart, kBalance, kDeposit, kFreq, kYears, kGoal,
          kResRate.Named("vIntRate").Says("Interest a year that is needed").Echoes({}), kDetail}),
 

@@ -55,7 +55,7 @@ TEST(DateText, IsReadByItsRules) {
 TEST(DateText, HasTheSameDaysWithAnySign) {
   for (const int year : {1, 29, 30, 99, 100, 999, 1000, 1900, 2000, 2024, 2026, 9999}) {
     for (int monthAndDay = 0; monthAndDay < 10000; monthAndDay += monthAndDay % 100 == 39 ? 61 : 1) {
-      std::array<char, 16> text{};
+      std::array<char, 32> text{};
       std::snprintf(text.data(), text.size(), "%02d-%02d-%04d", monthAndDay / 100, monthAndDay % 100, year);
       std::string other = text.data();
       std::ranges::replace(other, '-', '/');
