@@ -30,10 +30,13 @@ TEST_F(Program, AnswersEveryLineInOrderAndInConstantMemory) {
   };
   ASSERT_EQ(Run("batch", MixedRequests(500)), 0);
   [[maybe_unused]] const long little = peak();
+#ifdef NDEBUG
   constexpr int kCount = 10000;
   ASSERT_EQ(Run("batch", MixedRequests(kCount)), 0);
-#ifdef NDEBUG  // debug builds carry the sanitizers, which keep what is freed
   EXPECT_LT(peak(), little + 4096);
+#else  // debug builds carry the sanitizers, which keep what is freed, and take their time
+  constexpr int kCount = 1000;
+  ASSERT_EQ(Run("batch", MixedRequests(kCount)), 0);
 #endif
   const auto lines = Lines();
   ASSERT_EQ(lines.size(), std::size_t{kCount});
