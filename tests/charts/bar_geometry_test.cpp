@@ -135,17 +135,18 @@ TEST(BarGeometry, LabelRowsFillTheWidth) {
     }
   }
   EXPECT_EQ(GroupLabelCells(40, 9, 58).size(), 6U);  // 1, 11, 21, 40, and two gaps
-  const auto gridLabels = [](ValueLabels mode, Pixels digit) {
+  const auto gridLabels = [](ValueLabels mode, Pixels digit, Pixels width = 380) {
     GridLabelWidths widths;
     for (std::size_t line = 0; line < widths.size(); ++line) widths[line] = line == 0 ? 4 * digit : 3 * digit;
     widths.back() = digit;
-    const auto cells = GridLabelCells(widths, mode, 380);
+    const auto cells = GridLabelCells(widths, mode, width);
     CheckLabelRow(
-        cells, 381, [&](int line) { return widths[static_cast<std::size_t>(line)]; },
-        [](int line) { return 380 - 38 * line; });
+        cells, width + 1, [&](int line) { return widths[static_cast<std::size_t>(line)]; },
+        [&](int line) { return static_cast<double>(width - width / 10 * line); });
     return std::ranges::count_if(cells, [](const LabelCell& c) { return c.kind != LabelCell::Kind::Gap; });
   };
   using enum ValueLabels;
+  EXPECT_EQ(gridLabels(All, 6, 390), 11);  // 6 + 4 + 1.5 digits fill a tenth
   for (const Pixels digit : {1, 4, 5, 7, 14, 15, 19, 21, 47, 76}) {
     EXPECT_EQ(gridLabels(Ends, digit), 2);
     EXPECT_EQ(gridLabels(EndsAndMiddle, digit), digit < 35 ? 3 : 2);  // 4 + 1.5 digits in 190 pixels

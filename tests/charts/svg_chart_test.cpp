@@ -390,6 +390,19 @@ TEST(SvgChart, SettingsAndTheirLimits) {
     const bool isCrowded = row.mode == "on";
     EXPECT_EQ(isCrowded ? "" : labels(chart, line, true), row.ofLine) << row.mode;
   }
+  const auto axis = [](int mode) {
+    SvgChart chart;
+    chart.YLabelMode(mode);
+    const std::string svg = Bars(chart, Table({{"", "s"}, {"a", 10}}), kMissing);
+    static const std::regex kValue(">([0-9]+)</text>");
+    std::string found;
+    for (std::sregex_iterator at(svg.begin(), svg.end(), kValue), none; at != none; ++at)
+      found += at->str(1) + " ";
+    return found;
+  };
+  EXPECT_EQ(axis(2), "10 0 ");
+  EXPECT_EQ(axis(3), "10 5 0 ");
+  EXPECT_EQ(axis(11), "10 9 8 7 6 5 4 3 2 1 0 ");
   SvgChart small;
   small.SetGraphDimensions(1, 1);
   const Array one = Table({{"", 0}, {"A", 1}});
