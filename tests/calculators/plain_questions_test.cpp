@@ -166,6 +166,14 @@ TEST(PlainQuestion, WhatIsNotSaidIsZero) {
   } rows[] = {
       {"adjustable vPurchaseAmt=1000 vPeriod=12", "vTotPay",
        Solve(PurchaseQuestion{.loan = home}).totalPayments},
+      {"adjustable vPurchaseAmt=1000 vPeriod=12 vIntRate=5 vRateCap=20 vRateInc1=1 vIncDelay1=2 vIncDelay2=3",
+       "vTotInt",
+       Solve(PurchaseQuestion{
+                 .loan = {.price = 1000,
+                          .months = 12,
+                          .annualPercent = 5,
+                          .changes = {.firstPayment = 2, .firstIncrease = 1, .everyMonths = 3, .cap = 20}}})
+           .totalInterest},
       {"adjustable vPurchaseAmt=1000 vPeriod=12", "vTotInt",
        Solve(PurchaseQuestion{.loan = home}).totalInterest},
       {"afford vPayment=500 vPeriod=12", "vNewPrincipal",

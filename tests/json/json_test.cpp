@@ -111,6 +111,16 @@ TEST(Json, BytesThatAreNoUtf8) {
   EXPECT_EQ(Read(std::string_view("1\0", 2)).second, "no JSON: byte 2");
 }
 
+TEST(Json, BytesAreWrittenInBase64) {
+  const std::pair<std::vector<std::uint8_t>, const char*> rows[] = {
+      {{}, "\"\""}, {{'f'}, "\"Zg==\""}, {{'f', 'o'}, "\"Zm8=\""}, {{'f', 'o', 'o', 0xFF}, "\"Zm9v/w==\""}};
+  for (const auto& [bytes, expected] : rows) {
+    std::string out;
+    AppendBase64(out, bytes);
+    EXPECT_EQ(out, expected);
+  }
+}
+
 TEST(Json, DepthIsBounded) {
   for (const std::size_t depth : {kDeepest, kDeepest + 1, std::size_t{1'000'000}}) {
     const auto reason = Read(std::string(depth, '[') + std::string(depth, ']')).second;
