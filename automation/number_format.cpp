@@ -30,4 +30,11 @@ std::string NumberPattern::Format(double value) const {
   return text;
 }
 
+std::string NumberPattern::FormatFigure(double value) const {
+  std::string text = Format(value);
+  if (text.ends_with('.')) text.pop_back();
+  if (text.find_first_of("123456789") == std::string::npos && text.starts_with('-')) text.erase(0, 1);
+  return text;
+}
+
 }  // namespace amortix2

@@ -31,6 +31,10 @@ class NumberPattern {
   /// What AppendTo appends.
   std::string Format(double value) const;
 
+  /// As people read a figure: without a point that no decimal follows, and without the minus sign of a value
+  /// that rounds to zero. Raises as AppendTo does.
+  std::string FormatFigure(double value) const;
+
  private:
   std::array<PatternSection, 3> sections_;  // for positive values, for negative values, for zero
 };

@@ -88,14 +88,11 @@ std::string PlainFigure(const Inputs& inputs, const Variant& value, Unit unit) {
   switch (unit) {
     case Unit::Currency:
     case Unit::MonthlyCurrency:
-      return kMoney.Format(number);
+      return kMoney.FormatFigure(number);
     case Unit::Percent:
     case Unit::AnnualPercent:
-    case Unit::PercentagePoints: {
-      std::string text = kRate.Format(number);
-      if (text.ends_with('.')) text.pop_back();
-      return text + " %";
-    }
+    case Unit::PercentagePoints:
+      return kRate.FormatFigure(number) + " %";
     case Unit::Days:
       return Counted(number, {"day", "days"});
     case Unit::Months:

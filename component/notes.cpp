@@ -45,7 +45,7 @@ std::string GivenText(const Variant& value) {
 
 std::string MoneyText(double amount) {
   static const NumberPattern kMoney("#,##0.00");
-  return kMoney.Format(amount);
+  return kMoney.FormatFigure(amount);
 }
 
 void Apply(std::span<const Rule> rules, NoteWriter& notes) {

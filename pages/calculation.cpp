@@ -26,10 +26,7 @@ bool IsZero(const json::Fields& arguments, std::string_view name) {
 std::string TypedText(const ParameterInfo& parameter, std::string_view value) {
   static const NumberPattern kMoney("#,##0.##");
   const auto number = IsMoney(parameter.unit) ? ParseNumber(value) : std::nullopt;
-  if (!number) return std::string(value);
-  std::string text = kMoney.Format(*number);
-  if (text.ends_with('.')) text.pop_back();
-  return text;
+  return number ? kMoney.FormatFigure(*number) : std::string(value);
 }
 std::string TypedText(const ParameterInfo& parameter, const json::Tree& value) {
   const std::string* text = json::TextOf(value);

@@ -10,14 +10,6 @@
 namespace amortix2::pages {
 namespace {
 
-std::string Formatted(const NumberPattern& pattern, double number) {
-  std::string text = pattern.Format(number);
-  if (text.ends_with('.')) text.pop_back();
-  // A negative amount that rounds to zero is none.
-  if (text.find_first_of("123456789") == std::string::npos && text.starts_with('-')) text.erase(0, 1);
-  return text;
-}
-
 std::string DateOf(Date date) {
   std::string text(View(FormatMonthDayYear(date)));
   text[2] = text[5] = '/';
@@ -26,7 +18,7 @@ std::string DateOf(Date date) {
 
 std::string Counted(double number, const char* one, const char* many) {
   static const NumberPattern kCount("#,##0.######");
-  return Formatted(kCount, number) + (number == 1 ? one : many);
+  return kCount.FormatFigure(number) + (number == 1 ? one : many);
 }
 
 /// From two years on in years and months.
@@ -62,13 +54,13 @@ std::string CellText(const Variant& value, Unit unit) {
   switch (unit) {
     case Unit::Currency:
     case Unit::MonthlyCurrency:
-      return Formatted(kMoney, number);
+      return kMoney.FormatFigure(number);
     case Unit::Percent:
     case Unit::AnnualPercent:
     case Unit::PercentagePoints:
-      return Formatted(kOther, number) + "%";
+      return kOther.FormatFigure(number) + "%";
     default:
-      return Formatted(kOther, number);
+      return kOther.FormatFigure(number);
   }
 }
 

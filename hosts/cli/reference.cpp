@@ -41,9 +41,7 @@ std::string_view OmittedText(const ParameterInfo& parameter) {
 
 std::string GroupedNumber(double value) {
   static const NumberPattern kPattern("#,##0.###");
-  std::string text = kPattern.Format(value);
-  if (text.ends_with('.')) text.pop_back();
-  return text;
+  return kPattern.FormatFigure(value);
 }
 
 std::string RangeText(const ParameterInfo& parameter) {

@@ -59,6 +59,10 @@ const std::vector<FormatCase> kFormats{
 TEST(NumberFormat, FollowsItsPattern) {
   for (const FormatCase& c : kFormats)
     EXPECT_EQ(NumberPattern(c.pattern).Format(c.value), c.expected) << c.value << " by " << c.pattern;
+  const NumberPattern figure("#,##0.##");
+  for (const auto& [value, expected] :
+       {std::pair(-0.001, "0"), {-0.01, "-0.01"}, {-1200.0, "-1,200"}, {2.5, "2.5"}})
+    EXPECT_EQ(figure.FormatFigure(value), expected);
 }
 
 // Every short pattern of the special characters, on numbers of every size: the text has at most 309 digits,

@@ -10,6 +10,7 @@
 #include "amortix2/calculators/comparisons.h"
 #include "amortix2/calculators/leases.h"
 #include "amortix2/calculators/left_out_tables.h"
+#include "amortix2/calculators/rent_or_buy.h"
 #include "amortix2/calculators/savings.h"
 #include "amortix2/calculators/tables.h"
 #include "component/described_request.h"
@@ -159,6 +160,8 @@ TEST(PlainQuestion, WhatIsNotSaidIsZero) {
   const PurchaseLoan home{.price = 1000, .months = 12};
   const CurrentLoan loan{.balance = 1000, .payment = 100};
   const auto costOf = [](const auto& question) { return Compare(question).proposed.costInTodaysMoney; };
+  const RentOrBuyAnswer living =
+      Compare(RentOrBuyQuestion{.rent = {.rent = 100}, .buy = {.loan = {.price = 100000, .months = 36}}});
   const struct {
     const char* request;
     const char* figure;
@@ -188,6 +191,8 @@ TEST(PlainQuestion, WhatIsNotSaidIsZero) {
       {"biweekly vCurrBal=1000 vCurrPay=100", "vGrid(4,2)", costOf(BiWeeklyQuestion{.current = loan})},
       {"points vPurchaseAmt=1000 vPeriod1=12 vPeriod2=12", "vGrid(4,2)",
        Compare(OfferQuestion{.first = home, .second = home}).second.costInTodaysMoney},
+      {"rent-or-buy vRent=100 vPurchaseAmt=100000 vPeriod=36", "vGrid(10,1)", living.rent.netCost},
+      {"rent-or-buy vRent=100 vPurchaseAmt=100000 vPeriod=36", "vGrid(10,2)", living.buy.netCost},
       {"lease-frequency vPrincipal=1000 vPayment=100 vPeriod=1 vIntRate=6 vPayMode=4 vIntMode=4",
        "vResTotPayments",
        Solve(LeaseQuestion{.amount = 1000, .payment = 100, .annualPercent = 6}).totalPayments},
