@@ -34,7 +34,8 @@ enum class Difference { FirstLessSecond, SecondLessFirst };
 Array ComparisonGrid(const ComparedLoan& first, const ComparedLoan& second, Difference difference,
                      bool hasRates);
 
-/// One row for each month of the loan's term, and the opening row.
+/// The table for `result` as LoanTable makes it: a row for each month of the loan's term, and the opening
+/// row.
 Variant TermTable(const Variant& result, const ComparedLoan& loan, std::int32_t lastColumn = kDetailColumns);
 
 }  // namespace amortix2::calculators

@@ -34,6 +34,15 @@ class Invocation {
     leftOut_.push_back({arguments_[argument].Get(), lines});
   }
 
+  /// Leaves out every table that comes back, but those of which `isRead(parameter)` is true.
+  template <class IsRead>
+  void LeaveOutTables(const IsRead& isRead) {
+    for (std::size_t i = 0; i < arguments_.size(); ++i) {
+      const ParameterInfo& parameter = member_->parameters[i];
+      if (parameter.table && parameter.role == Role::Result && !isRead(parameter)) LeaveOut(i);
+    }
+  }
+
   /// Calls the member of `object`, which is of the member's class. Raises what the member raises;
   /// by-reference arguments then hold what had been written.
   void Call(Object& object);

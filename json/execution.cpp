@@ -91,16 +91,10 @@ void Execution::Run(const Request& request, const Clock& clock, Keep keep, Calle
     inputs_.emplace(target.method, call_->Arguments());
     Try([&] { today_ = clock.Today(); });
   }
-  if (keep == Keep::Results) LeaveOutUnwanted();
-  call_->Call(*object_);
-}
-
-void Execution::LeaveOutUnwanted() {
-  if (!only_) return;
-  for (std::size_t i = 0; i < call_->Arguments().size(); ++i) {
-    const ParameterInfo& parameter = call_->Member().parameters[i];
-    if (parameter.table && parameter.role == Role::Result && !Wants(parameter.name)) call_->LeaveOut(i);
+  if (only_ && keep == Keep::Results) {
+    call_->LeaveOutTables([&](const ParameterInfo& result) { return Wants(result.name); });
   }
+  call_->Call(*object_);
 }
 
 bool Execution::Wants(std::string_view result) const noexcept {

@@ -75,7 +75,6 @@ class Execution {
   void Apply(const Fields& settings, Caller caller);
   void Run(const Request& request, const Clock& clock, Keep keep, Caller caller);
 
-  void LeaveOutUnwanted();
   void Check(const Invocation& call);
 
   std::optional<Failure> error_;

@@ -26,8 +26,9 @@ std::string DescribedBy(const FormField& field) {
 }
 
 /// What every control has. Texts must live as long as the element is written.
-struct Ties {
-  explicit Ties(const FormField& field) : ids(DescribedBy(field)), isWrong(!field.error.empty()) {}
+struct SharedAttributes {
+  explicit SharedAttributes(const FormField& field)
+      : ids(DescribedBy(field)), isWrong(!field.error.empty()) {}
 
   Attribute DescribedByThem() const { return Attribute::If(!ids.empty(), {"aria-describedby", ids}); }
   Attribute Invalid() const { return Attribute::If(isWrong, {"aria-invalid", "true"}); }
@@ -60,25 +61,25 @@ void CloseField(EscapedMarkup& out, const FormField& field) {
 }
 
 void AppendInput(EscapedMarkup& out, const FormField& field, std::string_view type, bool isDecimal) {
-  const Ties ties(field);
+  const SharedAttributes shared(field);
   out.Leaf("input", {{"type", type},
                      {"id", field.id},
                      {"name", field.name},
                      {"value", field.value},
                      Attribute::If(isDecimal, {"inputmode", "decimal"}),
                      {"autocomplete", "off"},
-                     ties.DescribedByThem(),
-                     ties.Invalid()});
+                     shared.DescribedByThem(),
+                     shared.Invalid()});
 }
 
 void AppendArea(EscapedMarkup& out, const FormField& field) {
-  const Ties ties(field);
+  const SharedAttributes shared(field);
   out.Open("textarea", {{"id", field.id},
                         {"name", field.name},
                         {"rows", 9},
                         {"spellcheck", "false"},
-                        ties.DescribedByThem(),
-                        ties.Invalid()});
+                        shared.DescribedByThem(),
+                        shared.Invalid()});
   out.Text("\n");  // browsers drop the first line end
   out.Text(field.value);
   out.Close();
@@ -86,8 +87,8 @@ void AppendArea(EscapedMarkup& out, const FormField& field) {
 
 void AppendSelect(EscapedMarkup& out, const FormField& field, const ChoicesInfo& choices,
                   std::string_view unlisted) {
-  const Ties ties(field);
-  out.Open("select", {{"id", field.id}, {"name", field.name}, ties.DescribedByThem(), ties.Invalid()});
+  const SharedAttributes shared(field);
+  out.Open("select", {{"id", field.id}, {"name", field.name}, shared.DescribedByThem(), shared.Invalid()});
   const ChoiceInfo* const chosen = field.value.empty() ? nullptr : FindChoice(choices, field.value);
   for (const ChoiceInfo& choice : choices.choices) {
     if (choice.text == unlisted) continue;

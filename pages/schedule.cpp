@@ -144,8 +144,8 @@ Array ColumnsOf(const Array& array, std::int32_t from, std::int32_t to, std::int
 }
 
 /// A single schedule, of one of `lines` on the page.
-void AppendOne(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter, const Array& array,
-               const std::string& title, std::int64_t lines) {
+void AppendOneSchedule(EscapedMarkup& out, const Inputs& inputs, const ParameterInfo& parameter,
+                       const Array& array, const std::string& title, std::int64_t lines) {
   const Schedule schedule{*parameter.table, array, json::TableOf(inputs, parameter, array)};
   const std::vector<YearOfLines> years = YearsOf(schedule.info, array);
   OpenTable(out, title + " by year");
@@ -214,7 +214,7 @@ void AppendSchedule(EscapedMarkup& out, const Inputs& inputs, const ParameterInf
                     const Array& array) {
   const std::int64_t lines = array.Dimension(1).Count();
   if (!parameter.table->repeats) {
-    return AppendOne(out, inputs, parameter, array, std::string(parameter.title), lines);
+    return AppendOneSchedule(out, inputs, parameter, array, std::string(parameter.title), lines);
   }
   TableInfo table = *parameter.table;
   table.repeats = false;
@@ -224,8 +224,9 @@ void AppendSchedule(EscapedMarkup& out, const Inputs& inputs, const ParameterInf
   const std::int64_t count = (std::int64_t{array.Dimension(2).upper} - table.firstColumn + 1) / width;
   for (std::int32_t i = 0; i < count; ++i) {
     const std::string title = std::string(inputs.Member().lists.front().title) + " " + std::to_string(i + 1);
-    AppendOne(out, inputs, one, ColumnsOf(array, table.firstColumn + i * width, table.firstColumn, width),
-              title, count * lines);
+    AppendOneSchedule(out, inputs, one,
+                      ColumnsOf(array, table.firstColumn + i * width, table.firstColumn, width), title,
+                      count * lines);
   }
 }
 

@@ -133,15 +133,9 @@ void RowCall::Run(const json::CsvRecord& cells, const ParameterInfo* schedule,
       json::ReadArgument(ReadPlainValue(cell, plan_.Method(), *parameter), argument);
     }
   }
-  for (std::size_t i = 0; i < call_->Arguments().size(); ++i) {
-    const ParameterInfo& result = first[i];
-    if (!result.table || result.role != Role::Result) continue;
-    if (&result == schedule) {
-      call_->LeaveOut(i, lines);
-    } else if (schedule || !plan_.Wants(result)) {
-      call_->LeaveOut(i);
-    }
-  }
+  if (schedule) call_->LeaveOut(static_cast<std::size_t>(schedule - first), lines);
+  call_->LeaveOutTables(
+      [&](const ParameterInfo& result) { return schedule ? &result == schedule : plan_.Wants(result); });
   call_->Call(*object_);
 }
 
