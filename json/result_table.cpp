@@ -65,27 +65,9 @@ class Titles {
   std::int64_t items_ = 0;  // of the list for each of which the headings stand again; 0: they do not
 };
 
-bool IsEmptyRow(const Array& array, std::int64_t row) {
-  const Bounds columns = array.Dimension(2);
-  for (std::int64_t column = columns.lower; column <= columns.upper; ++column) {
-    if (array.At(row, column).Type() != VariantType::Empty) return false;
-  }
-  return true;
-}
-
-bool IsEmptyColumn(const Array& array, std::int64_t column) {
-  const Bounds rows = array.Dimension(1);
-  for (std::int64_t row = rows.lower; row <= rows.upper; ++row) {
-    if (array.At(row, column).Type() != VariantType::Empty) return false;
-  }
-  return true;
-}
-
-/// Where a dimension begins: where the description says, unless the array begins later; else behind what is
-/// empty.
-std::int32_t FirstOf(Bounds bounds, const TableInfo* table, std::int32_t described, bool isEmptyAtFirst) {
-  if (table) return std::max(bounds.lower, std::min(described, bounds.upper));
-  return bounds.lower + (bounds.Count() > 1 && isEmptyAtFirst ? 1 : 0);
+/// Where a dimension begins: where the description says, unless the array begins later.
+std::int32_t FirstOf(Bounds bounds, const TableInfo* table, std::int32_t TableInfo::*first) {
+  return table ? std::max(bounds.lower, std::min(table->*first, bounds.upper)) : bounds.lower;
 }
 
 ResultTable ListTable(const ParameterInfo& parameter, const Array& array) {
@@ -93,7 +75,7 @@ ResultTable ListTable(const ParameterInfo& parameter, const Array& array) {
   const auto headings = table ? table->rows : std::span<const HeadingInfo>();
   ResultTable result;
   result.rows = array.Dimension(1);
-  result.rows.lower = FirstOf(result.rows, table, table ? table->firstRow : 0, false);
+  result.rows.lower = FirstOf(result.rows, table, &TableInfo::firstRow);
   result.columns.emplace_back(parameter.title);
   const std::int64_t first = result.rows.lower;
   for (std::int64_t row = first; !headings.empty() && row <= result.rows.upper; ++row) {
@@ -151,10 +133,8 @@ ResultTable TableOf(const Inputs& inputs, const ParameterInfo& parameter, const 
   const bool repeats = table && table->repeats;
   Bounds rows = array.Dimension(1);
   Bounds columns = array.Dimension(2);
-  const bool isEmpty = rows.Count() == 0 || columns.Count() == 0;
-  columns.lower = FirstOf(columns, table, table ? table->firstColumn : 0,
-                          !isEmpty && IsEmptyColumn(array, columns.lower));
-  rows.lower = FirstOf(rows, table, table ? table->firstRow : 0, !isEmpty && IsEmptyRow(array, rows.lower));
+  rows.lower = FirstOf(rows, table, &TableInfo::firstRow);
+  columns.lower = FirstOf(columns, table, &TableInfo::firstColumn);
 
   const Titles columnTitles(inputs, table ? table->columns : std::span<const HeadingInfo>(),
                             table ? table->columnAxis : nullptr, repeats);

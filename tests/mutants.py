@@ -30,7 +30,8 @@ PASSED_OVER = re.compile(r"^\s*(#|//|template|static_assert|using|friend)|operat
 TESTS = {"engine": "rows engine calculators component", "calculators": "rows calculators component hosts",
          "charts": "charts json hosts", "json": "json rows hosts component"}
 # And what else may, with the programs that it needs.
-OTHERS = {"charts": ("browser[.]|decode_gifs", ["amortix2", "gif_samples"])}
+MADE_FILES = ["amortix2", "amortix2_documents", "amortix2_com_files"]
+OTHERS = {"charts": ("made_files|browser[.]|decode_gifs", [*MADE_FILES, "gif_samples"]), "json": ("made_files", MADE_FILES)}
 
 
 def mutations(path):

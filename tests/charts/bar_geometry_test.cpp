@@ -50,6 +50,7 @@ TEST(BarGeometry, GroupPatterns) {
       // 30 / (3 + 3 - 1) = 6 stands out; every bar is three of these wide.
       {OverlappedGroup(Settings(), 12, 3), "12 groups: 6[1-1] 6[1-2] 6[1-3] 6[2-3] 6[3-3]"},
       {OverlappedGroup(Settings(2.5), 12, 2), "12 groups: 8[1-1] 8[1-2] 8[2-2]"},  // 2.5 rounds to even
+      {OverlappedGroup(Settings(2.6), 12, 2), "12 groups: 8[1-1] 8[1-2] 8[1-2] 8[2-2]"},
       // At most 80 / 3, to even: 27; at least 2.
       {OverlappedGroup(Settings(), 1, 2), "1 groups: 27[1-1] 27[1-2] 27[1-2] 27[2-2]"},
       {OverlappedGroup(Settings(), 300, 2), "300 groups: 2[1-1] 2[1-2] 2[1-2] 2[2-2]"},
@@ -116,6 +117,22 @@ void CheckLabelRow(const std::vector<LabelCell>& cells, Pixels width, WidthOf wi
     }
   }
   ASSERT_EQ(end, width);
+}
+
+// Pixels from left to right: 16 groups of 7, labels of 20 and 3 beside them, then a tenth of 390 for each
+// value.
+TEST(BarGeometry, LabelsStandAtTheirPixels) {
+  const auto row = [](const std::vector<LabelCell>& cells) {
+    std::string text;
+    for (const LabelCell& cell : cells) {
+      text += (text.empty() ? "" : " ") + std::to_string(cell.width);
+      if (cell.kind != LabelCell::Kind::Gap) text += "[" + std::to_string(cell.index) + "]";
+    }
+    return text;
+  };
+  EXPECT_EQ(row(GroupLabelCells(16, 7, 20)), "27[1] 23[6] 12 23[11] 5 23[16]");
+  EXPECT_EQ(row(GridLabelCells({24, 18, 18, 18, 18, 18, 18, 18, 18, 18, 6}, ValueLabels::All, 390)),
+            "6[10] 24 18[9] 21 18[8] 21 18[7] 21 18[6] 21 18[5] 21 18[4] 21 18[3] 21 18[2] 21 18[1] 6 25[0]");
 }
 
 TEST(BarGeometry, LabelRowsFillTheWidth) {

@@ -56,6 +56,15 @@ TEST(SvgScale, RoundValuesAndDays) {
             "Mar 2001 May 2001 Jul 2001 Sep 2001 Nov 2001 Jan 2002 ");
   EXPECT_EQ(names(MakeDate(2001, 1, 1), MakeDate(2001, 7, 4)), "Jan 2001 Mar 2001 May 2001 Jul 2001 ");
   EXPECT_EQ(names(MakeDate(1999, 6, 1), MakeDate(2021, 1, 1)), "2000 2005 2010 2015 2020 ");
+  for (const int years : {1, 2, 5, 10, 20, 50, 100, 200, 500, 1000, 2000}) {
+    std::string expected;
+    for (int i = 0; i < 4; ++i) expected += std::to_string(2000 + i * years) + " ";
+    std::string text;
+    const Date end = MakeDate(2000 + 3 * years, 1, 1);
+    for (const AxisTick& tick : DateTicks(MakeDate(2000, 1, 1).serial, end.serial, 4))
+      text += tick.text + " ";
+    EXPECT_EQ(text, expected);
+  }
 }
 
 TEST(TextWidth, WhatIsNoCharacterCountsByItsBytes) {

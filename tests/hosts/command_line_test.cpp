@@ -212,6 +212,7 @@ Cost in today's money       1200.00              1200.00        0.00
        "vDownChange=12000 "
        "vStepY=1 --csv vGrid",
        0, "Interest rate,12000.00,24000.00,36000.00\r\n0.000,9000,8000,7000\r\n", ""},
+      {chart + " --csv vColDat", 0, "0,1\r\n,\r\na,1\r\n", ""},
       {"batch", 0, "", ""},
       {"batch extra", 2, "", "extra"},
   };

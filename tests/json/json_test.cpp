@@ -13,6 +13,7 @@
 #include "amortix2/json/description_json.h"
 #include "amortix2/json/json_text.h"
 #include "amortix2/json/reply.h"
+#include "amortix2/json/reply_size.h"
 #include "amortix2/json/request_error.h"
 #include "amortix2/json/strangers.h"
 #include "amortix2/json/variant_reader.h"
@@ -159,6 +160,22 @@ TEST(Json, StrangersAreKeptWithinLimits) {
   };
   EXPECT_NE(chart(260).find("a text is too long for so many cells"), std::string::npos);
   EXPECT_TRUE(chart(259).starts_with(R"({"results":{"vTop":)")) << chart(259);
+}
+
+// So close that nothing is set aside in vain, and an answer that is too long is not written at all.
+TEST(Json, TheLengthOfAReplyIsKnownBeforeItIsWritten) {
+  const std::string values[] = {"5", "\"" + std::string(3000, 'x') + "\"",
+                                "[1,[-0.12345678901234567e-300,2]]"};
+  for (const std::string& value : values) {
+    for (const Form form : {Form::Plain, Form::WithTypes}) {
+      const std::string text = R"({"call":"BarChart.MakeChart","args":{"Xaxis":)" + value + "}}";
+      const Execution execution(ReadRequest(*ParseTree(text).tree), kClock);
+      const ReplySize size = SizeOfReply(execution, form);
+      const std::size_t written = ReplyTo(execution, {form}).size();
+      EXPECT_TRUE(size.least <= written && written <= size.most + 512) << size.least << " " << size.most;
+      EXPECT_LE(size.most, size.least + 60 * size.cells);
+    }
+  }
 }
 
 TEST(Json, WhatAnAmortizationReturnsCanBeGivenAgain) {
