@@ -33,8 +33,12 @@ std::string NumberPattern::Format(double value) const {
 std::string NumberPattern::FormatFigure(double value) const {
   std::string text = Format(value);
   if (text.ends_with('.')) text.pop_back();
-  if (text.find_first_of("123456789") == std::string::npos && text.starts_with('-')) text.erase(0, 1);
+  DropMinusOfZero(text);
   return text;
+}
+
+void DropMinusOfZero(std::string& number) {
+  if (number.starts_with('-') && number.find_first_of("123456789") == std::string::npos) number.erase(0, 1);
 }
 
 }  // namespace amortix2

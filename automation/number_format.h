@@ -39,4 +39,7 @@ class NumberPattern {
   std::array<PatternSection, 3> sections_;  // for positive values, for negative values, for zero
 };
 
+/// Takes the minus sign off a number that rounding made zero.
+void DropMinusOfZero(std::string& number);
+
 }  // namespace amortix2

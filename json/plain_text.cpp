@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "amortix2/automation/conversion.h"
+#include "amortix2/automation/number_format.h"
 #include "amortix2/json/json_text.h"
 #include "amortix2/json/variant_writer.h"
 
@@ -54,7 +55,7 @@ std::optional<std::string> Fixed(double value, int decimals) {
       std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals)
           .ptr;
   std::string text(digits.data(), end);
-  if (text.find_first_of("123456789") == std::string::npos && text.starts_with('-')) text.erase(0, 1);
+  DropMinusOfZero(text);
   return text;
 }
 
