@@ -152,7 +152,7 @@ void SvgAxes::ChooseEvenRows(double room, double longest) {
     rows_.clear();
     for (std::int64_t row = 1; row <= table.Rows(); row += interval) {
       const auto at = static_cast<std::int32_t>(row);
-      AddRow(plot_.RowAt(at) - plot_.RowStart(), table.Label(at), width, lines);
+      AddRow(plot_.RowAt(at), table.Label(at), width, lines);
     }
   };
   if (plot_.IsHorizontal()) return addAll(Interval(kLineHeight, plot_.Pitch()), kLongestLabel, 1);
@@ -185,7 +185,7 @@ void SvgAxes::ChoosePlacedRows() {
     bool fits = true;
     double end = -plot_.RowLength();
     for (const AxisTick& tick : PlaceTicks(most)) {
-      const double at = plot_.PlaceAt(tick.value) - plot_.RowStart();
+      const double at = plot_.PlaceAt(tick.value);
       const double half = Extent(tick.text) / 2;
       if (!rows_.empty() && rows_.back().at == at) continue;  // two steps that fall on one row of bars
       fits = fits && at - half >= end;
@@ -195,7 +195,7 @@ void SvgAxes::ChoosePlacedRows() {
     if (fits && !rows_.empty()) return;
   }
   rows_.clear();  // hardly a round value in it: the first row stands for all
-  AddRow(plot_.RowAt(1) - plot_.RowStart(), input_.table.Label(1), kLongestLabel, 1);
+  AddRow(plot_.RowAt(1), input_.table.Label(1), kLongestLabel, 1);
 }
 
 void SvgAxes::MeasureRows() {

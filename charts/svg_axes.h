@@ -34,7 +34,7 @@ class SvgAxes {
 
  private:
   struct RowLabel {
-    double at;  // from the start of the rows' axis
+    double at;  // from the start of the rows' axis, where the plot stands while labels are settled
     std::vector<std::string> lines;
     std::string whole;  // what was cut; empty when nothing was
   };
