@@ -60,13 +60,11 @@ inline constexpr auto kHouseholdMembers = std::tuple{
             .comparison = {.current = {"vCurrGrid", -1}, .proposed = {"vGrid", 1}, .decides = kCostRow},
             .horizon = "vSellByDate",
         },
-        {kCurrBal.Titled("Balances").Says("Owed on each current loan, a list").Example("[8000, 12000, 5000]"),
-         kCurrPay.Titled("Monthly payments")
+        {kCurrBal.Says("Owed on each current loan, a list").Example("[8000, 12000, 5000]"),
+         kCurrPay
              .Says("Payment of each current loan a month; one below the interest: the whole debt, at once")
              .Example("[240, 380, 170]"),
-         kCurrRate.Titled("Interest rates")
-             .Says("Nominal rate of each current loan a year")
-             .Example("[18.9, 8.5, 12]"),
+         kCurrRate.Says("Nominal rate of each current loan a year").Example("[18.9, 8.5, 12]"),
          kIntRate.Named("vNewRate")
              .Titled("New rate")
              .Says("Nominal rate of the new loan a year")
