@@ -220,6 +220,8 @@ TEST(SvgChart, SeriesHaveTheirNamesAndColours) {
   Variant html, bars, lines;
   chart.DataTable(table, List({"", "", "Legend"}), "", html);
   chart.MakeChart(table, "", List({"", "red", "no colour", "#1a2b3c", "#ABC"}), "", "", "", "", bars);
+  Variant plot;
+  chart.MakeChart(table, "", List({"teal"}), "", "", "", "", plot);
   chart.LineChart(table, Table({{0, 0, 0}, {1, 2.9, 300}, {255, 16, -5}, {0, 0, 0}, {9, 10, 11}}), "", lines);
   const std::pair<const Variant*, const char*> cases[] = {
       {&html,
@@ -227,6 +229,7 @@ TEST(SvgChart, SeriesHaveTheirNamesAndColours) {
       {&bars, ".chart-series1{color:red}"},
       {&bars, ".chart-series3{color:#1a2b3c}"},
       {&bars, ".chart-series4{color:#ABC}"},
+      {&plot, ".chart-plot{fill:teal}"},
       {&lines, ".chart-series1{color:#0102ff}"},
       {&lines, ".chart-series2{color:#ff1000}"},
       {&lines, ".chart-series4{color:#090a0b}"}};
