@@ -234,6 +234,7 @@ TEST(SvgChart, SeriesHaveTheirNamesAndColours) {
       {&lines, ".chart-series2{color:#ff1000}"},
       {&lines, ".chart-series4{color:#090a0b}"}};
   for (const auto& [made, part] : cases) EXPECT_NE(made->GetString().find(part), std::string::npos) << part;
+  EXPECT_EQ(SeriesColour(8), (Rgb{0x08, 0x52, 0x9E}));  // the first one's again
 }
 
 TEST(SvgChart, WordsNameSeriesWhereThereAreSeveral) {

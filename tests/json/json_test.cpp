@@ -10,6 +10,7 @@
 #include <fstream>
 #include <set>
 
+#include "amortix2/json/csv.h"
 #include "amortix2/json/description_json.h"
 #include "amortix2/json/json_text.h"
 #include "amortix2/json/reply.h"
@@ -119,6 +120,24 @@ TEST(Json, BytesAreWrittenInBase64) {
     std::string out;
     AppendBase64(out, bytes);
     EXPECT_EQ(out, expected);
+  }
+}
+
+TEST(Json, RecordsOfCsvEndWithTheirLinesOrQuotes) {
+  const std::string longest(kLongestRecord, 'x');
+  const struct {
+    std::string text;
+    std::size_t length, ofAll;  // where more may follow, and where it is all
+  } rows[] = {{"a,b\r\nc", 5, 5},
+              {"a", 0, 1},
+              {"\"a\n\"\"\",b\nc", 9, 9},
+              {"a,\"b\nc\nd", 0, 5},
+              {"a\"b\nc", 4, 4},
+              {longest + "x", 0, kLongestRecord + 1},
+              {"\"" + longest + "\"\n", kLongestRecord + 3, kLongestRecord + 3}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(CsvRecordLength(row.text, false), row.length) << row.text.substr(0, 20);
+    EXPECT_EQ(CsvRecordLength(row.text, true), row.ofAll) << row.text.substr(0, 20);
   }
 }
 
