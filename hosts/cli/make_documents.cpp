@@ -1,5 +1,5 @@
-// Writes the files that are made from the component's description, and the pictures of its documents, to a
-// folder, as they stand in the project; run in the project's own folder, where the pictures' requests are:
+// Writes the files that are made from the component's description, and the charts of its documents, to a
+// folder, as they stand in the project; run in the project's own folder, where the charts' requests are:
 //
 //   amortix2_documents .
 
@@ -11,6 +11,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "amortix2/automation/date.h"
@@ -22,6 +23,8 @@
 
 namespace {
 
+namespace json = amortix2::json;
+
 void Write(const std::filesystem::path& path, const std::string& text) {
   std::filesystem::create_directories(path.parent_path());
   std::ofstream file;
@@ -30,17 +33,37 @@ void Write(const std::filesystem::path& path, const std::string& text) {
   file << text << std::flush;
 }
 
-// A line is a request of a picture, whose id is the name of its file.
-void WritePictures(const std::filesystem::path& folder) {
-  namespace json = amortix2::json;
-  const amortix2::FixedClock clock(amortix2::MakeDate(2026, 12, 1));  // which no picture shows
-  std::ifstream requests("docs/images/pictures.jsonl");
-  if (!requests) throw std::runtime_error("docs/images/pictures.jsonl is not here");
+// The answers to the requests of a file, a line each, by their ids.
+std::vector<std::pair<std::string, json::Tree>> Charts(const std::string& file) {
+  const amortix2::FixedClock clock(amortix2::MakeDate(2026, 12, 1));  // which no chart shows
+  std::ifstream requests(file);
+  if (!requests) throw std::runtime_error(file + " is not here");
+  std::vector<std::pair<std::string, json::Tree>> charts;
   for (std::string request; std::getline(requests, request);) {
     const json::Tree reply = json::ParseTree(json::Answer(request, {}, clock)).tree.value();
-    Write(folder / "docs/images" / (reply.at("id").get<std::string>() + ".svg"),
-          reply.at("results").at("vRes").get<std::string>() + '\n');
+    charts.emplace_back(reply.at("id").get<std::string>(), reply.at("results").at("vRes"));
   }
+  return charts;
+}
+
+void WritePictures(const std::filesystem::path& folder) {
+  for (const auto& [name, picture] : Charts("docs/images/pictures.jsonl")) {
+    Write(folder / "docs/images" / (name + ".svg"), picture.get<std::string>() + '\n');
+  }
+}
+
+void WriteBars(const std::filesystem::path& folder) {
+  std::string page =
+      "<!DOCTYPE html>\n<html lang=\"en\">\n<meta charset=\"utf-8\">\n<title>Bar charts</title>\n"
+      "<link rel=\"stylesheet\" href=\"../../examples/pages/amortix2-chart.css\">\n<h1>Bar charts</h1>\n";
+  for (const auto& [title, lines] : Charts("docs/images/bars.jsonl")) {
+    page += "<h2>" + title + "</h2>\n<div class=\"amortix2-chart\">\n";
+    for (const json::Tree& line : lines) {
+      if (line.is_string()) page += line.get<std::string>() + '\n';
+    }
+    page += "</div>\n";
+  }
+  Write(folder / "docs/images/bars.html", page + "</html>\n");
 }
 
 }  // namespace
@@ -56,6 +79,7 @@ int main(int count, char** arguments) try {
   for (const std::string_view command : kCommands) usage.push_back({command, HelpOf(std::string(command))});
   const std::filesystem::path folder = arguments[1];
   WritePictures(folder);
+  WriteBars(folder);
   Write(folder / "docs/calculators.md", CalculatorsGuide());
   Write(folder / "docs/chart_reference.md", ChartReference());
   Write(folder / "packaging/amortix2.1", ManualPage(AMORTIX2_VERSION, usage));
