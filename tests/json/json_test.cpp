@@ -164,6 +164,16 @@ TEST(Json, StrangersAreKeptWithinLimits) {
     EXPECT_EQ(Answer(row[0], {.notes = true, .strangers = true}, kClock), row[1]) << row[0];
     EXPECT_NE(Answer(row[0], {.notes = true}, kClock), row[1]);
   }
+  // Just within them: twenty loans, and 360 payments of the first.
+  const auto twenty = [](const std::string& first, const std::string& other) {
+    std::string list = "[" + first;
+    for (int i = 1; i < 20; ++i) list += "," + other;
+    return list + "]";
+  };
+  const std::string loans = R"({"call":"Calculator.LoanConsolidationCalculator","args":{"vCurrBal":)" +
+                            twenty("3600", "1") + R"(,"vCurrPay":)" + twenty("10", "1") + R"(,"vCurrRate":)" +
+                            twenty("0", "0") + R"(,"vNewTerm":12}})";
+  EXPECT_TRUE(Answer(loans, {.strangers = true}, kClock).starts_with(R"({"results":)"));
   std::string longest = R"({"call":"Calculator.SimpleLoanCalculator","only":["vTotPay"]})";
   longest.resize(kLongestStrangersRequest, ' ');
   EXPECT_EQ(Answer(longest, {.strangers = true}, kClock), R"({"results":{"vTotPay":0}})");
