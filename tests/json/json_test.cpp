@@ -155,6 +155,12 @@ TEST(Json, RequestsGetTheirReplies) {
     EXPECT_EQ(Answer(row[0], {}, kClock), row[1]) << row[0];
     EXPECT_EQ(Answer(row[0], {Form::WithTypes}, kClock), row.back()) << row[0];
   }
+  // A note is made of a table that nobody asked for: 30 payments of 3000 at 1 % a month, rounded down.
+  EXPECT_EQ(Answer(R"({"call":"Calculator.SimpleLoanCalculator","only":["vResPayment"],)"
+                   R"("args":{"vPurchaseAmt":3000,"vPeriod":30,"vIntRate":12}})",
+                   {.notes = true}, kClock),
+            R"({"results":{"vResPayment":116.24},"notes":[{"code":"last-balance","parameter":"vDetArray",)"
+            R"("text":"vDetArray: Rounding leaves a last balance of 0.15."}]})");
 }
 
 TEST(Json, StrangersAreKeptWithinLimits) {
