@@ -413,6 +413,8 @@ TEST(SvgChart, SettingsAndTheirLimits) {
   const SvgBar bar = BarsOf(Bars(small, one, kMissing)).front();
   EXPECT_EQ(bar.height, 40);
   EXPECT_EQ(BarsOf(Bars(small, one, "HZ")).front().width, 60);
+  const auto grown = BarsOf(Bars(small, Numbers(1000, 1, [](int, int) { return 1.0; }), "HZ"));
+  EXPECT_NEAR(grown.back().y - grown.front().y, 4000 * 0.999, 0.01);  // a row less than they may take
   const auto names = [](int count) {
     return Bars(SvgChart(), Numbers(1, count, [](int, int) { return 1.0; }), "");
   };
