@@ -183,6 +183,9 @@ TEST(SvgChart, RowsStandAtTheirNumbersAndDates) {
     EXPECT_NEAR((points[1].first - start.first) / (end.first - start.first), 0.25, 1e-3);
     EXPECT_NEAR((points[2].first - start.first) / (end.first - start.first), 0.5, 1e-3);
     EXPECT_NEAR((points[2].second - start.second) / (end.second - start.second), 2.0 / 3, 1e-3);
+    Variant words;
+    chart.AlternativeText(table, "", "", words);  // as the page has them
+    EXPECT_NE(words.GetString().find(", last $3 ("), std::string::npos) << words.GetString();
   }
 }
 
@@ -300,6 +303,7 @@ TEST(SvgChart, ThinningKeepsExtremes) {
        {Lines(chart, table), Bars(chart, table, kMissing), Bars(chart, table, "ST")}) {
     EXPECT_LT(svg.size(), 150000u);
   }
+  EXPECT_EQ(BarsOf(Bars(SvgChart(), Numbers(500, 1, [](int, int) { return 1.0; }), "")).size(), 380U);
   const auto bars = BarsOf(Bars(chart, table, kMissing));
   const auto value = [](const SvgBar& bar) { return bar.Value(); };
   EXPECT_EQ(std::ranges::max(bars, {}, value).title, "r4321: 900");
