@@ -195,6 +195,19 @@ TEST(Json, StrangersAreKeptWithinLimits) {
   };
   EXPECT_NE(chart(260).find("a text is too long for so many cells"), std::string::npos);
   EXPECT_TRUE(chart(259).starts_with(R"({"results":{"vTop":)")) << chart(259);
+  // Five bytes for each "&", in the label, the name and the value of 60 bars, and once more in the words.
+  const auto drawn = [](std::size_t length) {
+    const std::string text(length, '&');
+    std::string request = R"({"call":"SvgChart.MakeChart","with":{"AltLabelWithLegend":1,"AltFormatStr":"\")";
+    request += text + R"(\""},"args":{"blnk":"","Colgif":"","Colleg":"","Ttl":"","Xaxis":"","Yaxis":"",)" +
+               R"("vColDat":[["",")" + text + "\"]";
+    for (int i = 0; i < 60; ++i) request += ",[\"" + text + "\",1]";
+    return Answer(request + "]}}", {.strangers = true}, kClock);
+  };
+  EXPECT_TRUE(drawn(2600).starts_with(R"({"results":)"));
+  EXPECT_EQ(
+      drawn(3800),
+      R"({"error":{"number":7,"name":"OutOfMemory","message":"the answer is longer than 4194304 bytes"}})");
 }
 
 // So close that nothing is set aside in vain, and an answer that is too long is not written at all.
