@@ -183,6 +183,8 @@ TEST(SvgChart, RowsStandAtTheirNumbersAndDates) {
     EXPECT_NEAR((points[1].first - start.first) / (end.first - start.first), 0.25, 1e-3);
     EXPECT_NEAR((points[2].first - start.first) / (end.first - start.first), 0.5, 1e-3);
     EXPECT_NEAR((points[2].second - start.second) / (end.second - start.second), 2.0 / 3, 1e-3);
+    const auto single = PointsOf(Lines(chart, Table({{"", ""}, {table.At(1, 0), 1}})));
+    EXPECT_NEAR(single.front().first, (start.first + end.first) / 2, 10);  // beside narrower labels
     Variant words;
     chart.AlternativeText(table, "", "", words);  // as the page has them
     EXPECT_NE(words.GetString().find(", last $3 ("), std::string::npos) << words.GetString();
@@ -269,10 +271,10 @@ TEST(SvgChart, BarsOverlapByTheirCountAndAreThinnedToFiftyBands) {
   SvgChart stacks;
   stacks.ValueLabelMode("on");
   stacks.NegativeBars(1);
+  stacks.AltFormatStr("0.00");
   const std::string svg =
-      Bars(stacks, Table({{"", 0, 0}, {"A", 10, 20}, {"B", -4, -5}, {"C", -40, 0}}), "ST");
-  EXPECT_NE(PlaceOf("\\$30", svg), Point());
-  EXPECT_NE(PlaceOf("-\\$9", svg), Point());
+      Bars(stacks, Table({{"", 0, 0}, {"A", 10, 20}, {"B", -4, -5}, {"C", -40, 0}, {"D", 0.5, 0.25}}), "ST");
+  for (const char* total : {"30.00", "-9.00", "0.75"}) EXPECT_NE(PlaceOf(total, svg), Point()) << total;
 }
 
 TEST(SvgChart, LinesHaveMarkersOfFourShapesAndDotsForSinglePoints) {
