@@ -230,11 +230,11 @@ Interest rate                  10.000
        "vStepY=1 --csv vGrid",
        0, "Interest rate,12000.00,24000.00,36000.00\r\n0.000,9000,8000,7000\r\n", ""},
       // What the reversed style turned round; numbers without a unit have their column's decimals.
-      {R"(call BarChart.MakeChart 'vColDat=[["",0,0],["a",1.5,20],["b",2.25,3],["c",{"type":"Byte","value":4},5]]' )"
+      {R"(call BarChart.MakeChart 'vColDat=[["",0,0],["a",1.5,20],["b",12.25,3],["c",{"type":"Byte","value":4},5]]' )"
        R"('Colgif=["","",""]' 'Colleg=["","",""]' 'Ttl=["","",""]' blnk= Xaxis= Yaxis= typ=SR --only vColDat)",
        0,
-       "vColDat: Data (rows 0 to 3)\n   0   1     2\n0      0  0.00\n1  a  20  1.50\n2  b   3  2.25\n"
-       "3  c   5  4.00\n",
+       "vColDat: Data (rows 0 to 3)\n   0   1      2\n0      0   0.00\n1  a  20   1.50\n2  b   3  12.25\n"
+       "3  c   5   4.00\n",
        ""},
       {chart + " --csv vColDat", 0, "0,1\r\n,\r\na,1\r\n", ""},
       {"batch", 0, "", ""},

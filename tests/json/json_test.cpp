@@ -13,6 +13,7 @@
 #include "amortix2/json/csv.h"
 #include "amortix2/json/description_json.h"
 #include "amortix2/json/json_text.h"
+#include "amortix2/json/lookup.h"
 #include "amortix2/json/reply.h"
 #include "amortix2/json/reply_size.h"
 #include "amortix2/json/request_error.h"
@@ -139,6 +140,15 @@ TEST(Json, RecordsOfCsvEndWithTheirLinesOrQuotes) {
     EXPECT_EQ(CsvRecordLength(row.text, false), row.length) << row.text.substr(0, 20);
     EXPECT_EQ(CsvRecordLength(row.text, true), row.ofAll) << row.text.substr(0, 20);
   }
+}
+
+// Up to a third of the letters, and one, may be put in, left out or changed.
+TEST(Json, TheNearestNameIsSuggested) {
+  constexpr std::string_view kNames[] = {"vPayment", "vPeriod", "vIntRate"};
+  const std::pair<const char*, const char*> rows[] = {
+      {"VPER", "vPeriod"}, {"dPerioz", "vPeriod"}, {"vPrdxx", ""},           {"vPerd", "vPeriod"},
+      {"vPrd", ""},        {"IntRat", "vIntRate"}, {"vaPerioxd", "vPeriod"}, {"", ""}};
+  for (const auto& [asked, closest] : rows) EXPECT_EQ(Closest(asked, kNames), closest) << asked;
 }
 
 TEST(Json, DepthIsBounded) {
