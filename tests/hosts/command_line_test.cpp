@@ -229,6 +229,9 @@ Interest rate                  10.000
        "vDownChange=12000 "
        "vStepY=1 --csv vGrid",
        0, "Interest rate,12000.00,24000.00,36000.00\r\n0.000,9000,8000,7000\r\n", ""},
+      // The line before the first has a date and a balance; of the last column nothing is said.
+      {"call LoadSaveDetArray save='{}' atCol=1 lastRow=0 detArray='[[1,2,3,4,5,6,7]]' --csv detArray", 0,
+       "Date,Deposit,Interest,Growth,Balance,6\r\n12-30-1899,3,4,5,0,7\r\n", ""},
       // What the reversed style turned round; numbers without a unit have their column's decimals.
       {R"(call BarChart.MakeChart 'vColDat=[["",0,0],["a",1.5,20],["b",12.25,3],["c",{"type":"Byte","value":4},5]]' )"
        R"('Colgif=["","",""]' 'Colleg=["","",""]' 'Ttl=["","",""]' blnk= Xaxis= Yaxis= typ=SR --only vColDat)",

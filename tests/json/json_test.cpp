@@ -135,7 +135,8 @@ TEST(Json, RecordsOfCsvEndWithTheirLinesOrQuotes) {
               {"a,\"b\nc\nd", 0, 5},
               {"a\"b\nc", 4, 4},
               {longest + "x", 0, kLongestRecord + 1},
-              {"\"" + longest + "\"\n", kLongestRecord + 3, kLongestRecord + 3}};
+              {"\"" + longest + "\"\n", kLongestRecord + 3, kLongestRecord + 3},
+              {"\"a\n" + std::string(kLongestRecord - 3, 'x'), 0, 3}};
   for (const auto& row : rows) {
     EXPECT_EQ(CsvRecordLength(row.text, false), row.length) << row.text.substr(0, 20);
     EXPECT_EQ(CsvRecordLength(row.text, true), row.ofAll) << row.text.substr(0, 20);
