@@ -272,9 +272,11 @@ TEST(SvgChart, BarsOverlapByTheirCountAndAreThinnedToFiftyBands) {
   stacks.ValueLabelMode("on");
   stacks.NegativeBars(1);
   stacks.AltFormatStr("0.00");
-  const std::string svg =
-      Bars(stacks, Table({{"", 0, 0}, {"A", 10, 20}, {"B", -4, -5}, {"C", -40, 0}, {"D", 0.5, 0.25}}), "ST");
+  const std::string svg = Bars(
+      stacks, Table({{"", 0, 0}, {"A", 10, 20}, {"B", -4, -5}, {"C", -40, 0}, {"D", 0.5, 0.25}, {"E", 0, 0}}),
+      "ST");
   for (const char* total : {"30.00", "-9.00", "0.75"}) EXPECT_NE(PlaceOf(total, svg), Point()) << total;
+  EXPECT_EQ(PlaceOf("0.00", svg), Point());
 }
 
 TEST(SvgChart, LinesHaveMarkersOfFourShapesAndDotsForSinglePoints) {
