@@ -226,7 +226,8 @@ TEST(SvgChart, SeriesHaveTheirNamesAndColours) {
   chart.DataTable(table, List({"", "", "Legend"}), "", html);
   chart.MakeChart(table, "", List({"", "red", "no colour", "#1a2b3c", "#ABC"}), "", "", "", "", bars);
   Variant plot;
-  chart.MakeChart(table, "", List({"teal"}), "", "", "", "", plot);
+  chart.MakeChart(table, "", List({"teal", "", "", "", "", "lime"}), "", "", "", "", plot);
+  EXPECT_EQ(plot.GetString().find("lime"), std::string::npos);  // of no series
   chart.LineChart(table, Table({{0, 0, 0}, {1, 2.9, 300}, {255, 16, -5}, {0, 0, 0}, {9, 10, 11}}), "", lines);
   const std::pair<const Variant*, const char*> cases[] = {
       {&html,
