@@ -18,7 +18,8 @@ inline constexpr double kLineHeight = 15;
 
 class SvgAxes {
  public:
-  /// Settles the labels for a plot of this size, wherever it is moved to later. Keeps references to both.
+  /// Settles the labels for a plot of this size that still stands at 0, 0, wherever it is moved to later.
+  /// Keeps references to both.
   SvgAxes(const SvgInput& input, const SvgPlot& plot);
 
   // The room that labels take around the plot.
@@ -34,7 +35,7 @@ class SvgAxes {
 
  private:
   struct RowLabel {
-    double at;  // from the start of the rows' axis, where the plot stands while labels are settled
+    double at;  // from the start of the rows' axis
     std::vector<std::string> lines;
     std::string whole;  // what was cut; empty when nothing was
   };

@@ -436,22 +436,6 @@ TEST(SvgChart, SettingsAndTheirLimits) {
     EXPECT_FALSE(isColour(text)) << text;
 }
 
-// In 380 pixels: points of lines can be pointed at from 4 pixels a row on, long labels slant from 16 on.
-TEST(SvgChart, WhatHasNoRoomIsLeftOut) {
-  const auto rows = [](std::int32_t count) {
-    Array table = Numbers(count, 1, [](int row, int) { return 1.0 * row; });
-    for (std::int32_t row = 1; row <= count; ++row) table.At(row, 0) = "Household number one and two";
-    return table;
-  };
-  const auto has = [](const std::string& svg, const char* part) {
-    return svg.find(part) != std::string::npos;
-  };
-  EXPECT_TRUE(has(Lines(SvgChart(), rows(95)), "<circle"));
-  EXPECT_FALSE(has(Lines(SvgChart(), rows(97)), "<circle"));
-  EXPECT_TRUE(has(Bars(SvgChart(), rows(23), ""), "rotate(-45"));
-  EXPECT_FALSE(has(Bars(SvgChart(), rows(24), ""), "rotate(-45"));
-}
-
 // 1 to 6, or ten, a hundred, ... times that.
 TEST(SvgChart, RowsAreLabelledAtFamiliarIntervals) {
   static const std::regex kLabel("<text x=\"[^\"]*\" y=\"[^\"]*\" text-anchor=\"middle\">([0-9]+)</text>");

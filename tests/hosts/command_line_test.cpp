@@ -213,16 +213,10 @@ Cost in today's money       1200.00              1200.00        0.00
        "vEndBal  5200.00  Balance at the end\n", ""},
       // 1100 + 100, 1320 + 100, less a quarter.
       {"call retirement vStartDate=2027-01-01 vTyp=T vCurrBal=1000 vPayment=100 vPeriod=2 vIntRate=10 "
-       "vIncTaxRate=25 --only vGrid",
+       "vIncTaxRate=25 --csv vGrid",
        0,
-       R"(vGrid: The account (elements 1 to 6)
-Balance at the start           1000.00
-Contribution each year         100.00
-Balance at the end before tax  1420.00
-Balance at the end after tax   1065.00
-End of the plan                2029-01-01
-Interest rate                  10.000
-)",
+       ",The account\r\nBalance at the start,1000\r\nContribution each year,100\r\nBalance at the end before "
+       "tax,1420\r\nBalance at the end after tax,1065\r\nEnd of the plan,2029-01-01\r\nInterest rate,10\r\n",
        ""},
       // 120000 less 12000, 24000 or 36000 in cash, over a year without interest.
       {"call PaymentGridCalculator vPrincipal=120000 vDownPayment=24000 vPeriod=12 vIntRate=0 "
